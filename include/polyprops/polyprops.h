@@ -1,0 +1,301 @@
+/* The exported routines of libpolyprops. Made by scripts/generate.py from src/exports/routines.toml; do not edit.
+ *
+ * Every argument is an address. Integers are 64-bit, reals are doubles; arrays and component indices count from 1,
+ * matrices are column-major with the leading dimension first. Argument lines read
+ *   NAME(shape)  direction  meaning [unit]
+ * with the shapes "component" (by component index 1..NC), "segment" (by position in the host's segment list) and
+ * "*" (as far as the routine's rule reaches). Work arguments are undefined afterwards; unused ones are never read
+ * and may be null. No routine reports an error unless it says so: values that cannot be used fall back as its notes
+ * tell. A parameter or a molecular weight without further words is the host's pure-component parameter.
+ *
+ * The loading process defines the names of polyprops/host.h.
+ */
+#ifndef POLYPROPS_POLYPROPS_H
+#define POLYPROPS_POLYPROPS_H
+
+#include <stdint.h>
+
+#if defined(__GNUC__)
+#define POLYPROPS_API __attribute__((visibility("default")))
+#else
+#define POLYPROPS_API
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ---- chain averages ------------------------------------------------------------------------------------ */
+
+/* Number-average degree of polymerization (segments per chain) of listed components.
+ *
+ *   DPN(i) = max(1, F / Z) for a polymer without a "DPN" attribute
+ *   F = FMOM, else Σ SFLOW(s) over s = 1..NSEG
+ *   Z = ZMOM, else 0.5 Σ SFLOW(e) over e = 1..min(NEND, NSEG)
+ *
+ *   SEL     in      attribute selector, passed on to the host's attribute search
+ *   N       in      number of listed components
+ *   IDX(N)  in      component index of each entry
+ *   DPN(N)  out     segments per chain, by position [1]
+ *
+ * - Without a polymer block, or with neither polymers (by the polymer count of the host) nor oligomers in the
+ *   run, every entry is its DPN parameter as it stands, also below 1; 1.0 when the parameter vector does not
+ *   exist. In every other case no result is below 1.0.
+ * - A polymer that carries "DPN": the attribute when 1.0 < value < missing-value bound, otherwise the DPN
+ *   parameter; its moments are then not consulted, and exactly 1.0 is not usable.
+ * - A polymer without "DPN": 1.0 unless both Z and F are above the zero bound.
+ * - The estimate of Z without "ZMOM" takes SFLOW at the entry numbers of the end-segment list: it is half the
+ *   flow of the end segments when these lead the segment list.
+ * - An attribute that the polymer does not carry counts as 0.
+ * - An oligomer whose DPN parameter is within 1e-10 of 1: its segment count from the oligomer list, if it is
+ *   in that list. Any other oligomer, and a conventional component: the DPN parameter.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETDPN(const int64_t* sel, const int64_t* n, const int64_t* idx, double* dpn);
+
+/* Number-average degree of polymerization from a segment-count matrix.
+ *
+ *   DPN(i) = Σ_m SCM(j, ISEG(m)) for a flagged component j = IDX(i), SCM(j, 1) otherwise
+ *
+ *   LD                in      leading dimension of SCM
+ *   NSEG              in      number of segments; below 1 every sum is 0
+ *   ISEG(NSEG)        in      component index of each segment
+ *   SCM(LD,*)         in      segments of component k per molecule of j [1]
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   DPN(N)            out     segments per chain, by position [1]
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *
+ * - Reads nothing but its arguments.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETDPN1(const int64_t* ld, const int64_t* nseg, const int64_t* iseg,
+                                const double* scm, const int64_t* n, const int64_t* idx, double* dpn,
+                                const int64_t* iflag);
+
+/* Number-average degree of polymerization from a segment-count matrix; the same as POLY_GETDPN1.
+ *
+ *   DPN(i) = Σ_m SCM(j, ISEG(m)) for a flagged component j = IDX(i), SCM(j, 1) otherwise
+ *
+ *   LD                in      leading dimension of SCM
+ *   NSEG              in      number of segments; below 1 every sum is 0
+ *   ISEG(NSEG)        in      component index of each segment
+ *   SCM(LD,*)         in      segments of component k per molecule of j [1]
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   DPN(N)            out     segments per chain, by position [1]
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *
+ * - Reads nothing but its arguments.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETDPN2(const int64_t* ld, const int64_t* nseg, const int64_t* iseg,
+                                const double* scm, const int64_t* n, const int64_t* idx, double* dpn,
+                                const int64_t* iflag);
+
+/* Mean segment molecular weight of listed components.
+ *
+ *   MRF(i) = Σ MW(s) f(s) / Σ f(s) for a polymer, f = SFRAC, else SFLOW
+ *   MRF(i) = Σ MW(s) count(s, k) / Σ count(s, k) for the k-th oligomer of the run
+ *
+ *   SEL     in      attribute selector, passed on to the host's attribute search
+ *   N       in      number of listed components
+ *   IDX(N)  in      component index of each entry
+ *   MRF(N)  out     molecular weight per segment, by position [g/mol]
+ *
+ * - Without a polymer block, or with neither polymers nor oligomers in the run, every entry is its molecular
+ *   weight; so is a component that is neither a polymer nor in the oligomer list.
+ * - A polymer that carries "MWSEG" with 1.0 < value < missing-value bound: that value.
+ * - f is SFLOW only when the offset of "SFRAC" is exactly 0. An element of f at or above the missing-value
+ *   bound counts as 1/NSEG; an attribute that is not carried counts as 0.
+ * - Σ f(s) at or below the zero bound: the plain mean of the segment molecular weights. NSEG = 0: the polymer
+ *   keeps its molecular weight.
+ * - A polymer whose value came from f and that also stands in the oligomer list takes the value of the
+ *   oligomer.
+ * - An oligomer whose counts do not sum to more than 0: Σ MW(s) count(s, k), undivided.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETMRF(const int64_t* sel, const int64_t* n, const int64_t* idx, double* mrf);
+
+/* Number-average molecular weight of listed components.
+ *
+ *   MWN(i) = DPN(i) MRF(i) for a polymer or oligomer, the molecular weight otherwise
+ *
+ *   SEL     in      attribute selector, passed on to the host's attribute search
+ *   N       in      number of listed components
+ *   IDX(N)  in      component index of each entry
+ *   MWN(N)  out     number-average molecular weight, by position [g/mol]
+ *
+ * - DPN and MRF as POLY_GETDPN and POLY_GETMRF give them, with all their fallbacks.
+ * - Without a polymer block every entry is its molecular weight.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETMWN(const int64_t* sel, const int64_t* n, const int64_t* idx, double* mwn);
+
+/* Number-average molecular weight from a segment-count matrix.
+ *
+ *   MWN(i) = Σ_m MW(ISEG(m)) SCM(j, ISEG(m)) for a flagged component j = IDX(i), MW(j) otherwise
+ *
+ *   LD                in      leading dimension of SCM
+ *   MW(component)     in      molecular weights, segments included [g/mol]
+ *   NSEG              in      number of segments; below 1 every sum is 0
+ *   ISEG(NSEG)        in      component index of each segment
+ *   SCM(LD,*)         in      segments of component k per molecule of j [1]
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   MWN(N)            out     number-average molecular weight, by position [g/mol]
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *
+ * - Reads nothing but its arguments.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETMWN1(const int64_t* ld, const double* mw, const int64_t* nseg, const int64_t* iseg,
+                                const double* scm, const int64_t* n, const int64_t* idx, double* mwn,
+                                const int64_t* iflag);
+
+/* Number-average molecular weight of listed components straight from segment flows and zeroth moment.
+ *
+ *   MRT(i) = Σ MW(s) SFLOW(s) / ZMOM for a polymer, the molecular weight otherwise
+ *
+ *   SEL     in      attribute selector, passed on to the host's attribute search
+ *   N       in      number of listed components
+ *   IDX(N)  in      component index of each entry
+ *   MRT(N)  out     number-average molecular weight, by position [g/mol]
+ *
+ * - Without a polymer block or without polymers in the run every entry is its molecular weight; so are
+ *   oligomers.
+ * - A polymer keeps its molecular weight unless it carries "ZMOM", zero bound < ZMOM < missing-value bound
+ *   and Σ MW(s) SFLOW(s) > zero bound. "SFLOW" not carried counts as 0.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETMRT(const int64_t* sel, const int64_t* n, const int64_t* idx, double* mrt);
+
+/* Weight-average molecular weight of listed components.
+ *
+ *   MWW(i) = PDI(i) MWN(i) for a polymer or oligomer, PDI parameter × molecular weight otherwise
+ *
+ *   SEL     in      attribute selector, passed on to the host's attribute search
+ *   N       in      number of listed components
+ *   IDX(N)  in      component index of each entry
+ *   MWW(N)  out     weight-average molecular weight, by position [g/mol]
+ *
+ * - PDI and MWN as POLY_GETPDI and POLY_GETMWN give them, with all their fallbacks.
+ * - Without the PDI parameter vector a PDI parameter is 1.0.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETMWW(const int64_t* sel, const int64_t* n, const int64_t* idx, double* mww);
+
+/* Polydispersity index (weight-average over number-average molecular weight) of listed components.
+ *
+ *   PDI(i) = (SMOM / F) / (F / ZMOM) = SMOM ZMOM / F² for a polymer, the PDI parameter otherwise
+ *   F = Σ SFLOW(s) over s = 1..NSEG; FMOM is not read
+ *
+ *   SEL     in      attribute selector, passed on to the host's attribute search
+ *   N       in      number of listed components
+ *   IDX(N)  in      component index of each entry
+ *   PDI(N)  out     polydispersity index, by position [1]
+ *
+ * - Without the PDI parameter vector a PDI parameter is 1.0.
+ * - Without a polymer block, without polymers in the run, or with the host's PDI mode at 100, every entry is
+ *   its PDI parameter; so are oligomers.
+ * - A polymer keeps its PDI parameter unless it carries "SMOM" and "ZMOM", zero bound < ZMOM < missing-value
+ *   bound, and both F and Σ MW(s) SFLOW(s) are at or above the zero bound. "SFLOW" not carried counts as 0.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETPDI(const int64_t* sel, const int64_t* n, const int64_t* idx, double* pdi);
+
+/* Segment mole fractions of a polymer or oligomer.
+ *
+ *   SMF(s) = v(s) / Σ v
+ *   v = SFRAC, else SFLOW of a polymer; segment counts of an oligomer
+ *
+ *   SEL           in      attribute selector, passed on to the host's attribute search
+ *   C             in      component index
+ *   SMF(segment)  out     mole fraction of each segment [1]
+ *
+ * - SMF stays untouched without a polymer block, without segments, with neither polymers nor oligomers in the
+ *   run, and for a component that is neither a polymer nor in the oligomer list.
+ * - v is SFLOW only when the offset of "SFRAC" is exactly 0. An element of a polymer at or above the
+ *   missing-value bound counts as 0; so does every element of an attribute that is not carried.
+ * - Equal shares 1/NSEG: a polymer whose sum is at or below the zero bound, an oligomer whose sum is exactly
+ *   0.
+ */
+POLYPROPS_API void POLY_GETSMF(const int64_t* sel, const int64_t* c, double* smf);
+
+/* Segment mass fractions of a polymer or oligomer.
+ *
+ *   SWF(s) = v(s) / Σ v
+ *   v = SFLOW(s) MW(s) of a polymer; MW(s) × segment count of an oligomer
+ *
+ *   SEL           in      attribute selector, passed on to the host's attribute search
+ *   C             in      component index
+ *   SWF(segment)  out     mass fraction of each segment [1]
+ *
+ * - SWF stays untouched without a polymer block, without segments, with neither polymers nor oligomers in the
+ *   run, and for a component that is neither a polymer nor in the oligomer list.
+ * - "SFRAC" is not read. A product v(s) of a polymer at or above the missing-value bound counts as 0; so does
+ *   every element of an "SFLOW" that is not carried.
+ * - Equal shares 1/NSEG: a polymer whose sum is at or below the zero bound, an oligomer whose sum is exactly
+ *   0.
+ */
+POLYPROPS_API void POLY_GETSWF(const int64_t* sel, const int64_t* c, double* swf);
+
+/* Segment mass fractions of listed components, one column each.
+ *
+ *   SWF(s, i) = the mass fraction of segment s in component IDX(i), as POLY_GETSWF gives it
+ *
+ *   SEL        in      attribute selector, passed on to the host's attribute search
+ *   N          in      number of listed components
+ *   LD         in      leading dimension of SWF, at least the number of segments
+ *   IDX(N)     in      component index of each entry
+ *   SWF(LD,N)  out     mass fractions by segment position; column i belongs to entry i [1]
+ *
+ * - A component for which POLY_GETSWF writes nothing leaves its column untouched; rows beyond the number of
+ *   segments stay untouched.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_SWFVEC(const int64_t* sel, const int64_t* n, const int64_t* ld, const int64_t* idx,
+                               double* swf);
+
+/* Segment mole fractions of one row of a segment-count matrix.
+ *
+ *   SMF(m) = c(m) / Σ c, c(m) = SCM(K, ISEG(m))
+ *
+ *   K           in      component index: the row of SCM
+ *   LD          in      leading dimension of SCM
+ *   SCM(LD,*)   in      segments of component k per molecule of j [1]
+ *   NSEG        in      number of segments
+ *   ISEG(NSEG)  in      component index of each segment
+ *   SMF(NSEG)   out     mole fraction of each segment, in the order of ISEG [1]
+ *
+ * - Reads its arguments and the zero bound; any row K is taken, flagged as a polymer or not.
+ * - Σ c at or below the zero bound: equal shares 1/NSEG.
+ * - NSEG < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETSMF1(const int64_t* k, const int64_t* ld, const double* scm, const int64_t* nseg,
+                                const int64_t* iseg, double* smf);
+
+/* Segment mass fractions of one row of a segment-count matrix.
+ *
+ *   SWF(m) = w(m) / Σ w, w(m) = MW(ISEG(m)) SCM(K, ISEG(m))
+ *
+ *   K              in      component index: the row of SCM
+ *   LD             in      leading dimension of SCM
+ *   MW(component)  in      molecular weights, segments included [g/mol]
+ *   SCM(LD,*)      in      segments of component k per molecule of j [1]
+ *   NSEG           in      number of segments
+ *   ISEG(NSEG)     in      component index of each segment
+ *   SWF(NSEG)      out     mass fraction of each segment, in the order of ISEG [1]
+ *
+ * - Reads its arguments and the zero bound; any row K is taken, flagged as a polymer or not.
+ * - Σ w at or below the zero bound: equal shares 1/NSEG.
+ * - NSEG < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETSWF1(const int64_t* k, const int64_t* ld, const double* mw, const double* scm,
+                                const int64_t* nseg, const int64_t* iseg, double* swf);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,1 @@
+"""The table of the exported routines and what is made from it."""
