@@ -1,0 +1,123 @@
+// Molecular-weight averages of listed components.
+//
+//   Mn  = DPN · MRF              segments per chain × mean segment weight              [g/mol]
+//   Mn  = Σ MW(s) · SCM(j, s)    from a segment-count matrix
+//   MRT = Σ MW(s) · SFLOW(s) / Z segment mass flow over the amount of chains           [g/mol]
+//   PDI = S · Z / F²             Z chains, F segments (always Σ SFLOW), S second moment
+//   Mw  = PDI · Mn
+#include "chain/molecular_weight.h"
+
+#include "chain/listed.h"
+#include "polyprops/polyprops.h"
+
+namespace polyprops::chain {
+
+namespace {
+
+// Strictly between the zero bound and the missing-value bound.
+bool is_usable(Real moment)
+{
+    return moment > zero_bound() && moment < missing_value_bound();
+}
+
+Real segment_mass_flow(const PolymerData& data, const Attribute& flows)
+{
+    Real mass = 0.0;
+    for (Int s = 1; s <= data.segments().count(); ++s) mass += data.segment_weight(s) * flows(s);
+    return mass;
+}
+
+Real weight_from_flows(const PolymerData& data, const Species& species)
+{
+    const Real own_weight = molecular_weight(species.component());
+    if (!data.exists() || data.polymers().count() < 1 || !species.is_polymer()) return own_weight;
+    const Attribute zeroth_moment = species.attribute(AttributeName::zmom);
+    if (!zeroth_moment.is_present() || !is_usable(zeroth_moment.value())) return own_weight;
+    const Real mass = segment_mass_flow(data, species.attribute(AttributeName::sflow));
+    return mass > zero_bound() ? mass / zeroth_moment.value() : own_weight;
+}
+
+Real weight_average_weight(const PolymerData& data, const Species& species)
+{
+    const Component c = species.component();
+    if (!species.has_chains()) return polydispersity_parameter(c) * molecular_weight(c);
+    return polydispersity(data, species) * number_average_weight(data, species);
+}
+
+}  // namespace
+
+Real number_average_weight(const PolymerData& data, const Species& species)
+{
+    if (!data.exists() || !species.has_chains()) return molecular_weight(species.component());
+    return degree_of_polymerization(data, species) * mean_segment_weight(data, species);
+}
+
+Real polydispersity_parameter(Component c)
+{
+    return ParameterVector::polydispersity().value_or(1.0, c);
+}
+
+Real polydispersity(const PolymerData& data, const Species& species)
+{
+    const Real parameter = polydispersity_parameter(species.component());
+    if (!data.exists() || keeps_polydispersity_parameter() || data.polymers().count() < 1) return parameter;
+    if (!species.is_polymer()) return parameter;
+    const Attribute zeroth_moment = species.attribute(AttributeName::zmom);
+    const Attribute second_moment = species.attribute(AttributeName::smom);
+    if (!second_moment.is_present() || !zeroth_moment.is_present()) return parameter;
+    const Real chains = zeroth_moment.value();
+    if (!is_usable(chains)) return parameter;
+    const Attribute flows = species.attribute(AttributeName::sflow);
+    const Real segments = flows.sum(data.segments().count());
+    // The bound is inclusive here: flows of exactly the zero bound still count.
+    if (segment_mass_flow(data, flows) >= zero_bound() && segments >= zero_bound())
+        return (second_moment.value() / segments) / (segments / chains);
+    return parameter;
+}
+
+Real weight_from_counts(SegmentCountMatrix<const Real> counts, ByComponent<const Real> weights,
+                        const ComponentList& segments, Component row)
+{
+    Real weight = 0.0;
+    for (Int m = 1; m <= segments.count(); ++m) weight += weights(segments(m)) * counts(row, segments(m));
+    return weight;
+}
+
+}  // namespace polyprops::chain
+
+using namespace polyprops;
+
+void POLY_GETMWN(const Int* SEL, const Int* N, const Int* IDX, Real* MWN)
+{
+    chain::average_each(chain::molecular_weight_parts, {*SEL}, {*N, IDX}, MWN, chain::number_average_weight);
+}
+
+void POLY_GETMRT(const Int* SEL, const Int* N, const Int* IDX, Real* MRT)
+{
+    chain::average_each(chain::polydispersity_parts, {*SEL}, {*N, IDX}, MRT, chain::weight_from_flows);
+}
+
+void POLY_GETMWW(const Int* SEL, const Int* N, const Int* IDX, Real* MWW)
+{
+    chain::average_each(chain::molecular_weight_parts, {*SEL}, {*N, IDX}, MWW, chain::weight_average_weight);
+}
+
+void POLY_GETPDI(const Int* SEL, const Int* N, const Int* IDX, Real* PDI)
+{
+    chain::average_each(chain::polydispersity_parts, {*SEL}, {*N, IDX}, PDI, chain::polydispersity);
+}
+
+void POLY_GETMWN1(const Int* LD, const Real* MW, const Int* NSEG, const Int* ISEG, const Real* SCM,
+                  const Int* N, const Int* IDX, Real* MWN, const Int* IFLAG)
+{
+    const ByComponent<const Real> weights{MW};
+    const ComponentList segments{*NSEG, ISEG};
+    const SegmentCountMatrix counts{SCM, *LD};
+    const ComponentList components{*N, IDX};
+    const FlagArray flags{IFLAG};
+    const Vector<Real> mwn{MWN, *N};
+    for (Int i = 1; i <= components.count(); ++i) {
+        const Component j = components(i);
+        mwn(i) = flags.is_flagged(j) ? chain::weight_from_counts(counts, weights, segments, j) : weights(j);
+    }
+}

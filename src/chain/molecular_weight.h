@@ -1,0 +1,26 @@
+#pragma once
+
+#include "chain/degree_of_polymerization.h"
+#include "chain/segment_weight.h"
+
+namespace polyprops::chain {
+
+// What number_average_weight and weight_average_weight read of the run.
+inline constexpr unsigned molecular_weight_parts = degree_of_polymerization_parts | mean_segment_weight_parts;
+// What polydispersity reads of the run.
+inline constexpr unsigned polydispersity_parts = PolymerData::segment_list | PolymerData::polymer_list;
+
+// Number-average molecular weight of a listed component, g/mol.
+Real number_average_weight(const PolymerData& data, const Species& species);
+
+// Weight- over number-average molecular weight of a listed component.
+Real polydispersity(const PolymerData& data, const Species& species);
+
+// The component's own PDI parameter; 1 when the run has none.
+Real polydispersity_parameter(Component c);
+
+// Weight of a chain from its row of a segment-count matrix, g/mol: Σ MW(s) · SCM(j, s).
+Real weight_from_counts(SegmentCountMatrix<const Real> counts, ByComponent<const Real> weights,
+                        const ComponentList& segments, Component row);
+
+}  // namespace polyprops::chain

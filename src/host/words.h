@@ -1,0 +1,118 @@
+// Words of the host's store and of its records.
+//
+// A word is a signed 64-bit integer or holds the bits of a double; which one, the block says. A store
+// position is a type of its own, so that it cannot stand in for a component index.
+#pragma once
+
+#include <array>
+#include <bit>
+#include <string_view>
+
+#include "host/views.h"
+#include "polyprops/host.h"
+
+namespace polyprops {
+
+enum class Position : Int {};
+
+constexpr Position operator+(Position p, Int words)
+{
+    return Position{static_cast<Int>(p) + words};
+}
+
+inline Int* address_of(Position p)
+{
+    return ST_WORDS + (static_cast<Int>(p) - 1);
+}
+inline Int integer_at(Position p)
+{
+    return *address_of(p);
+}
+inline Real real_at(Position p)
+{
+    return std::bit_cast<Real>(*address_of(p));
+}
+
+// Consecutive reals of the store.
+class RealWords {
+public:
+    RealWords() = default;
+    explicit RealWords(Position first) : first_(address_of(first)) {}
+
+    Real operator()(Int i) const { return std::bit_cast<Real>(first_[i - 1]); }
+
+private:
+    const Int* first_ = nullptr;
+};
+
+// Four characters followed by four blanks, as the host writes text into a word.
+constexpr Int text_word(std::string_view text)
+{
+    std::array<char, 8> characters{' ', ' ', ' ', ' ', ' ', ' ', ' ', ' '};
+    for (std::size_t i = 0; i < text.size() && i < 4; ++i) characters[i] = text[i];
+    return std::bit_cast<Int>(characters);
+}
+
+// A name of up to eight characters in two words of four.
+struct NamePair {
+    std::array<Int, 2> words;
+
+    constexpr explicit NamePair(std::string_view name)
+        : words{text_word(name), text_word(name.size() > 4 ? name.substr(4) : std::string_view{})}
+    {
+    }
+    const Int* data() const { return words.data(); }
+};
+
+// ---- records ----
+
+inline Real missing_value_bound()
+{
+    return ST_RGLOBAL[0];
+}
+inline Real zero_bound()
+{
+    return ST_RGLOBAL[1];
+}
+// At or above the bound a value counts as not given; a NaN counts as given.
+inline bool is_missing(Real value)
+{
+    return value >= missing_value_bound();
+}
+
+inline Int polymer_count_of_run()
+{
+    return ST_NCOMP[16];
+}
+inline bool keeps_polydispersity_parameter()
+{
+    return ST_GLOBAL[29] == 100;
+}
+
+// A pure-component parameter: word 0 of the offset table means that the vector does not exist.
+class ParameterVector {
+public:
+    bool exists() const { return offset_ != 0; }
+    Real value_or(Real absent, Component c) const
+    {
+        return exists() ? real_at(Position{offset_ + c.index}) : absent;
+    }
+
+    static ParameterVector molecular_weight() { return ParameterVector{306}; }
+    static ParameterVector degree_of_polymerization() { return ParameterVector{540}; }
+    static ParameterVector crystallinity() { return ParameterVector{601}; }
+    static ParameterVector polydispersity() { return ParameterVector{684}; }
+
+private:
+    explicit ParameterVector(Int entry) : offset_(ST_POFF1[entry - 1]) {}
+
+    Int offset_;
+};
+
+// The component's own molecular weight in g/mol; 0 when the run has no molecular weights.
+inline Real molecular_weight(Component c)
+{
+    return ParameterVector::molecular_weight().value_or(0.0, c);
+}
+
+}  // namespace polyprops
