@@ -294,6 +294,430 @@ POLYPROPS_API void POLY_GETSMF1(const int64_t* k, const int64_t* ld, const doubl
 POLYPROPS_API void POLY_GETSWF1(const int64_t* k, const int64_t* ld, const double* mw, const double* scm,
                                 const int64_t* nseg, const int64_t* iseg, double* swf);
 
+/* ---- mixture properties -------------------------------------------------------------------------------- */
+
+/* Chain averages, true mole fractions, polymer flags and segment fractions of listed components.
+ *
+ *   MWN(i) = DPN(i) MRF(i)
+ *   XT(i) = y(i) / Σ y, y(i) = X(i) MW(IDX(i)) / MWN(i)
+ *   SMFM(j, m), SWFM(j, m) = mole and mass fraction of the segment at position m in polymer or oligomer j
+ *
+ *   N            in      number of listed components
+ *   X(N)         in      apparent mole fractions, by position [1]
+ *   IDX(N)       in      component index of each entry
+ *   DPN(NC)      out     segments per chain, by position [1]
+ *   MWN(NC)      out     number-average molecular weight, by position [g/mol]
+ *   XT(NC)       out     true mole fractions, by position [1]
+ *   MRF(NC)      out     molecular weight per segment, by position [g/mol]
+ *   W1(NC)       work    work space [1]
+ *   W2(NC)       work    work space [1]
+ *   NC           in      number of components of the host, leading dimension of SMFM and SWFM
+ *   MW(NC)       in      molecular weights of the apparent basis, by component [g/mol]
+ *   IFLAG(NC)    out     by component, 1 marks a listed polymer or oligomer, 0 otherwise
+ *   SMFM(NC,NC)  out     segment mole fractions; rows are component indices, columns segment positions [1]
+ *   SWFM(NC,NC)  out     segment mass fractions; rows are component indices, columns segment positions [1]
+ *   NSEG         out     number of segments of the run
+ *   ISEG(NC)     out     component index of each segment
+ *
+ * - DPN, MRF and the fractions as POLY_GETDPN, POLY_GETMRF, POLY_GETSMF and POLY_GETSWF give them for
+ *   attribute selector 1, with all their fallbacks; where those write no fractions the row is 0.
+ * - Every output is 0 where nothing else is said: entries beyond N or NSEG, rows of components that are not
+ *   listed or are neither polymer nor oligomer.
+ * - An entry whose MWN is exactly 0 has y(i) = X(i). Σ y of exactly 0 is not divided by.
+ * - Without a polymer block NSEG is 0 and both matrices are 0.
+ * - N < 1: everything is cleared, NSEG and ISEG are given.
+ */
+POLYPROPS_API void POLY_GETPOL1(const int64_t* n, const double* x, const int64_t* idx, double* dpn,
+                                double* mwn, double* xt, double* mrf, double* w1, double* w2,
+                                const int64_t* nc, const double* mw, int64_t* iflag, double* smfm,
+                                double* swfm, int64_t* nseg, int64_t* iseg);
+
+/* Chain averages, polymer flags and segment fractions of listed components.
+ *
+ *   MWN(i) = DPN(i) MRF(i)
+ *   SMFM(j, m), SWFM(j, m) = mole and mass fraction of the segment at position m in polymer or oligomer j
+ *
+ *   N            in      number of listed components
+ *   IDX(N)       in      component index of each entry
+ *   DPN(NC)      out     segments per chain, by position [1]
+ *   MWN(NC)      out     number-average molecular weight, by position [g/mol]
+ *   MRF(NC)      out     molecular weight per segment, by position [g/mol]
+ *   W1(NC)       work    work space [1]
+ *   W2(NC)       work    work space [1]
+ *   NC           in      number of components of the host, leading dimension of SMFM and SWFM
+ *   IFLAG(NC)    out     by component, 1 marks a listed polymer or oligomer, 0 otherwise
+ *   SMFM(NC,NC)  out     segment mole fractions; rows are component indices, columns segment positions [1]
+ *   SWFM(NC,NC)  out     segment mass fractions; rows are component indices, columns segment positions [1]
+ *   NSEG         out     number of segments of the run
+ *   ISEG(NC)     out     component index of each segment
+ *
+ * - POLY_GETPOL1 without mole fractions; its notes hold here.
+ * - N < 1: everything is cleared, NSEG and ISEG are given.
+ */
+POLYPROPS_API void POLY_GETPOL2(const int64_t* n, const int64_t* idx, double* dpn, double* mwn, double* mrf,
+                                double* w1, double* w2, const int64_t* nc, int64_t* iflag, double* smfm,
+                                double* swfm, int64_t* nseg, int64_t* iseg);
+
+/* Segment-count matrix and polymer flags of listed components from their chain averages.
+ *
+ *   SCM(j, ISEG(m)) = SMF(m) DPN for a polymer or oligomer j
+ *   SCM(j, 1) = DPN for any other component j
+ *
+ *   N           in      number of listed components
+ *   IDX(N)      in      component index of each entry
+ *   NC          in      number of components of the host, leading dimension of SCM
+ *   W(NC)       work    work space [1]
+ *   NSEG        out     number of segments of the run
+ *   ISEG(NC)    out     component index of each segment
+ *   IFLAG(NC)   out     by component, 1 marks a listed polymer or oligomer, 0 otherwise
+ *   SCM(NC,NC)  out     segments of component k per molecule of j [1]
+ *
+ * - DPN and SMF as POLY_GETDPN and POLY_GETSMF give them for attribute selector 1, with all their fallbacks;
+ *   where POLY_GETSMF writes nothing the row is 0.
+ * - Column 1 of a component that is neither polymer nor oligomer holds its own count, whatever component the
+ *   column belongs to. Every other element is 0, and so are ISEG beyond NSEG and IFLAG of components that are
+ *   not listed.
+ * - Without a polymer block NSEG is 0 and only column 1 of listed components that are neither polymer nor
+ *   oligomer is set.
+ * - N < 1: everything is cleared, NSEG and ISEG are given.
+ */
+POLYPROPS_API void POLY_GETPOL3(const int64_t* n, const int64_t* idx, const int64_t* nc, double* w,
+                                int64_t* nseg, int64_t* iseg, int64_t* iflag, double* scm);
+
+/* Segment-count matrix of listed components straight from their attributes.
+ *
+ *   SCM(j, ISEG(m)) = f(m) max(1, D) for a polymer j, f(m) = v(m) / Σ v, v = SFRAC, else SFLOW
+ *   D = DPN, else MWN / Σ f(m) MW(ISEG(m)), else F / Z
+ *   Z = ZMOM, else 0.5 Σ SFLOW(e) over e = 1..min(NEND, NSEG)
+ *   F = FMOM when it is not below Z, else Σ SFLOW(m)
+ *   SCM(j, ISEG(m)) = count(m, e) for the e-th oligomer of the run, where positive
+ *   SCM(j, 1) = max(1, DPN parameter) for any other component j
+ *
+ *   SEL            in      attribute selector, passed on to the host's attribute search
+ *   NC             in      number of components of the host, leading dimension of SCM
+ *   MW(NC)         in      molecular weights by component, for the mean segment weight [g/mol]
+ *   NSEG           out     number of segments of the run
+ *   ISEG(segment)  out     component index of each segment
+ *   N              in      number of listed components
+ *   IDX(N)         in      component index of each entry
+ *   SCM(NC,NC)     out     segments of component k per molecule of j [1]
+ *
+ * - Without a polymer block SCM is 0, NSEG and ISEG stay untouched. ISEG also stays untouched when no polymer
+ *   or oligomer is listed.
+ * - A polymer takes SFLOW only when it does not carry "SFRAC". With neither, or with Σ v at or below the zero
+ *   bound: equal shares 1/NSEG. Values at or above the missing-value bound are used as they are.
+ * - "DPN" is taken from 1.0 on, however large; "MWN" when it is not below the mean segment weight and that is
+ *   not exactly 0. F / Z needs both above the zero bound; D is 1.0 otherwise.
+ * - The estimate of Z without "ZMOM" takes SFLOW at the entry numbers of the end-segment list: it is half the
+ *   flow of the end segments when these lead the segment list. An attribute that is not carried counts as 0.
+ * - An oligomer with one positive count and a DPN parameter above 1.0: that count is the DPN parameter. One
+ *   that stands more than once in the oligomer list is taken column by column. One that is not in the list
+ *   has a row of 0.
+ * - Without the DPN parameter vector a DPN parameter is 1.0; so is one that is not a number.
+ */
+POLYPROPS_API void POLY_GETPOL(const int64_t* sel, const int64_t* nc, const double* mw, int64_t* nseg,
+                               int64_t* iseg, const int64_t* n, const int64_t* idx, double* scm);
+
+/* Segment-count matrix, lengths and flags of listed components straight from their attributes.
+ *
+ *   SCM(j, ISEG(m)) = v(m) DPN(i) / Σ v for a polymer j = IDX(i), v = SFRAC, else SFLOW
+ *   DPN(i) = "DPN", else max(1, F / Z) for a polymer
+ *   Z = ZMOM, else 0.5 Σ SFLOW(e) over e = 1..min(NEND, NSEG)
+ *   F = FMOM, else Σ SFLOW(m)
+ *   SCM(j, ISEG(m)) = count(m, e) / V × DPN(i), V = Σ count(m, e), for the e-th oligomer of the run
+ *   SCM(j, 1) = 1 and DPN(i) = max(1, DPN parameter) for any other component j
+ *
+ *   SEL         in      attribute selector, passed on to the host's attribute search
+ *   N           in      number of listed components
+ *   IDX(N)      in      component index of each entry
+ *   NC          in      number of components of the host, leading dimension of SCM
+ *   NSEG        out     number of segments of the run
+ *   ISEG(NC)    out     component index of each segment
+ *   NPOL        out     number of entries that are polymers or oligomers
+ *   IFLAG(NC)   out     by component, 1 marks a listed polymer or oligomer, 0 otherwise
+ *   SCM(NC,NC)  out     segments of component k per molecule of j [1]
+ *   DPN(NC)     out     segments per chain, by position [1]
+ *
+ * - Neither polymer nor oligomer in the list: NPOL is 0 and everything else stays untouched.
+ * - A polymer takes "DPN" when 1.0 < value < missing-value bound. F / Z needs both above the zero bound;
+ *   DPN(i) is 1.0 otherwise. "FMOM" counts whenever it is carried.
+ * - SFLOW is taken only when "SFRAC" is not carried. Values at or above the missing-value bound count as 0; Σ
+ *   v at or below the zero bound: SCM(j, ISEG(m)) = DPN(i) / NSEG. An attribute that is not carried counts as
+ *   0.
+ * - The estimate of Z without "ZMOM" takes SFLOW at the entry numbers of the end-segment list: it is half the
+ *   flow of the end segments when these lead the segment list.
+ * - An oligomer whose DPN parameter is within 1e-10 of 1 has DPN(i) = max(1, V); any other has its DPN
+ *   parameter. V of exactly 0 is not divided by. One that stands more than once in the oligomer list takes
+ *   its last column, V adding up from column to column.
+ * - Without the DPN parameter vector a DPN parameter is 1.0; so is one that is not a number.
+ * - Without a polymer block NSEG is 0 and the rows of polymers and oligomers are 0; polymers still take
+ *   DPN(i) from their attributes, the estimate of Z and Σ SFLOW being 0.
+ */
+POLYPROPS_API void POLY_GETPALL(const int64_t* sel, const int64_t* n, const int64_t* idx, const int64_t* nc,
+                                int64_t* nseg, int64_t* iseg, int64_t* npol, int64_t* iflag, double* scm,
+                                double* dpn);
+
+/* Segment-count matrix of listed components, one polymer being given by the weight of its chains.
+ *
+ *   SCM(J, ISEG(m)) = FRAC(m) R / S, R = MWJ / W
+ *   S = Σ FRAC(m), W = Σ MW(ISEG(m)) FRAC(m) / S
+ *   SCM(k, 1) = 1 for every other listed component k
+ *
+ *   J           in      component index of the polymer
+ *   MWJ         in      molecular weight that the chains of J are to have [g/mol]
+ *   N           in      number of listed components
+ *   IDX(N)      in      component index of each entry
+ *   NC          in      number of components of the host, leading dimension of SCM
+ *   MW(NC)      in      molecular weights by component, segments included [g/mol]
+ *   IFLAG(NC)   out     by component, 1 for J and 0 for the other listed components
+ *   SCM(NC,NC)  out     segments of component k per molecule of j [1]
+ *   NSEG        out     number of segments of J
+ *   ISEG(*)     out     component index of each segment of J
+ *   FRAC(*)     out     segments of each kind per chain of J [1]
+ *
+ * - NSEG, ISEG and FRAC as POLY_GETSEG gives them for attribute selector 1. Where it writes nothing NSEG is
+ *   0, ISEG and FRAC stay untouched.
+ * - ISEG and FRAC need as many entries as the run has segments; as many again for each further place of an
+ *   oligomer in the oligomer list.
+ * - IFLAG of components that are not listed stays untouched.
+ * - Row J stays 0 when J is not listed, and when S or W is exactly 0.
+ * - N < 1: SCM is cleared, NSEG, ISEG and FRAC are given.
+ */
+POLYPROPS_API void POLY_GETPMIX(const int64_t* j, const double* mwj, const int64_t* n, const int64_t* idx,
+                                const int64_t* nc, const double* mw, int64_t* iflag, double* scm,
+                                int64_t* nseg, int64_t* iseg, double* frac);
+
+/* True mole fractions of listed components, one polymer being given by the weight of its chains.
+ *
+ *   XT(i) = y(i) / Σ y, y(i) = MW(IDX(i)) X(i) / MWN(i), MWN(i) = MWJ for IDX(i) = J
+ *
+ *   J              in      component index of the polymer
+ *   MWJ            in      molecular weight of the chains of J [g/mol]
+ *   N              in      number of listed components
+ *   IDX(N)         in      component index of each entry
+ *   X(N)           in      apparent mole fractions, by position [1]
+ *   XT(N)          out     true mole fractions, by position [1]
+ *   MWN(N)         inout   number-average molecular weights, by position; entries of J become MWJ [g/mol]
+ *   UNUSED1        unused  never read
+ *   MW(component)  in      molecular weights of the apparent basis [g/mol]
+ *
+ * - Reads nothing but its arguments.
+ * - MWN of every other component stays as it is.
+ * - An entry whose MWN is exactly 0 has y(i) = X(i). Σ y of exactly 0 is not divided by.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETPMIX1(const int64_t* j, const double* mwj, const int64_t* n, const int64_t* idx,
+                                 const double* x, double* xt, double* mwn, const void* unused1,
+                                 const double* mw);
+
+/* Segment-count matrix that breaks only the listed oligomers into segments.
+ *
+ *   B(j, ISEG(m)) = A(j, ISEG(m)) for an oligomer j, where positive
+ *   B(j, 1) = 1 for any other component j, polymers included
+ *
+ *   N              in      number of listed components
+ *   IDX(N)         in      component index of each entry
+ *   NC             in      number of components of the host, leading dimension of A and B
+ *   A(NC,NC)       in      segments of component k per molecule of j [1]
+ *   NSEG           out     number of segments of the run
+ *   ISEG(segment)  out     component index of each segment
+ *   B(NC,NC)       out     segments of component k per molecule of j, oligomers only [1]
+ *   IFLAG(NC)      out     by component, 1 marks a listed oligomer, 0 otherwise
+ *
+ * - Without a polymer block NSEG is 0, B and IFLAG are 0, ISEG stays untouched.
+ * - ISEG stays untouched when no oligomer is listed.
+ * - An oligomer that is not in the oligomer list is flagged and has a row of 0.
+ * - N < 1: B and IFLAG are cleared, NSEG is given.
+ */
+POLYPROPS_API void POLY_GETOLI(const int64_t* n, const int64_t* idx, const int64_t* nc, const double* a,
+                               int64_t* nseg, int64_t* iseg, double* b, int64_t* iflag);
+
+/* A property of listed components, averaged over segments by number.
+ *
+ *   OUT(i) = Σ_k Q(s) SCM(j, s) / Σ_k SCM(j, s), s = IK(k), for a flagged component j = IJ(i), Q(j) otherwise
+ *
+ *   LD                in      leading dimension of SCM
+ *   Q(component)      in      the property of segments and components [any]
+ *   NK                in      number of segments
+ *   IK(NK)            in      component index of each segment
+ *   SCM(LD,*)         in      segments of component k per molecule of j [1]
+ *   NJ                in      number of listed components
+ *   IJ(NJ)            in      component index of each entry
+ *   OUT(NJ)           out     the property of each entry, by position [any]
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *
+ * - Reads its arguments and the zero bound.
+ * - A flagged component whose row sum is at or below the zero bound, or is not a number, has its own Q(j).
+ * - NJ < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETMAVG(const int64_t* ld, const double* q, const int64_t* nk, const int64_t* ik,
+                                const double* scm, const int64_t* nj, const int64_t* ij, double* out,
+                                const int64_t* iflag);
+
+/* A property of one polymer, averaged over segments by mass.
+ *
+ *   OUT = Σ_k SCM(J, s) Q(s) WT(s) / Σ_k SCM(J, s) WT(s), s = IK(k)
+ *
+ *   LD             in      leading dimension of SCM
+ *   WT(component)  in      weight factors; molecular weights give the average by mass [any]
+ *   NK             in      number of segments; below 1 every sum is 0
+ *   IK(NK)         in      component index of each segment
+ *   SCM(LD,*)      in      segments of component k per molecule of j [1]
+ *   J              in      component index of the polymer
+ *   Q(component)   in      the property of the segments [any]
+ *   OUT            out     the property of J [any]
+ *
+ * - Reads nothing but its arguments.
+ * - A denominator of exactly 0 is not divided by: OUT is the numerator, 0 for NK < 1.
+ */
+POLYPROPS_API void POLY_GETSAVG(const int64_t* ld, const double* wt, const int64_t* nk, const int64_t* ik,
+                                const double* scm, const int64_t* j, const double* q, double* out);
+
+/* A property of one polymer: its own value where given, else averaged over segments by mass.
+ *
+ *   OUT = Q(J) for zero bound < Q(J) < missing-value bound, else Σ_k SCM(J, s) Q(s) WT(s) / Σ_k SCM(J, s)
+ *     WT(s), s = IK(k)
+ *
+ *   LD             in      leading dimension of SCM
+ *   WT(component)  in      weight factors; molecular weights give the average by mass [any]
+ *   NK             in      number of segments; below 1 every sum is 0
+ *   IK(NK)         in      component index of each segment
+ *   SCM(LD,*)      in      segments of component k per molecule of j [1]
+ *   J              in      component index of the polymer
+ *   Q(component)   in      the property of segments and polymers [any]
+ *   OUT            out     the property of J [any]
+ *
+ * - Reads its arguments and the two bounds, which are themselves excluded.
+ * - A denominator of exactly 0 is not divided by: OUT is the numerator, 0 for NK < 1.
+ */
+POLYPROPS_API void POLY_GETPOLQ(const int64_t* ld, const double* wt, const int64_t* nk, const int64_t* ik,
+                                const double* scm, const int64_t* j, const double* q, double* out);
+
+/* A property of one polymer, averaged over segments by number.
+ *
+ *   OUT = Σ_k SCM(J, s) Q(s) / Σ_k SCM(J, s), s = IK(k)
+ *
+ *   LD            in      leading dimension of SCM
+ *   NK            in      number of segments; below 1 every sum is 0
+ *   IK(NK)        in      component index of each segment
+ *   SCM(LD,*)     in      segments of component k per molecule of j [1]
+ *   J             in      component index of the polymer
+ *   Q(component)  in      the property of the segments [any]
+ *   OUT           out     the property of J [any]
+ *
+ * - Reads nothing but its arguments.
+ * - A row sum of exactly 0 is not divided by: OUT is the numerator, 0 for NK < 1.
+ */
+POLYPROPS_API void POLY_GETFAVG(const int64_t* ld, const int64_t* nk, const int64_t* ik, const double* scm,
+                                const int64_t* j, const double* q, double* out);
+
+/* A property of one polymer, averaged over segments by number; the same as POLY_GETFAVG.
+ *
+ *   OUT = Σ_k SCM(J, s) Q(s) / Σ_k SCM(J, s), s = IK(k)
+ *
+ *   LD            in      leading dimension of SCM
+ *   NK            in      number of segments; below 1 every sum is 0
+ *   IK(NK)        in      component index of each segment
+ *   SCM(LD,*)     in      segments of component k per molecule of j [1]
+ *   J             in      component index of the polymer
+ *   Q(component)  in      the property of the segments [any]
+ *   OUT           out     the property of J [any]
+ *
+ * - Reads nothing but its arguments.
+ * - A row sum of exactly 0 is not divided by: OUT is the numerator, 0 for NK < 1.
+ */
+POLYPROPS_API void POLY_GETFAVGT(const int64_t* ld, const int64_t* nk, const int64_t* ik, const double* scm,
+                                 const int64_t* j, const double* q, double* out);
+
+/* Mean segment molecular weight from a segment-count matrix, by component.
+ *
+ *   OUT(j) = Σ_m MW(s) SCM(j, s) / Σ_m SCM(j, s), s = ISEG(m), for a flagged component j = IDX(i), MW(j)
+ *     otherwise
+ *
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   LD                in      leading dimension of SCM
+ *   MW(component)     in      molecular weights, segments included [g/mol]
+ *   NSEG              in      number of segments; below 1 every sum is 0
+ *   ISEG(NSEG)        in      component index of each segment
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *   SCM(LD,*)         in      segments of component k per molecule of j [1]
+ *   OUT(component)    out     molecular weight per segment, by component [g/mol]
+ *
+ * - Reads nothing but its arguments.
+ * - A row sum of exactly 0 is not divided by: OUT(j) is the numerator, 0 for NSEG < 1.
+ * - OUT of components that are not listed stays untouched; N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETMWS(const int64_t* n, const int64_t* idx, const int64_t* ld, const double* mw,
+                               const int64_t* nseg, const int64_t* iseg, const int64_t* iflag,
+                               const double* scm, double* out);
+
+/* Molecular weight of a chain from a segment-count matrix, by position.
+ *
+ *   OUT(i) = Σ_m MW(s) SCM(j, s), s = ISEG(m), for a flagged component j = IDX(i), MW(j) otherwise
+ *
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   LD                in      leading dimension of SCM
+ *   MW(component)     in      molecular weights, segments included [g/mol]
+ *   NSEG              in      number of segments; below 1 every sum is 0
+ *   ISEG(NSEG)        in      component index of each segment
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *   SCM(LD,*)         in      segments of component k per molecule of j [1]
+ *   OUT(N)            out     number-average molecular weight, by position [g/mol]
+ *
+ * - Reads nothing but its arguments.
+ * - It is what POLY_GETMWN1 gives, the arguments in another order.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETMWP(const int64_t* n, const int64_t* idx, const int64_t* ld, const double* mw,
+                               const int64_t* nseg, const int64_t* iseg, const int64_t* iflag,
+                               const double* scm, double* out);
+
+/* Weight-average molecular weight from a segment-count matrix and the moments of the stream, by position.
+ *
+ *   OUT(i) = PDI(i) MWP(i), PDI as POLY_GETPOLI gives it for attribute selector 1, MWP as POLY_GETMWP gives
+ *     it
+ *
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   LD                in      leading dimension of SCM
+ *   MW(component)     in      molecular weights, segments included [g/mol]
+ *   NSEG              in      number of segments; below 1 every sum is 0
+ *   ISEG(NSEG)        in      component index of each segment
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *   SCM(LD,*)         in      segments of component k per molecule of j [1]
+ *   OUT(N)            out     weight-average molecular weight, by position [g/mol]
+ *
+ * - A component that is not flagged has its PDI times MW(j).
+ * - PDI with all its fallbacks, whether the component is flagged or not.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETWWP(const int64_t* n, const int64_t* idx, const int64_t* ld, const double* mw,
+                               const int64_t* nseg, const int64_t* iseg, const int64_t* iflag,
+                               const double* scm, double* out);
+
+/* Polydispersity index of listed components, never below 1 where moments give it.
+ *
+ *   PDI(i) = max(1, (SMOM / F) / (F / ZMOM)) for a polymer, the PDI parameter otherwise
+ *   F = Σ SFLOW(s) over s = 1..NSEG; FMOM is not read
+ *
+ *   SEL     in      attribute selector, passed on to the host's attribute search
+ *   N       in      number of listed components
+ *   IDX(N)  in      component index of each entry
+ *   PDI(N)  out     polydispersity index, by position [1]
+ *
+ * - Without the PDI parameter vector a PDI parameter is 1.0. A parameter is given as it stands, also below 1.
+ * - Without a polymer block, without polymers in the run, or with the host's PDI mode at 100, every entry is
+ *   its PDI parameter; so are oligomers.
+ * - A polymer keeps its PDI parameter unless it carries "SMOM", zero bound < ZMOM < missing-value bound, both
+ *   F and Σ MW(s) SFLOW(s) are at or above the zero bound, and F is not exactly 0. An attribute that is not
+ *   carried counts as 0.
+ * - Past these tests 1.0 when SMOM is not strictly between the two bounds: the parameter then does not count.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETPOLI(const int64_t* sel, const int64_t* n, const int64_t* idx, double* pdi);
+
 #ifdef __cplusplus
 }
 #endif

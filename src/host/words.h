@@ -80,6 +80,12 @@ inline bool is_missing(Real value)
     return value >= missing_value_bound();
 }
 
+// Given and above zero, both bounds themselves excluded.
+inline bool is_between_bounds(Real value)
+{
+    return value > zero_bound() && value < missing_value_bound();
+}
+
 inline Int polymer_count_of_run()
 {
     return ST_NCOMP[16];

@@ -1,0 +1,28 @@
+// How the mixture routines begin their outputs.
+#pragma once
+
+#include "host/polymer_data.h"
+
+namespace polyprops::mixture {
+
+// Sets a square matrix of one row and column per component to zero.
+inline void clear_square(Real* first, Int components)
+{
+    if (components >= 1) clear(first, components * components);
+}
+
+// Writes the run's segment list as component indices.
+inline void write_segment_list(const PolymerData& data, Int* first)
+{
+    const Vector<Int> segments{first, data.segments().count()};
+    for (Int m = 1; m <= data.segments().count(); ++m) segments(m) = data.segments()(m).index;
+}
+
+// Writes value(m) to the row's element of the segment at each position m of the run's segment list.
+template <class Value>
+void write_row(const PolymerData& data, SegmentCountMatrix<Real> counts, Component row, Value value)
+{
+    for (Int m = 1; m <= data.segments().count(); ++m) counts(row, data.segments()(m)) = value(m);
+}
+
+}  // namespace polyprops::mixture
