@@ -9,13 +9,16 @@ import argparse
 import sys
 from pathlib import Path
 
-from exports import c_header, table
+from exports import c_header, fortran, python_signatures, reference, table
 
 ROOT = Path(__file__).resolve().parent.parent
 TABLE = Path("src/exports/routines.toml")
 PRODUCTS = {
     "include/polyprops/polyprops.h": c_header.header,
     "src/exports/polyprops.map": c_header.export_map,
+    "docs/routines.md": reference.page,
+    "bindings/fortran/polyprops.f90": fortran.module,
+    "bindings/python/polyprops/_signatures.py": python_signatures.signatures,
 }
 
 

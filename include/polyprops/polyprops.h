@@ -1,12 +1,14 @@
-/* The exported routines of libpolyprops. Made by scripts/generate.py from src/exports/routines.toml; do not edit.
+/* clang-format off */
+/* The exported routines of libpolyprops. Made by scripts/generate.py from src/exports/routines.toml.
  *
- * Every argument is an address. Integers are 64-bit, reals are doubles; arrays and component indices count from 1,
- * matrices are column-major with the leading dimension first. Argument lines read
+ * Every argument is an address. Integers are 64-bit, reals are doubles; arrays and component indices count
+ * from 1, matrices are column-major with the leading dimension first. Argument lines read
  *   NAME(shape)  direction  meaning [unit]
- * with the shapes "component" (by component index 1..NC), "segment" (by position in the host's segment list) and
- * "*" (as far as the routine's rule reaches). Work arguments are undefined afterwards; unused ones are never read
- * and may be null. No routine reports an error unless it says so: values that cannot be used fall back as its notes
- * tell. A parameter or a molecular weight without further words is the host's pure-component parameter.
+ * with the shapes "component" (by component index 1..NC), "segment" (by position in the host's segment list)
+ * and "*" (as far as the routine's rule reaches). Work arguments are undefined afterwards; unused ones are
+ * never read and may be null. No routine reports an error unless it says so: values that cannot be used fall
+ * back as its notes tell. A parameter or a molecular weight without further words is the pure-component
+ * parameter of the host.
  *
  * The loading process defines the names of polyprops/host.h.
  */

@@ -108,6 +108,8 @@ class _Checker:
         for note in row["notes"]:
             if not isinstance(note, str) or not note.strip():
                 self.fault(where, "notes", repr(note), "texts")
+        if "*/" in repr(row):
+            self.fault(where, "texts", "'*/'", "texts that can stand in a C comment")
         arguments = [self.argument(f"{where}, argument {k}", a) for k, a in enumerate(row["arguments"], 1)]
         if not arguments:
             self.fault(where, "arguments", "none", "at least one")

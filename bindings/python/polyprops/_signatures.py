@@ -1,0 +1,278 @@
+"""The exported routines of libpolyprops. Made by scripts/generate.py from src/exports/routines.toml."""
+
+from typing import NamedTuple
+
+
+class Argument(NamedTuple):
+    """One argument: type is int, real, word or context; direction is in, out, inout, work or unused.
+
+    shape is "" for a scalar, else the extents, column-major, in terms of other arguments, `component`, `segment`
+    (open extents by component index and by segment position) or `*` (unknown).
+    """
+
+    name: str
+    type: str
+    direction: str
+    shape: str
+    means: str
+    unit: str
+
+
+class Signature(NamedTuple):
+    """One routine, its arguments in calling order."""
+
+    family: str
+    purpose: str
+    formula: str
+    arguments: tuple[Argument, ...]
+    notes: tuple[str, ...]
+
+
+SIGNATURES = {
+    'POLY_GETDPN': Signature(
+        'chain',
+        'Number-average degree of polymerization (segments per chain) of listed components.',
+        'DPN(i) = max(1, F / Z) for a polymer without a "DPN" attribute\nF = FMOM, else Σ SFLOW(s) over s = 1..NSEG\nZ = ZMOM, else 0.5 Σ SFLOW(e) over e = 1..min(NEND, NSEG)',
+        (
+            Argument('SEL', 'int', 'in', '', "attribute selector, passed on to the host's attribute search", ''),
+            Argument('N', 'int', 'in', '', 'number of listed components', ''),
+            Argument('IDX', 'int', 'in', 'N', 'component index of each entry', ''),
+            Argument('DPN', 'real', 'out', 'N', 'segments per chain, by position', '1'),
+        ),
+        (
+            'Without a polymer block, or with neither polymers (by the polymer count of the host) nor oligomers in the run, every entry is its DPN parameter as it stands, also below 1; 1.0 when the parameter vector does not exist. In every other case no result is below 1.0.',
+            'A polymer that carries "DPN": the attribute when 1.0 < value < missing-value bound, otherwise the DPN parameter; its moments are then not consulted, and exactly 1.0 is not usable.',
+            'A polymer without "DPN": 1.0 unless both Z and F are above the zero bound.',
+            'The estimate of Z without "ZMOM" takes SFLOW at the entry numbers of the end-segment list: it is half the flow of the end segments when these lead the segment list.',
+            'An attribute that the polymer does not carry counts as 0.',
+            'An oligomer whose DPN parameter is within 1e-10 of 1: its segment count from the oligomer list, if it is in that list. Any other oligomer, and a conventional component: the DPN parameter.',
+            'N < 1: nothing is written.',
+        ),
+    ),
+    'POLY_GETDPN1': Signature(
+        'chain',
+        'Number-average degree of polymerization from a segment-count matrix.',
+        'DPN(i) = Σ_m SCM(j, ISEG(m)) for a flagged component j = IDX(i), SCM(j, 1) otherwise',
+        (
+            Argument('LD', 'int', 'in', '', 'leading dimension of SCM', ''),
+            Argument('NSEG', 'int', 'in', '', 'number of segments; below 1 every sum is 0', ''),
+            Argument('ISEG', 'int', 'in', 'NSEG', 'component index of each segment', ''),
+            Argument('SCM', 'real', 'in', 'LD,*', 'segments of component k per molecule of j', '1'),
+            Argument('N', 'int', 'in', '', 'number of listed components', ''),
+            Argument('IDX', 'int', 'in', 'N', 'component index of each entry', ''),
+            Argument('DPN', 'real', 'out', 'N', 'segments per chain, by position', '1'),
+            Argument('IFLAG', 'int', 'in', 'component', '1 marks a polymer or oligomer; no other value does', ''),
+        ),
+        (
+            'Reads nothing but its arguments.',
+            'N < 1: nothing is written.',
+        ),
+    ),
+    'POLY_GETDPN2': Signature(
+        'chain',
+        'Number-average degree of polymerization from a segment-count matrix; the same as POLY_GETDPN1.',
+        'DPN(i) = Σ_m SCM(j, ISEG(m)) for a flagged component j = IDX(i), SCM(j, 1) otherwise',
+        (
+            Argument('LD', 'int', 'in', '', 'leading dimension of SCM', ''),
+            Argument('NSEG', 'int', 'in', '', 'number of segments; below 1 every sum is 0', ''),
+            Argument('ISEG', 'int', 'in', 'NSEG', 'component index of each segment', ''),
+            Argument('SCM', 'real', 'in', 'LD,*', 'segments of component k per molecule of j', '1'),
+            Argument('N', 'int', 'in', '', 'number of listed components', ''),
+            Argument('IDX', 'int', 'in', 'N', 'component index of each entry', ''),
+            Argument('DPN', 'real', 'out', 'N', 'segments per chain, by position', '1'),
+            Argument('IFLAG', 'int', 'in', 'component', '1 marks a polymer or oligomer; no other value does', ''),
+        ),
+        (
+            'Reads nothing but its arguments.',
+            'N < 1: nothing is written.',
+        ),
+    ),
+    'POLY_GETMRF': Signature(
+        'chain',
+        'Mean segment molecular weight of listed components.',
+        'MRF(i) = Σ MW(s) f(s) / Σ f(s) for a polymer, f = SFRAC, else SFLOW\nMRF(i) = Σ MW(s) count(s, k) / Σ count(s, k) for the k-th oligomer of the run',
+        (
+            Argument('SEL', 'int', 'in', '', "attribute selector, passed on to the host's attribute search", ''),
+            Argument('N', 'int', 'in', '', 'number of listed components', ''),
+            Argument('IDX', 'int', 'in', 'N', 'component index of each entry', ''),
+            Argument('MRF', 'real', 'out', 'N', 'molecular weight per segment, by position', 'g/mol'),
+        ),
+        (
+            'Without a polymer block, or with neither polymers nor oligomers in the run, every entry is its molecular weight; so is a component that is neither a polymer nor in the oligomer list.',
+            'A polymer that carries "MWSEG" with 1.0 < value < missing-value bound: that value.',
+            'f is SFLOW only when the offset of "SFRAC" is exactly 0. An element of f at or above the missing-value bound counts as 1/NSEG; an attribute that is not carried counts as 0.',
+            'Σ f(s) at or below the zero bound: the plain mean of the segment molecular weights. NSEG = 0: the polymer keeps its molecular weight.',
+            'A polymer whose value came from f and that also stands in the oligomer list takes the value of the oligomer.',
+            'An oligomer whose counts do not sum to more than 0: Σ MW(s) count(s, k), undivided.',
+            'N < 1: nothing is written.',
+        ),
+    ),
+    'POLY_GETMWN': Signature(
+        'chain',
+        'Number-average molecular weight of listed components.',
+        'MWN(i) = DPN(i) MRF(i) for a polymer or oligomer, the molecular weight otherwise',
+        (
+            Argument('SEL', 'int', 'in', '', "attribute selector, passed on to the host's attribute search", ''),
+            Argument('N', 'int', 'in', '', 'number of listed components', ''),
+            Argument('IDX', 'int', 'in', 'N', 'component index of each entry', ''),
+            Argument('MWN', 'real', 'out', 'N', 'number-average molecular weight, by position', 'g/mol'),
+        ),
+        (
+            'DPN and MRF as POLY_GETDPN and POLY_GETMRF give them, with all their fallbacks.',
+            'Without a polymer block every entry is its molecular weight.',
+            'N < 1: nothing is written.',
+        ),
+    ),
+    'POLY_GETMWN1': Signature(
+        'chain',
+        'Number-average molecular weight from a segment-count matrix.',
+        'MWN(i) = Σ_m MW(ISEG(m)) SCM(j, ISEG(m)) for a flagged component j = IDX(i), MW(j) otherwise',
+        (
+            Argument('LD', 'int', 'in', '', 'leading dimension of SCM', ''),
+            Argument('MW', 'real', 'in', 'component', 'molecular weights, segments included', 'g/mol'),
+            Argument('NSEG', 'int', 'in', '', 'number of segments; below 1 every sum is 0', ''),
+            Argument('ISEG', 'int', 'in', 'NSEG', 'component index of each segment', ''),
+            Argument('SCM', 'real', 'in', 'LD,*', 'segments of component k per molecule of j', '1'),
+            Argument('N', 'int', 'in', '', 'number of listed components', ''),
+            Argument('IDX', 'int', 'in', 'N', 'component index of each entry', ''),
+            Argument('MWN', 'real', 'out', 'N', 'number-average molecular weight, by position', 'g/mol'),
+            Argument('IFLAG', 'int', 'in', 'component', '1 marks a polymer or oligomer; no other value does', ''),
+        ),
+        (
+            'Reads nothing but its arguments.',
+            'N < 1: nothing is written.',
+        ),
+    ),
+    'POLY_GETMRT': Signature(
+        'chain',
+        'Number-average molecular weight of listed components straight from segment flows and zeroth moment.',
+        'MRT(i) = Σ MW(s) SFLOW(s) / ZMOM for a polymer, the molecular weight otherwise',
+        (
+            Argument('SEL', 'int', 'in', '', "attribute selector, passed on to the host's attribute search", ''),
+            Argument('N', 'int', 'in', '', 'number of listed components', ''),
+            Argument('IDX', 'int', 'in', 'N', 'component index of each entry', ''),
+            Argument('MRT', 'real', 'out', 'N', 'number-average molecular weight, by position', 'g/mol'),
+        ),
+        (
+            'Without a polymer block or without polymers in the run every entry is its molecular weight; so are oligomers.',
+            'A polymer keeps its molecular weight unless it carries "ZMOM", zero bound < ZMOM < missing-value bound and Σ MW(s) SFLOW(s) > zero bound. "SFLOW" not carried counts as 0.',
+            'N < 1: nothing is written.',
+        ),
+    ),
+    'POLY_GETMWW': Signature(
+        'chain',
+        'Weight-average molecular weight of listed components.',
+        'MWW(i) = PDI(i) MWN(i) for a polymer or oligomer, PDI parameter × molecular weight otherwise',
+        (
+            Argument('SEL', 'int', 'in', '', "attribute selector, passed on to the host's attribute search", ''),
+            Argument('N', 'int', 'in', '', 'number of listed components', ''),
+            Argument('IDX', 'int', 'in', 'N', 'component index of each entry', ''),
+            Argument('MWW', 'real', 'out', 'N', 'weight-average molecular weight, by position', 'g/mol'),
+        ),
+        (
+            'PDI and MWN as POLY_GETPDI and POLY_GETMWN give them, with all their fallbacks.',
+            'Without the PDI parameter vector a PDI parameter is 1.0.',
+            'N < 1: nothing is written.',
+        ),
+    ),
+    'POLY_GETPDI': Signature(
+        'chain',
+        'Polydispersity index (weight-average over number-average molecular weight) of listed components.',
+        'PDI(i) = (SMOM / F) / (F / ZMOM) = SMOM ZMOM / F² for a polymer, the PDI parameter otherwise\nF = Σ SFLOW(s) over s = 1..NSEG; FMOM is not read',
+        (
+            Argument('SEL', 'int', 'in', '', "attribute selector, passed on to the host's attribute search", ''),
+            Argument('N', 'int', 'in', '', 'number of listed components', ''),
+            Argument('IDX', 'int', 'in', 'N', 'component index of each entry', ''),
+            Argument('PDI', 'real', 'out', 'N', 'polydispersity index, by position', '1'),
+        ),
+        (
+            'Without the PDI parameter vector a PDI parameter is 1.0.',
+            "Without a polymer block, without polymers in the run, or with the host's PDI mode at 100, every entry is its PDI parameter; so are oligomers.",
+            'A polymer keeps its PDI parameter unless it carries "SMOM" and "ZMOM", zero bound < ZMOM < missing-value bound, and both F and Σ MW(s) SFLOW(s) are at or above the zero bound. "SFLOW" not carried counts as 0.',
+            'N < 1: nothing is written.',
+        ),
+    ),
+    'POLY_GETSMF': Signature(
+        'chain',
+        'Segment mole fractions of a polymer or oligomer.',
+        'SMF(s) = v(s) / Σ v\nv = SFRAC, else SFLOW of a polymer; segment counts of an oligomer',
+        (
+            Argument('SEL', 'int', 'in', '', "attribute selector, passed on to the host's attribute search", ''),
+            Argument('C', 'int', 'in', '', 'component index', ''),
+            Argument('SMF', 'real', 'out', 'segment', 'mole fraction of each segment', '1'),
+        ),
+        (
+            'SMF stays untouched without a polymer block, without segments, with neither polymers nor oligomers in the run, and for a component that is neither a polymer nor in the oligomer list.',
+            'v is SFLOW only when the offset of "SFRAC" is exactly 0. An element of a polymer at or above the missing-value bound counts as 0; so does every element of an attribute that is not carried.',
+            'Equal shares 1/NSEG: a polymer whose sum is at or below the zero bound, an oligomer whose sum is exactly 0.',
+        ),
+    ),
+    'POLY_GETSWF': Signature(
+        'chain',
+        'Segment mass fractions of a polymer or oligomer.',
+        'SWF(s) = v(s) / Σ v\nv = SFLOW(s) MW(s) of a polymer; MW(s) × segment count of an oligomer',
+        (
+            Argument('SEL', 'int', 'in', '', "attribute selector, passed on to the host's attribute search", ''),
+            Argument('C', 'int', 'in', '', 'component index', ''),
+            Argument('SWF', 'real', 'out', 'segment', 'mass fraction of each segment', '1'),
+        ),
+        (
+            'SWF stays untouched without a polymer block, without segments, with neither polymers nor oligomers in the run, and for a component that is neither a polymer nor in the oligomer list.',
+            '"SFRAC" is not read. A product v(s) of a polymer at or above the missing-value bound counts as 0; so does every element of an "SFLOW" that is not carried.',
+            'Equal shares 1/NSEG: a polymer whose sum is at or below the zero bound, an oligomer whose sum is exactly 0.',
+        ),
+    ),
+    'POLY_SWFVEC': Signature(
+        'chain',
+        'Segment mass fractions of listed components, one column each.',
+        'SWF(s, i) = the mass fraction of segment s in component IDX(i), as POLY_GETSWF gives it',
+        (
+            Argument('SEL', 'int', 'in', '', "attribute selector, passed on to the host's attribute search", ''),
+            Argument('N', 'int', 'in', '', 'number of listed components', ''),
+            Argument('LD', 'int', 'in', '', 'leading dimension of SWF, at least the number of segments', ''),
+            Argument('IDX', 'int', 'in', 'N', 'component index of each entry', ''),
+            Argument('SWF', 'real', 'out', 'LD,N', 'mass fractions by segment position; column i belongs to entry i', '1'),
+        ),
+        (
+            'A component for which POLY_GETSWF writes nothing leaves its column untouched; rows beyond the number of segments stay untouched.',
+            'N < 1: nothing is written.',
+        ),
+    ),
+    'POLY_GETSMF1': Signature(
+        'chain',
+        'Segment mole fractions of one row of a segment-count matrix.',
+        'SMF(m) = c(m) / Σ c, c(m) = SCM(K, ISEG(m))',
+        (
+            Argument('K', 'int', 'in', '', 'component index: the row of SCM', ''),
+            Argument('LD', 'int', 'in', '', 'leading dimension of SCM', ''),
+            Argument('SCM', 'real', 'in', 'LD,*', 'segments of component k per molecule of j', '1'),
+            Argument('NSEG', 'int', 'in', '', 'number of segments', ''),
+            Argument('ISEG', 'int', 'in', 'NSEG', 'component index of each segment', ''),
+            Argument('SMF', 'real', 'out', 'NSEG', 'mole fraction of each segment, in the order of ISEG', '1'),
+        ),
+        (
+            'Reads its arguments and the zero bound; any row K is taken, flagged as a polymer or not.',
+            'Σ c at or below the zero bound: equal shares 1/NSEG.',
+            'NSEG < 1: nothing is written.',
+        ),
+    ),
+    'POLY_GETSWF1': Signature(
+        'chain',
+        'Segment mass fractions of one row of a segment-count matrix.',
+        'SWF(m) = w(m) / Σ w, w(m) = MW(ISEG(m)) SCM(K, ISEG(m))',
+        (
+            Argument('K', 'int', 'in', '', 'component index: the row of SCM', ''),
+            Argument('LD', 'int', 'in', '', 'leading dimension of SCM', ''),
+            Argument('MW', 'real', 'in', 'component', 'molecular weights, segments included', 'g/mol'),
+            Argument('SCM', 'real', 'in', 'LD,*', 'segments of component k per molecule of j', '1'),
+            Argument('NSEG', 'int', 'in', '', 'number of segments', ''),
+            Argument('ISEG', 'int', 'in', 'NSEG', 'component index of each segment', ''),
+            Argument('SWF', 'real', 'out', 'NSEG', 'mass fraction of each segment, in the order of ISEG', '1'),
+        ),
+        (
+            'Reads its arguments and the zero bound; any row K is taken, flagged as a polymer or not.',
+            'Σ w at or below the zero bound: equal shares 1/NSEG.',
+            'NSEG < 1: nothing is written.',
+        ),
+    ),
+}

@@ -1,0 +1,84 @@
+#!/usr/bin/env python3
+"""Checks that a built libpolyprops.so defines the routines of the table, and needs nothing but its host, libc and libm.
+
+    scripts/check_exports.py build/release/src/libpolyprops.so
+"""
+
+import argparse
+import re
+import subprocess
+import sys
+from pathlib import Path
+
+from exports import table
+
+ROOT = Path(__file__).resolve().parent.parent
+ALLOWED_LIBRARIES = re.compile(r"libc\.so\.6|libm\.so\.6|ld-linux.*\.so\.\d+")
+# Weak references that the compiler's start files leave in every shared object.
+START_FILES = {"__gmon_start__", "__cxa_finalize", "_ITM_deregisterTMCloneTable", "_ITM_registerTMCloneTable"}
+
+
+def run(*command):
+    return subprocess.run(command, check=True, capture_output=True, text=True).stdout
+
+
+def dynamic_symbols(built, which):
+    """Pairs of name and version ("" when it has none)."""
+    lines = run("nm", "-D", which, str(built)).splitlines()
+    symbols = (line.split()[-1] for line in lines if line.strip())
+    return [(name, version.lstrip("@")) for name, _, version in (s.partition("@") for s in symbols)]
+
+
+def needed_libraries(built):
+    return re.findall(r"\(NEEDED\).*\[(.*)\]", run("readelf", "-d", "--wide", str(built)))
+
+
+def host_names(header):
+    """The records and services that a host header declares."""
+    code = re.sub(r"/\*.*?\*/", "", Path(header).read_text(encoding="utf-8"), flags=re.DOTALL)
+    return set(re.findall(r"\b([A-Z]{2}_[A-Z0-9_]+)\s*[(\[]", code))
+
+
+def export_faults(built, names):
+    defined = {name for name, _ in dynamic_symbols(built, "--defined-only")}
+    for name in sorted(names - defined):
+        yield f"{built}: {name} is in the table but is not exported"
+    for name in sorted(defined - names):
+        yield f"{built}: {name} is exported but is not in the table"
+
+
+def import_faults(built, host):
+    for name, version in dynamic_symbols(built, "--undefined-only"):
+        from_system = version.startswith("GLIBC_") or (not version and name in START_FILES)
+        if name not in host and not from_system:
+            shown = f"{name}@{version}" if version else name
+            yield f"{built}: needs {shown}, which neither the host header nor libc or libm defines"
+
+
+def library_faults(built):
+    for library in needed_libraries(built):
+        if not ALLOWED_LIBRARIES.fullmatch(library):
+            yield f"{built}: needs the library {library}; only libc and libm are allowed"
+
+
+def main(arguments=None):
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("built", type=Path, metavar="BUILT.so")
+    parser.add_argument("--table", type=Path, default=ROOT / "src/exports/routines.toml")
+    parser.add_argument("--host-header", type=Path, default=ROOT / "include/polyprops/host.h")
+    options = parser.parse_args(arguments)
+    try:
+        names = {routine.name for routine in table.read(options.table)}
+        host = host_names(options.host_header)
+        faults = [*export_faults(options.built, names), *import_faults(options.built, host),
+                  *library_faults(options.built)]
+    except (OSError, table.TableError) as error:
+        faults = [str(error)]
+    except subprocess.CalledProcessError as error:
+        faults = [f"{options.built}: {error.cmd[0]}: {error.stderr.strip()}"]
+    print("\n".join(faults) or f"{options.built}: {len(names)} routines, nothing else", file=sys.stderr if faults else None)
+    return 1 if faults else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,158 @@
+"""The table of the exported routines, what is made from it, and the check of the built file."""
+
+import contextlib
+import io
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "scripts"))
+
+import check_exports
+import generate
+from exports import c_header, fortran, python_signatures, table
+
+ROW = """
+[[routine]]
+name = "POLY_PACK"
+family = "basis"
+purpose = "Packs listed values."
+formula = "V(i) = X(IDX(i))"
+arguments = [
+  { name = "UNUSED1", type = "int", dir = "unused", shape = "", means = "never read" },
+  { name = "X", type = "real", dir = "in", shape = "component", means = "values", unit = "1" },
+  { name = "N", type = "int", dir = "in", shape = "", means = "number of entries" },
+  { name = "IDX", type = "int", dir = "in", shape = "N", means = "component indices" },
+  { name = "NOUT", type = "int", dir = "out", shape = "", means = "number of values" },
+  { name = "V", type = "real", dir = "out", shape = "NOUT", means = "packed values", unit = "1" },
+  { name = "SCM", type = "real", dir = "work", shape = "2*N,*", means = "work space", unit = "1" },
+  { name = "W", type = "word", dir = "out", shape = "N", means = "values of either kind" },
+  { name = "CTX", type = "context", dir = "in", shape = "", means = "passed through" },
+]
+notes = ["N < 1: nothing is written."]
+"""
+
+
+def capture(function, *arguments):
+    """Exit status and everything that was printed."""
+    text = io.StringIO()
+    with contextlib.redirect_stdout(text), contextlib.redirect_stderr(text):
+        status = function(*arguments)
+    return status, text.getvalue()
+
+
+class Table(unittest.TestCase):
+    def test_faults_name_file_routine_key_seen_and_expected(self):
+        cases = [
+            ('name = "POLY_PACK"', 'name = "poly_pack"', "t.toml: poly_pack: name: 'poly_pack'; expected POLY_"),
+            ('family = "basis"', 'family = "bases"', "POLY_PACK: family: 'bases'; expected one of chain, basis"),
+            ('purpose = "Packs listed values."', "", "POLY_PACK: purpose: missing; expected a text"),
+            ("formula = ", "formla = 1\nformula = ", "POLY_PACK: formla: unknown key; expected one of name"),
+            ('notes = ["N', 'notes = ["", "N', "POLY_PACK: notes: ''; expected texts"),
+            ("N < 1:", "N < 1 */:", "POLY_PACK: texts: '*/'; expected"),
+            ('type = "word"', 'type = "byte"', "argument 8 (W): type: 'byte'; expected one of int, real"),
+            ('dir = "work"', 'dir = "scratch"', "argument 7 (SCM): dir: 'scratch'; expected one of in, out"),
+            ('dir = "unused"', 'dir = "in"', "argument 1 (UNUSED1): dir: 'in' for UNUSED1; expected"),
+            ('"packed values", unit = "1"', '"packed values"', "argument 6 (V): unit: missing; expected the unit"),
+            ('shape = "2*N,*"', 'shape = "*,N"', "SCM: shape: '*'; expected an open extent only as the last one"),
+            ('shape = "2*N,*"', 'shape = "LD,*"', "SCM: shape: 'LD'; expected LD to be an integer scalar"),
+            ('shape = "2*N,*"', 'shape = "2N,*"', "SCM: shape: '2N'; expected integer arguments"),
+            ('name = "V"', 'name = "X"', "POLY_PACK: arguments: X stands twice; expected each name once"),
+            ('name = "V"', 'name = "IS"', "argument 6 (IS): name: 'IS'; expected upper-case letters"),
+            (ROW, ROW + ROW, "POLY_PACK: name: stands twice; expected each routine once"),
+            (ROW, "", "table: routine: none; expected at least one"),
+            ("arguments = [", "arguments = ", "t.toml: not TOML:"),
+        ]
+        for sound, broken, expected in cases:
+            with self.subTest(expected):
+                with self.assertRaises(table.TableError) as caught:
+                    table.parse(ROW.replace(sound, broken), "t.toml")
+                self.assertIn(expected, str(caught.exception))
+
+    def test_all_faults_are_listed(self):
+        broken = ROW.replace('"basis"', '"bases"').replace('"word"', '"byte"')
+        with self.assertRaises(table.TableError) as caught:
+            table.parse(broken, "t.toml")
+        self.assertEqual(len(caught.exception.faults), 2)
+
+
+class Products(unittest.TestCase):
+    def setUp(self):
+        self.routines = table.parse(ROW, "t.toml")
+
+    def test_c_parameters_are_const_unless_written(self):
+        declaration = " ".join(" ".join(c_header.declaration(self.routines[0])).split())
+        self.assertEqual(declaration,
+                         "POLYPROPS_API void POLY_PACK(const int64_t* unused1, const double* x, const int64_t* n, "
+                         "const int64_t* idx, int64_t* nout, double* v, double* scm, void* w, const void* ctx);")
+
+    def test_fortran_bounds_never_rest_on_a_result(self):
+        module = fortran.module(self.routines)
+        for declaration in ["intent(in) :: idx(n)", "intent(inout) :: v(*)", "intent(inout) :: scm(2*n, *)",
+                            "intent(in) :: x(*)", "type(*), intent(in) :: ctx(*)"]:
+            self.assertIn(declaration, module)
+
+    def test_python_signatures_say_what_the_table_says(self):
+        namespace = {}
+        exec(python_signatures.signatures(self.routines), namespace)
+        arguments = namespace["SIGNATURES"]["POLY_PACK"].arguments
+        self.assertEqual([tuple(a) for a in arguments],
+                         [(a.name, a.type, a.dir, a.shape, a.means, a.unit) for a in self.routines[0].arguments])
+
+    def test_check_lists_the_stale_files_and_writes_nothing(self):
+        with tempfile.TemporaryDirectory() as folder:
+            root = Path(folder)
+            (root / "src/exports").mkdir(parents=True)
+            (root / "src/exports/routines.toml").write_text(ROW)
+            self.assertEqual(capture(generate.main, ["--root", folder])[0], 0)
+            self.assertEqual(capture(generate.main, ["--root", folder, "--check"]), (0, ""))
+            stale = root / "src/exports/polyprops.map"
+            stale.write_text("stale")
+            status, text = capture(generate.main, ["--root", folder, "--check"])
+            self.assertEqual((status, stale.read_text()), (1, "stale"))
+            self.assertIn("src/exports/polyprops.map: does not follow", text)
+            self.assertNotIn("polyprops.h", text)
+
+
+@unittest.skipUnless(shutil.which("gcc"), "needs gcc")
+class BuiltFile(unittest.TestCase):
+    HOST = "/* ST_OTHER( */ extern long ST_WORDS[]; long CC_INDEX(const long* list);"
+    SOUND = HOST + "void POLY_PACK(long* p) { *p = ST_WORDS[0] + CC_INDEX(p); }"
+
+    def check(self, code, *flags):
+        with tempfile.TemporaryDirectory() as folder:
+            root = Path(folder)
+            (root / "a.c").write_text(code)
+            (root / "host.h").write_text(self.HOST)
+            (root / "t.toml").write_text(ROW)
+            subprocess.run(["gcc", "-shared", "-fPIC", "-o", root / "a.so", root / "a.c", *flags], check=True)
+            return capture(check_exports.main, [str(root / "a.so"), "--table", str(root / "t.toml"),
+                                                "--host-header", str(root / "host.h")])
+
+    def test_accepts_the_table_and_nothing_else(self):
+        log = self.SOUND + "double log(double); double square(double); " \
+                           "__attribute__((visibility(\"hidden\"))) double square(double x) { return log(x); }"
+        self.assertEqual(self.check(self.SOUND)[0], 0)
+        self.assertEqual(self.check(log, "-lm")[0], 0)
+
+    def test_refuses(self):
+        cases = [
+            (self.SOUND + "void helper(void) {}", (), "helper is exported but is not in the table"),
+            (self.SOUND.replace("POLY_PACK", "POLY_PAK"), (), "POLY_PACK is in the table but is not exported"),
+            (self.SOUND + "void ST_OTHER(void); static void f(void) { ST_OTHER(); } void* g = f;", (),
+             "needs ST_OTHER, which neither"),
+            (self.SOUND, ("-Wl,--no-as-needed", "-lgcc_s"), "needs the library libgcc_s.so.1"),
+        ]
+        for code, flags, expected in cases:
+            with self.subTest(expected):
+                status, text = self.check(code, *flags)
+                self.assertEqual(status, 1)
+                self.assertIn(expected, text)
+
+
+if __name__ == "__main__":
+    unittest.main()
