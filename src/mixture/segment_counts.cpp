@@ -170,14 +170,6 @@ Real write_scaled_counts(const PolymerData& data, const Species& species, Segmen
     return write_conventional(species.component(), counts);
 }
 
-// Place of the first polymer or oligomer in a list; one beyond the list when it has none.
-Int first_with_chains(Selector selector, const ComponentList& components)
-{
-    Int i = 1;
-    while (i <= components.count() && !Species{selector, components(i)}.has_chains()) ++i;
-    return i;
-}
-
 }  // namespace
 
 }  // namespace polyprops::mixture
@@ -207,21 +199,20 @@ void POLY_GETPALL(const Int* SEL, const Int* N, const Int* IDX, const Int* NC, I
                   Int* NPOL, Int* IFLAG, Real* SCM, Real* DPN)
 {
     const ComponentList components{*N, IDX};
-    const Int first = mixture::first_with_chains({*SEL}, components);
-    *NPOL = 0;
-    if (first > components.count()) return;
-    clear(ISEG, *NC);
-    clear(IFLAG, *NC);
-    clear(DPN, *NC);
-    mixture::clear_square(SCM, *NC);
-    const auto data = PolymerData::locate(PolymerData::every_part);
-    *NSEG = data.segments().count();
-    mixture::write_segment_list(data, ISEG);
     const SegmentCountMatrix counts{SCM, *NC};
     const Vector lengths{DPN, *NC};
-    for (Int i = 1; i < first; ++i) lengths(i) = mixture::write_conventional(components(i), counts);
-    for (Int i = first; i <= components.count(); ++i) {
+    PolymerData data;
+    *NPOL = 0;
+    for (Int i = 1; i <= components.count(); ++i) {
         const Species species{{*SEL}, components(i)};
+        // A list without polymers and oligomers leaves the outputs untouched, so they begin with the first.
+        if (*NPOL == 0) {
+            if (!species.has_chains()) continue;
+            clear(IFLAG, *NC);
+            clear(DPN, *NC);
+            data = mixture::begin_counts(*NC, *NSEG, ISEG, SCM);
+            for (Int k = 1; k < i; ++k) lengths(k) = mixture::write_conventional(components(k), counts);
+        }
         lengths(i) = mixture::write_scaled_counts(data, species, counts);
         if (!species.has_chains()) continue;
         ByComponent{IFLAG}(species.component()) = 1;

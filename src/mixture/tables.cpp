@@ -64,7 +64,7 @@ void write_fractions(const PolymerData& data, const Species& species, const Tabl
 void write_tables(const ComponentList& components, const Tables& out)
 {
     clear_tables(out);
-    const auto data = PolymerData::locate(table_parts);
+    const auto data = PolymerData::locate(PolymerData::every_part);
     *out.segment_count = data.segments().count();
     write_segment_list(data, out.segment_list);
     const Int n = components.count();
@@ -125,11 +125,7 @@ void POLY_GETPOL3(const Int* N, const Int* IDX, const Int* NC, Real* W, Int* NSE
                   Real* SCM)
 {
     clear(IFLAG, *NC);
-    clear(ISEG, *NC);
-    mixture::clear_square(SCM, *NC);
-    const auto data = PolymerData::locate(mixture::table_parts);
-    *NSEG = data.segments().count();
-    mixture::write_segment_list(data, ISEG);
+    const auto data = mixture::begin_counts(*NC, *NSEG, ISEG, SCM);
     const ComponentList components{*N, IDX};
     const ByComponent flags{IFLAG, *NC};
     const SegmentCountMatrix counts{SCM, *NC};
