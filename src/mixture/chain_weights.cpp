@@ -31,11 +31,11 @@ struct WeighedCounts {
     }
 };
 
-// No parts are located for a host whose PDI mode keeps the parameters, nor for an empty list.
+// A host whose PDI mode keeps the parameters needs no lists, nor does an empty list of components.
 PolymerData locate_for_polydispersity(const ComponentList& components)
 {
-    const bool asks = components.count() >= 1 && !keeps_polydispersity_parameter();
-    return asks ? PolymerData::locate(PolymerData::every_part) : PolymerData{};
+    const bool reads = components.count() >= 1 && !keeps_polydispersity_parameter();
+    return PolymerData::locate(reads ? PolymerData::every_part : 0U);
 }
 
 // Unlike the polydispersity of the chain averages it is never below 1, and a second moment out of bounds
@@ -43,7 +43,7 @@ PolymerData locate_for_polydispersity(const ComponentList& components)
 Real bounded_polydispersity(const PolymerData& data, const Species& species)
 {
     const auto moments = chain::polydispersity_moments(data, species);
-    if (!moments || moments->segments == 0.0) return chain::polydispersity_parameter(species.component());
+    if (!moments) return chain::polydispersity_parameter(species.component());
     return is_between_bounds(moments->second) ? chain::at_least_one(moments->index()) : 1.0;
 }
 
