@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cmath>
+
 #include "host/species.h"
 
 namespace polyprops::chain {
@@ -27,10 +29,10 @@ enum class FirstMomentCounts { when_present, when_not_below_chains };
 // Segments over chains of a polymer; 1 unless both are above the zero bound.
 Real length_from_moments(const PolymerData& data, const Species& polymer, FirstMomentCounts first_moment);
 
-// No molecule has less than one segment. A NaN counts as less.
-constexpr Real at_least_one(Real length)
+// No molecule has less than one segment. A NaN counts as less, without raising an exception.
+inline Real at_least_one(Real length)
 {
-    return length > 1.0 ? length : 1.0;
+    return std::isgreater(length, 1.0) ? length : 1.0;
 }
 
 // Segments in one molecule of the oligomer in a column of the oligomer table.

@@ -91,7 +91,7 @@ void write_positive_counts(const PolymerData& data, Int column, SegmentCountMatr
         last = m;
     }
     const Real parameter = chain::degree_of_polymerization_parameter(j);
-    if (kinds == 1 && parameter > 1.0) counts(j, data.segments()(last)) = parameter;
+    if (kinds == 1 && std::isgreater(parameter, 1.0)) counts(j, data.segments()(last)) = parameter;
 }
 
 void write_counts(const PolymerData& data, const Species& species, ByComponent<const Real> weights,

@@ -67,6 +67,9 @@ TEST(SegmentAverages, ByNumberAndByMass)
                                    c.number, -1,       33,       33,       c.total};
         for (std::size_t k = 0; k < std::size(seen); ++k) EXPECT_DOUBLE_EQ(seen[k], expected[k]) << k;
     }
+    double out[2];
+    POLY_GETMAVG(&ld, weights, &n, segments, matrix(std::nan(""), 1).data(), &n, list, out, flags);
+    EXPECT_EQ(out[1], 1) << "a row sum that is not a number";
 }
 
 World homopolymer(const Attributes& attributes)
