@@ -319,6 +319,563 @@ POLYPROPS_API void POLY_GETSMF1(const int64_t* k, const int64_t* ld, const doubl
 POLYPROPS_API void POLY_GETSWF1(const int64_t* k, const int64_t* ld, const double* mw, const double* scm,
                                 const int64_t* nseg, const int64_t* iseg, double* swf);
 
+/* Chain moments and polymer mass flow of a stream vector, per site type and in total.
+ *
+ *   NS = 1: Z = Σ ZMOM, F = Σ SFLOW(s), S = Σ SMOM, W = Σ flow × MW, over substreams and polymers
+ *   NS > 1, t < NS: Z(t) = Σ SZMOM(t), F(t) = Σ SSFLOW(s, t), S(t) = Σ SSMOM(t), W(t) = Σ MW(s) SSFLOW(s, t)
+ *   NS > 1, t = NS: sums over all sites, W(NS) = Σ flow × MW
+ *
+ *   SV(*)          in      stream vector: flows and attributes of each substream [kmol/s]
+ *   NSS            in      number of substreams
+ *   K0(NSS)        in      position in a stream vector of the first component flow of each substream
+ *   KTYPE(NSS)     in      type code of each substream; 3 is skipped
+ *   MW(component)  in      molecular weights, polymers and segments included [g/mol]
+ *   NS             in      number of result entries: 1 for whole polymers, else one per site type and the
+ *                          total last
+ *   Z(NS)          out     zeroth moment: chains [kmol/s]
+ *   F(NS)          out     first moment: segments [kmol/s]
+ *   S(NS)          out     second moment [kmol/s]
+ *   W(NS)          out     polymer mass flow; of a site, the mass of its segments [kg/s]
+ *
+ * - Without a polymer block, with an empty polymer list, or with NS < 1 nothing is written.
+ * - A polymer whose mass flow in a substream is below the zero bound is skipped there; at the bound it
+ *   counts.
+ * - An attribute that a polymer does not carry counts as 0. "FMOM" is not read.
+ * - The unit of a flow is whatever the stream vector holds; the ones given are the usual ones.
+ */
+POLYPROPS_API void POLY_GETMOMENTS(const double* sv, const int64_t* nss, const int64_t* k0,
+                                   const int64_t* ktype, const double* mw, const int64_t* ns, double* z,
+                                   double* f, double* s, double* w);
+
+/* Averages of the polymer that one stream vector holds beyond another, per site type and in total.
+ *
+ *   with the differences of the sums of POLY_GETMOMENTS, SV2 - SV1
+ *   PMASS = W, PMRS = W / F, PMWN = W / Z, PMWW = S (W / F) / F
+ *   PDPN = F / Z, PDPW = S / F, PPDI = Z (S / F) / F
+ *
+ *   SV1(*)         in      stream vector to subtract [kmol/s]
+ *   SV2(*)         in      stream vector to subtract from [kmol/s]
+ *   NSS            in      number of substreams
+ *   K0(NSS)        in      position in a stream vector of the first component flow of each substream
+ *   KTYPE(NSS)     in      type code of each substream; 3 is skipped
+ *   MW(component)  in      molecular weights, polymers and segments included [g/mol]
+ *   NS             in      number of result entries: 1 for whole polymers, else one per site type and the
+ *                          total last
+ *   PMASS(NS)      out     polymer mass flow [kg/s]
+ *   PMRS(NS)       out     mean segment molecular weight [g/mol]
+ *   PMWN(NS)       out     number-average molecular weight [g/mol]
+ *   PMWW(NS)       out     weight-average molecular weight [g/mol]
+ *   PDPN(NS)       out     number-average degree of polymerization [1]
+ *   PDPW(NS)       out     weight-average degree of polymerization [1]
+ *   PPDI(NS)       out     polydispersity index [1]
+ *
+ * - PMWN and PDPN are 0 unless the difference of Z is above the zero bound; PMRS, PMWW, PDPW and PPDI are 0
+ *   unless the difference of F is above exactly 0.
+ * - Without a polymer block or with an empty polymer list every result is 0.
+ * - Any NS ≥ 1 works; NS < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_POLYRESULTS(const double* sv1, const double* sv2, const int64_t* nss,
+                                    const int64_t* k0, const int64_t* ktype, const double* mw,
+                                    const int64_t* ns, double* pmass, double* pmrs, double* pmwn,
+                                    double* pmww, double* pdpn, double* pdpw, double* ppdi);
+
+/* Ratio of a mixture's moles on the apparent basis to its moles of chains.
+ *
+ *   RAT = (A / B) / A, A = Σ MW X(i), B = Σ X(i) / DP(i)
+ *   DP = F / Z of a polymer, F = Σ SFLOW(s), Z = ZMOM, else 0.5 Σ SFLOW(e) over e = 1..min(NEND, NSEG)
+ *
+ *   SEL     in      attribute selector, passed on to the host's attribute search
+ *   N       in      number of listed components
+ *   IDX(N)  in      component index of each entry
+ *   X(N)    in      fraction of each entry [1]
+ *   RAT     out     the ratio [1]
+ *
+ * - Without a polymer block, or with neither polymers (by the polymer count of the host) nor oligomers in the
+ *   run: 1.0; so when A or B is exactly 0, and therefore when N < 1.
+ * - A polymer: DP = 1.0 unless both Z and F are above the zero bound; there is no lower limit of 1. "DPN" and
+ *   "FMOM" are not read.
+ * - An oligomer: its DPN parameter (1.0 without the parameter vector); within 1e-10 of 1 its segment count
+ *   from the oligomer list, if it is in that list. A conventional component: 1.0.
+ * - A chain length of exactly 0 counts as 1.0.
+ * - The estimate of Z without "ZMOM" takes SFLOW at the entry numbers of the end-segment list: it is half the
+ *   flow of the end segments when these lead the segment list.
+ */
+POLYPROPS_API void POLY_GETRAT(const int64_t* sel, const int64_t* n, const int64_t* idx, const double* x,
+                               double* rat);
+
+/* Polymer flag array of listed components.
+ *
+ *   IFLAG(IDX(i)) = 1 for a polymer or oligomer, 0 otherwise
+ *
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   UNUSED1           unused  not read
+ *   IFLAG(component)  out     polymer flags, by component index
+ *
+ * - Entries of components that are not listed stay untouched.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETISP(const int64_t* n, const int64_t* idx, const void* unused1, int64_t* iflag);
+
+/* CRY parameter of listed components.
+ *
+ *   CRY(i) = the CRY parameter of IDX(i)
+ *
+ *   UNUSED1  unused  not read
+ *   N        in      number of listed components
+ *   IDX(N)   in      component index of each entry
+ *   CRY(N)   out     CRY parameter, by position [1]
+ *
+ * - 0.0 when the parameter vector does not exist.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETCRY(const void* unused1, const int64_t* n, const int64_t* idx, double* cry);
+
+/* ---- composition bases --------------------------------------------------------------------------------- */
+
+/* Apparent to true mole fractions, with the host's chain averages.
+ *
+ *   XT(i) ∝ MW(c) XA(i) / (DPN MRF) for a polymer or oligomer c = IDX(i), XA(i) otherwise; normalised to sum
+ *     1
+ *
+ *   N              in      number of listed components
+ *   IDX(N)         in      component index of each entry
+ *   MW(component)  in      molecular weights of the apparent basis [g/mol]
+ *   XA(N)          in      apparent mole fractions, by position [1]
+ *   XT(N)          out     true mole fractions, by position [1]
+ *
+ * - DPN and MRF as POLY_GETDPN and POLY_GETMRF give them with selector 1.
+ * - Without a polymer block (its id 0 or less) XT is XA as it stands, not normalised.
+ * - An entry whose DPN MRF is exactly 0 keeps its apparent fraction; a sum of exactly 0 leaves the values
+ *   unnormalised.
+ * - XT may be XA. N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_XATOXT(const int64_t* n, const int64_t* idx, const double* mw, const double* xa,
+                               double* xt);
+
+/* Apparent to true mole fractions, with a segment-count matrix.
+ *
+ *   XT(i) ∝ XA(i) MW(c) / Σ_m MW(ISEG(m)) SCM(c, ISEG(m)) for a flagged component c = IDX(i), XA(i)
+ *     otherwise; normalised to sum 1
+ *
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   XA(N)             in      apparent mole fractions, by position [1]
+ *   LD                in      leading dimension of SCM
+ *   MW(component)     in      molecular weights of the apparent basis, segments included [g/mol]
+ *   NSEG              in      number of segments
+ *   ISEG(NSEG)        in      component index of each segment
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *   SCM(LD,*)         in      segments of component k per molecule of j [1]
+ *   XT(N)             out     true mole fractions, by position [1]
+ *
+ * - A sum of exactly 0 leaves the values unnormalised.
+ * - The chain weight of a flagged component is not tested: a row without segments divides by 0.
+ * - Reads nothing but its arguments. XT may be XA. N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETXTRUE(const int64_t* n, const int64_t* idx, const double* xa, const int64_t* ld,
+                                 const double* mw, const int64_t* nseg, const int64_t* iseg,
+                                 const int64_t* iflag, const double* scm, double* xt);
+
+/* Molar quantities or mole fractions to the true basis, polymers as the host classes them.
+ *
+ *   MODE = 0: VT(i) = MWN(i) V(i) / MW(c) for a polymer or oligomer c = IDX(i), V(i) otherwise
+ *   MODE = 1: VT(i) ∝ MW(c) V(i) / MWN(i) for a polymer or oligomer, V(i) otherwise; normalised to sum 1
+ *
+ *   N              in      number of listed components
+ *   IDX(N)         in      component index of each entry
+ *   MW(component)  in      molecular weights of the apparent basis [g/mol]
+ *   MWN(N)         in      number-average molecular weights, by position; read for polymers and oligomers
+ *                          only [g/mol]
+ *   V(N)           in      quantity per mole (MODE 0) or mole fractions (MODE 1) [any]
+ *   VT(N)          out     the same on the true basis [any]
+ *   MODE           in      0: a quantity per mole; 1: mole fractions
+ *
+ * - The host is asked for the class of each entry; no polymer block is needed.
+ * - MODE = 1 with a sum that is not above the zero bound: the values stay unnormalised. Neither weight is
+ *   tested before it divides.
+ * - Any other MODE: nothing is written. VT may be V. N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_VATOVT(const int64_t* n, const int64_t* idx, const double* mw, const double* mwn,
+                               const double* v, double* vt, const int64_t* mode);
+
+/* Molar quantities or mole fractions to the true basis, polymers by flag.
+ *
+ *   MODE = 0: VT(i) = MWN(i) V(i) / MW(c) for a polymer or oligomer c = IDX(i), V(i) otherwise
+ *   MODE = 1: VT(i) ∝ MW(c) V(i) / MWN(i) for a polymer or oligomer, V(i) otherwise; normalised to sum 1
+ *
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   MW(component)     in      molecular weights of the apparent basis [g/mol]
+ *   MWN(N)            in      number-average molecular weights, by position; read for polymers and oligomers
+ *                             only [g/mol]
+ *   V(N)              in      quantity per mole (MODE 0) or mole fractions (MODE 1) [any]
+ *   VT(N)             out     the same on the true basis [any]
+ *   MODE              in      0: a quantity per mole; 1: mole fractions
+ *   UNUSED1           unused  not read
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *
+ * - A component counts as a polymer or oligomer when its flag is exactly 1.
+ * - MODE = 1 with a sum that is not above the zero bound: the values stay unnormalised. Neither weight is
+ *   tested before it divides.
+ * - Any other MODE: nothing is written. VT may be V. N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_VATOVX(const int64_t* n, const int64_t* idx, const double* mw, const double* mwn,
+                               const double* v, double* vt, const int64_t* mode, const void* unused1,
+                               const int64_t* iflag);
+
+/* Apparent mole fractions to mass fractions.
+ *
+ *   WT(i) = XA(i) MW / Σ XA MW, MW the host's molecular weight of IDX(i)
+ *
+ *   XA(N)   in      apparent mole fractions, by position [1]
+ *   N       in      number of listed components
+ *   IDX(N)  in      component index of each entry
+ *   WT(N)   out     mass fractions, by position [1]
+ *
+ * - A sum that is not above the zero bound: WT holds the products XA(i) MW.
+ * - WT may be XA. N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_XATOWT(const double* xa, const int64_t* n, const int64_t* idx, double* wt);
+
+/* Mole fractions to mass fractions with given molecular weights.
+ *
+ *   WT(i) = XT(i) MWT(i) / Σ XT MWT
+ *
+ *   N       in      number of entries
+ *   XT(N)   in      mole fractions [1]
+ *   MWT(N)  in      molecular weight of each entry [g/mol]
+ *   WT(N)   out     mass fractions [1]
+ *
+ * - A sum that is not above the zero bound: WT is 0 throughout.
+ * - WT may be XT or MWT. N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_XTTOWT(const int64_t* n, const double* xt, const double* mwt, double* wt);
+
+/* Segments of one polymer or oligomer and how many of each stand in a molecule.
+ *
+ *   CNT(k) = SFLOW(m) / ZMOM of a polymer, the segment count of an oligomer, for the k-th segment m with a
+ *     positive amount
+ *
+ *   SEL      in      attribute selector, passed on to the host's attribute search
+ *   J        in      component index
+ *   NSEG     out     number of segments found
+ *   ISEG(*)  out     component index of each, in segment-list order; at least the length of the segment list
+ *   CNT(*)   out     segments per molecule of J; as long as ISEG [1]
+ *
+ * - Without a polymer block, or with neither polymers nor oligomers in the run, nothing is written, NSEG
+ *   included.
+ * - A polymer without "ZMOM", or whose "ZMOM" is not above 0, counts 1.0 of each segment. "SFLOW" not carried
+ *   counts as 0; missing values are not left out.
+ * - An oligomer is found by the oligomer list alone; standing there more than once it gives the segments of
+ *   each column in turn.
+ * - NSEG = 0 for a conventional component. ISEG is set to 0 over the length of the segment list; CNT beyond
+ *   NSEG stays untouched.
+ */
+POLYPROPS_API void POLY_GETSEG(const int64_t* sel, const int64_t* j, int64_t* nseg, int64_t* iseg,
+                               double* cnt);
+
+/* Segment make-up of listed components, and the list on the segment basis.
+ *
+ *   FSEG(j, s) = (F(s) / Σ F) DPN(i) FAC(s) for j = IDX(i)
+ *   F = SFRAC, else SFLOW of a polymer; segment counts of an oligomer
+ *
+ *   N            in      number of listed components
+ *   IDX(N)       in      component index of each entry
+ *   NC           in      number of components of the host
+ *   FAC(NC)      in      factor of each segment, by component index [1]
+ *   DPN(N)       out     segments per chain, by position, as POLY_GETDPN gives it with selector 1 [1]
+ *   KSEG(NC,NC)  out     row j: the number of segments of component j, then their component indices
+ *   FSEG(NC,NC)  out     amount of segment component s in component j; 0 for conventional components [1]
+ *   NOUT         out     length of the output list
+ *   IDXOUT(NC)   out     component indices on the segment basis in the order of first appearance, then zeros
+ *   IPOS(NC)     out     position of each component in the output list, 0 when absent
+ *
+ * - A value counts when it is above 0 and below the missing-value bound. F is SFLOW only when the offset of
+ *   "SFRAC" is exactly 0; an attribute that is not carried counts as 0.
+ * - A listed polymer or oligomer without such a value is made of the first segment component of the host,
+ *   with fraction 1; without any segment component it is treated as a conventional one. One that is not
+ *   listed has -1 in KSEG(j, 1).
+ * - DPN is 1.0, and every polymer or oligomer is made of the first segment component, without a polymer block
+ *   or with neither polymers nor oligomers in the run.
+ * - A conventional component is appended without looking for it first, and its later position stays in IPOS;
+ *   a segment is appended once. The output list never exceeds NC entries.
+ * - An oligomer in several columns of the oligomer table takes the last with a count above 0, beside the
+ *   amounts of earlier ones. A component listed twice is scaled twice.
+ */
+POLYPROPS_API void POLY_GETPSEG(const int64_t* n, const int64_t* idx, const int64_t* nc, const double* fac,
+                                double* dpn, int64_t* kseg, double* fseg, int64_t* nout, int64_t* idxout,
+                                int64_t* ipos);
+
+/* Segment mole fractions of one row of a segment-count matrix, by component.
+ *
+ *   SF(s) = SCM(J, s) / Σ SCM(J, s), s in ISEG
+ *
+ *   LD          in      leading dimension of SCM, length of SF
+ *   J           in      component index: the row of SCM
+ *   NSEG        in      number of segments
+ *   ISEG(NSEG)  in      component index of each segment
+ *   SCM(LD,*)   in      segments of component k per molecule of j [1]
+ *   SF(LD)      out     mole fraction of each segment in J, by component index [1]
+ *
+ * - SF is 0 for every component that is not in ISEG; a sum of exactly 0 leaves the products undivided.
+ * - Reads nothing but its arguments.
+ */
+POLYPROPS_API void POLY_GETMFS(const int64_t* ld, const int64_t* j, const int64_t* nseg, const int64_t* iseg,
+                               const double* scm, double* sf);
+
+/* Segment mass fractions of one row of a segment-count matrix, by component.
+ *
+ *   SWF(s) = MW(s) SCM(J, s) / Σ MW(s) SCM(J, s), s in ISEG
+ *
+ *   LD             in      leading dimension of SCM, length of SWF
+ *   J              in      component index: the row of SCM
+ *   MW(component)  in      molecular weights, segments included [g/mol]
+ *   NSEG           in      number of segments
+ *   ISEG(NSEG)     in      component index of each segment
+ *   SCM(LD,*)      in      segments of component k per molecule of j [1]
+ *   SWF(LD)        out     mass fraction of each segment in J, by component index [1]
+ *
+ * - SWF is 0 for every component that is not in ISEG; a sum of exactly 0 leaves the products undivided.
+ * - Reads nothing but its arguments.
+ */
+POLYPROPS_API void POLY_GETWFS(const int64_t* ld, const int64_t* j, const double* mw, const int64_t* nseg,
+                               const int64_t* iseg, const double* scm, double* swf);
+
+/* A component list on the segment basis, with the host's segment data.
+ *
+ *   XOUT(s) = Σ X(i) n(i, s), n = segments per molecule as POLY_GETSEG gives them; X(i) for a conventional
+ *     entry
+ *
+ *   N          in      number of listed components
+ *   IDX(N)     in      component index of each entry
+ *   X(N)       in      amounts: mole fractions or flows [mol]
+ *   UNUSED1    unused  not read
+ *   WSEG(*)    work    work space, as long as the segment list
+ *   WCNT(*)    work    work space, as long as the segment list [1]
+ *   NOUT       out     length of the output list
+ *   IDXOUT(*)  out     component index of each output entry; room for N entries and one per segment
+ *   XOUT(*)    out     amount of each output entry; as long as IDXOUT [mol]
+ *   NORM       in      1 normalises XOUT to sum 1; no other value does
+ *
+ * - Entries stand in the order of first appearance. A conventional entry is appended without looking for an
+ *   earlier one; the amount of a segment goes to every entry that holds its component, and a segment that
+ *   none holds is appended.
+ * - A polymer or oligomer for which POLY_GETSEG finds nothing or writes nothing contributes nothing.
+ * - NORM = 1 with a sum of exactly 0 leaves the amounts as they are.
+ * - N < 1: NOUT = 0 and nothing else is written.
+ */
+POLYPROPS_API void POLY_XPTOXS(const int64_t* n, const int64_t* idx, const double* x, const void* unused1,
+                               int64_t* wseg, double* wcnt, int64_t* nout, int64_t* idxout, double* xout,
+                               const int64_t* norm);
+
+/* True mole fractions to mole fractions on the segment basis, with a segment-count matrix.
+ *
+ *   XOUT(s) ∝ Σ X(i) SCM(c, s) for a flagged c = IDX(i); X(i) SCM(c, 1) otherwise; normalised to sum 1
+ *
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *   X(N)              in      true mole fractions [1]
+ *   LD                in      leading dimension of SCM
+ *   SCM(LD,*)         in      segments of component k per molecule of j; column 1 of an unflagged row holds
+ *                             its own count [1]
+ *   NSEG              in      number of segments
+ *   ISEG(NSEG)        in      component index of each segment
+ *   NOUT              out     length of the output list
+ *   IDXOUT(*)         out     component index of each output entry; room for N entries and one per segment
+ *   XOUT(*)           out     amount of each output entry; as long as IDXOUT [mol]
+ *
+ * - Entries stand in the order of first appearance. A conventional entry is appended without looking for an
+ *   earlier one; the amount of a segment goes to every entry that holds its component, and a segment that
+ *   none holds is appended.
+ * - Counts that are not above 0 are skipped; the count of a conventional entry is taken as it is.
+ * - A sum of exactly 0 leaves the amounts as they are.
+ * - N < 1: NOUT = 0 and nothing else is written.
+ */
+POLYPROPS_API void POLY_XTTOXS(const int64_t* n, const int64_t* idx, const int64_t* iflag, const double* x,
+                               const int64_t* ld, const double* scm, const int64_t* nseg, const int64_t* iseg,
+                               int64_t* nout, int64_t* idxout, double* xout);
+
+/* Flows of a component list on the segment basis, with a segment-count matrix.
+ *
+ *   XOUT(s) = Σ X(i) SCM(c, s) for a flagged c = IDX(i); X(i) otherwise
+ *
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   X(N)              in      flows [mol/s]
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *   LD                in      leading dimension of SCM
+ *   SCM(LD,*)         in      segments of component k per molecule of j [1]
+ *   NSEG              in      number of segments
+ *   ISEG(NSEG)        in      component index of each segment
+ *   NOUT              out     length of the output list
+ *   IDXOUT(*)         out     component index of each output entry; room for N entries and one per segment
+ *   XOUT(*)           out     flow of each output entry; as long as IDXOUT [mol/s]
+ *   NORM              in      1 normalises XOUT to sum 1; no other value does
+ *
+ * - Entries stand in the order of first appearance. A conventional entry is appended without looking for an
+ *   earlier one; the amount of a segment goes to every entry that holds its component, and a segment that
+ *   none holds is appended.
+ * - Counts that are not above 0 are skipped; column 1 of an unflagged row is not read.
+ * - NORM = 1 with a sum of exactly 0 leaves the flows as they are.
+ * - N < 1: NOUT = 0 and nothing else is written.
+ */
+POLYPROPS_API void POLY_PFTOSF(const int64_t* n, const int64_t* idx, const double* x, const int64_t* iflag,
+                               const int64_t* ld, const double* scm, const int64_t* nseg, const int64_t* iseg,
+                               int64_t* nout, int64_t* idxout, double* xout, const int64_t* norm);
+
+/* A property of listed components to the members of a list on the segment basis.
+ *
+ *   POUT(j) = Σ P(i) w / WSUM(j), WSUM(j) = Σ w, w = SCM(c, s) > 0, over the flagged c = IDX(i), for a
+ *     segment s = IDXOUT(j)
+ *   POUT(j) = P(i) / SCM(c, 1), WSUM(j) = SCM(c, 1) for an unflagged c = IDX(i) that is IDXOUT(j)
+ *
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *   P(N)              in      property of each entry [any]
+ *   LD                in      leading dimension of SCM
+ *   SCM(LD,*)         in      segments of component k per molecule of j; column 1 of an unflagged row holds
+ *                             its own count [1]
+ *   NSEG              in      number of segments
+ *   ISEG(NSEG)        in      component index of each segment
+ *   NOUT              in      length of the target list
+ *   IDXOUT(NOUT)      in      component index of each target entry
+ *   POUT(NOUT)        out     property of each target entry [any]
+ *   WSUM(NOUT)        out     sum of the weights of each target entry [1]
+ *
+ * - A weight sum of exactly 0 leaves the numerator: 0 for a target that nothing reaches.
+ * - An unflagged entry replaces what earlier entries gave its target; later ones add to it.
+ * - Reads nothing but its arguments. NOUT < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_PTTOPS(const int64_t* n, const int64_t* idx, const int64_t* iflag, const double* p,
+                               const int64_t* ld, const double* scm, const int64_t* nseg, const int64_t* iseg,
+                               const int64_t* nout, const int64_t* idxout, double* pout, double* wsum);
+
+/* A property of listed components as the mean over their segments.
+ *
+ *   Q(i) = Σ_m w(m) QS(m) / Σ SFLOW for a polymer, w = SFLOW
+ *   Q(i) = Σ_m (count(m) / Σ count) QS(m) for a component in the oligomer list, QS otherwise
+ *
+ *   N              in      number of listed components
+ *   IDX(N)         in      component index of each entry
+ *   QS(component)  in      property of each component, segments included [any]
+ *   Q(N)           out     property of each entry [any]
+ *
+ * - Without a polymer block every entry is its own QS; so is a component that is neither a polymer nor in the
+ *   oligomer list, and a polymer of a run without segments.
+ * - A flow at or above the missing-value bound counts as 0 in Σ SFLOW and as 1/NSEG in w; "SFLOW" not carried
+ *   counts as 0.
+ * - Σ SFLOW not above the zero bound: the plain mean over the segment list. The counts of an oligomer are not
+ *   tested before their sum divides.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_QSGTOQ(const int64_t* n, const int64_t* idx, const double* qs, double* q);
+
+/* A property of listed components as the weighted mean over their segments.
+ *
+ *   Q(i) = Σ_m QS(m) f(m) WS(m) / Σ_m f(m) WS(m)
+ *   f = SFLOW / Σ SFLOW, else SFRAC / Σ SFRAC, else 1/NSEG of a polymer; count / Σ count of an oligomer
+ *
+ *   WS(component)  in      weight of each segment component [any]
+ *   N              in      number of listed components
+ *   IDX(N)         in      component index of each entry
+ *   QS(component)  in      property of each component, segments included [any]
+ *   Q(N)           out     property of each entry [any]
+ *
+ * - Without a polymer block every entry is its own QS; so is a conventional component, an oligomer that is
+ *   not in the oligomer list, and a polymer of a run without segments.
+ * - A flow at or above the missing-value bound counts as 1/NSEG. SFLOW is taken when its sum is above the
+ *   zero bound, SFRAC when its sum is above the zero bound and below the missing-value bound. An attribute
+ *   that is not carried counts as 0.
+ * - Neither the counts of an oligomer nor the sum of the weights are tested before they divide.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_QSTOQA(const double* ws, const int64_t* n, const int64_t* idx, const double* qs,
+                               double* q);
+
+/* A component list split into polymers and oligomers, and the rest.
+ *
+ *   IDXP = the polymers and oligomers of IDX, IDXK = the others, each in the order of the list, with their
+ *     positions in it
+ *
+ *   N         in      number of listed components
+ *   IDX(N)    in      component index of each entry
+ *   NP        out     number of polymers and oligomers
+ *   IDXP(NP)  out     their component indices
+ *   POSP(NP)  out     their positions in IDX
+ *   NK        out     number of others
+ *   IDXK(NK)  out     their component indices
+ *   POSK(NK)  out     their positions in IDX
+ *
+ * - N < 1: both counts are 0 and nothing else is written. IDXP or IDXK may be IDX.
+ */
+POLYPROPS_API void POLY_IDXSPLIT(const int64_t* n, const int64_t* idx, int64_t* np, int64_t* idxp,
+                                 int64_t* posp, int64_t* nk, int64_t* idxk, int64_t* posk);
+
+/* Values of two parts of a list merged into the order of the list.
+ *
+ *   V(POSP(k)) = VP(k), then V(POSK(k)) = VK(k)
+ *
+ *   UNUSED1   unused  not read
+ *   NP        in      number of values of the first part
+ *   NK        in      number of values of the second part
+ *   POSP(NP)  in      target positions of the first part
+ *   POSK(NK)  in      target positions of the second part
+ *   VP(NP)    in      values of the first part, reals or integers
+ *   VK(NK)    in      values of the second part
+ *   V(*)      out     merged values; as long as the largest position
+ *
+ * - Positions that neither part names stay untouched; one that both name holds the value of the second part.
+ */
+POLYPROPS_API void POLY_PROPMRG(const void* unused1, const int64_t* np, const int64_t* nk,
+                                const int64_t* posp, const int64_t* posk, const void* vp, const void* vk,
+                                void* v);
+
+/* Composition of a sub-list, normalised.
+ *
+ *   XS(k) = X(IDX(k)) / Σ X(IDX(k))
+ *
+ *   UNUSED1       unused  not read
+ *   X(component)  in      full composition, by component index [1]
+ *   N             in      number of entries of the sub-list
+ *   IDX(N)        in      component index of each entry
+ *   XS(N)         out     composition of the sub-list [1]
+ *
+ * - A sum of exactly 0 leaves the entries unnormalised.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETXSUB(const void* unused1, const double* x, const int64_t* n, const int64_t* idx,
+                                double* xs);
+
+/* Consecutive work areas laid out in a work vector.
+ *
+ *   PTR(1) = LAST + 1, PTR(k + 1) = PTR(k) + LEN(k), LAST = PTR(N) + LEN(N) - 1
+ *
+ *   LAST    inout   last position in use, before and after
+ *   N       in      number of work areas
+ *   LEN(N)  in      length of each area
+ *   PTR(N)  out     first position of each area
+ *
+ * - N < 1: nothing is written.
+ * - An area of length 0 shares its start with the next one. PTR may be LEN.
+ */
+POLYPROPS_API void POLY_WRKPOINT(int64_t* last, const int64_t* n, const int64_t* len, int64_t* ptr);
+
+/* Water in a component list, by its name.
+ *
+ *   JW = the first IDX(i) named "H2O"
+ *
+ *   N       in      number of listed components
+ *   IDX(N)  in      component index of each entry
+ *   JW      out     component index of water, 0 when the list has none
+ *
+ * - The first eight characters of the name must be H2O and five blanks, in upper case.
+ * - N < 1: JW = 0.
+ */
+POLYPROPS_API void POLY_SETH2O(const int64_t* n, const int64_t* idx, int64_t* jw);
+
 /* ---- mixture properties -------------------------------------------------------------------------------- */
 
 /* Chain averages, true mole fractions, polymer flags and segment fractions of listed components.

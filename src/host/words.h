@@ -121,4 +121,10 @@ inline Real molecular_weight(Component c)
     return ParameterVector::molecular_weight().value_or(0.0, c);
 }
 
+// The first eight characters of a component's name; the host's name table holds three such words a name.
+inline Int first_word_of_name(Component c)
+{
+    return integer_at(Position{ST_POFF4[0] + 3 * (c.index - 1) + 1});
+}
+
 }  // namespace polyprops
