@@ -32,6 +32,10 @@ inline Real real_at(Position p)
 {
     return std::bit_cast<Real>(*address_of(p));
 }
+inline void write_real(Position p, Real value)
+{
+    *address_of(p) = std::bit_cast<Int>(value);
+}
 
 // Consecutive reals of the store.
 class RealWords {
@@ -61,7 +65,20 @@ struct NamePair {
         : words{text_word(name), text_word(name.size() > 4 ? name.substr(4) : std::string_view{})}
     {
     }
+    constexpr NamePair(Int first, Int second) : words{first, second} {}
+
     const Int* data() const { return words.data(); }
+    // The eight characters, trailing blanks kept.
+    std::array<char, 8> characters() const
+    {
+        std::array<char, 8> text{};
+        for (std::size_t half = 0; half < 2; ++half) {
+            const auto word = std::bit_cast<std::array<char, 8>>(words[half]);
+            for (std::size_t i = 0; i < 4; ++i) text[4 * half + i] = word[i];
+        }
+        return text;
+    }
+    friend bool operator==(const NamePair&, const NamePair&) = default;
 };
 
 // ---- records ----
