@@ -15,6 +15,12 @@ struct Roles {
     bool catalyst = false;
 };
 
+constexpr NamePair zmom{"ZMOM"};
+constexpr NamePair sflow{"SFLOW"};
+constexpr NamePair cpsflow{"CPSFLOW"};
+constexpr NamePair cvsflow{"CVSFLOW"};
+constexpr NamePair efrac{"EFRAC"};
+
 struct AttributesSeen {
     bool zeroth_moment = false;
     bool segment_flow = false;
@@ -23,10 +29,10 @@ struct AttributesSeen {
 
     void note(const NamePair& name)
     {
-        zeroth_moment |= name == NamePair{"ZMOM"};
-        segment_flow |= name == NamePair{"SFLOW"};
-        potential_sites |= name == NamePair{"CPSFLOW"};
-        vacant_sites |= name == NamePair{"CVSFLOW"};
+        zeroth_moment |= name == zmom;
+        segment_flow |= name == sflow;
+        potential_sites |= name == cpsflow;
+        vacant_sites |= name == cvsflow;
     }
 };
 
@@ -49,8 +55,7 @@ bool names_what_its_roles_need(const AttributeEntry& entry, const SentenceWords&
     for (Int a = 1; a <= entry.name_count; ++a) {
         const NamePair name = words.name(entry.names, a);
         seen.note(name);
-        if (name == NamePair{"EFRAC"} && !has_end_segments && report(messages::end_fractions_without_ends))
-            return false;
+        if (name == efrac && !has_end_segments && report(messages::end_fractions_without_ends)) return false;
     }
     return !is_missing(roles.polymer, seen.zeroth_moment, messages::zeroth_moment_missing, entry) &&
            !is_missing(roles.polymer, seen.segment_flow, messages::segment_flow_missing, entry) &&

@@ -12,7 +12,7 @@ void compose_line(Int line, std::string_view text, const NamePair& first, const 
     MessageLine out{line};
     out.append(margin);
     for (auto mark = text.find('{'); mark != text.npos; mark = text.find('{')) {
-        out.append(text.substr(0, mark));
+        out.append({text.data(), mark});
         out.append(text[mark + 1] == '1' ? first : second);
         text.remove_prefix(mark + mark_length);
     }
