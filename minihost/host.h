@@ -1,0 +1,90 @@
+// An embedded host: everything that libpolyprops expects of the process that loads it.
+//
+// A Host owns the store and the tables of one run. The records and services of <polyprops/host.h> are global,
+// so at most one Host exists at a time; they belong to it from its construction to its end. Errors are thrown
+// as minihost::Error, also through a routine of the library that called a service.
+//
+//   Host host{components};
+//   host.set_polymer_block(lay_polymer_block(host.store(), lists));
+//   host.attributes().carry(host.components().index("PS"), {"ZMOM", "SFLOW"});
+//   host.add_stream({"FEED", {{.flows = {{"PS", 1.0}}, .attributes = {{"PS", {{"ZMOM", {0.1}}}}}}}});
+//   host.select_stream("FEED");
+#ifndef MINIHOST_HOST_H
+#define MINIHOST_HOST_H
+
+#include <set>
+#include <string_view>
+#include <vector>
+
+#include "minihost/attributes.h"
+#include "minihost/components.h"
+#include "minihost/error.h"
+#include "minihost/polymer_block.h"
+#include "minihost/store.h"
+#include "minihost/streams.h"
+
+namespace minihost {
+
+struct Options {
+    Store::Mode store_mode = Store::default_mode();
+    double missing_value_bound = 1e35;
+    double zero_bound = 1e-15;
+    std::set<Parameter> absent_parameters =
+        {};  ///< parameter vectors that do not exist whatever components give
+};
+
+class Host {
+public:
+    /// Throws Error when another Host exists or a component is in error.
+    explicit Host(std::vector<Component> components, const Options& options = {});
+    ~Host();
+    Host(const Host&) = delete;
+    Host& operator=(const Host&) = delete;
+
+    /// The Host that the services speak for. Throws Error when there is none.
+    static Host& active();
+
+    Store& store() { return store_; }
+    const ComponentTable& components() const { return components_; }
+    AttributeTable& attributes() { return attributes_; }
+    const StreamTable& streams() const { return streams_; }
+
+    /// Id of the polymer block that the library is given; 0 or less: the run has no polymer data.
+    BlockId polymer_block();
+    void set_polymer_block(BlockId id);
+
+    /// Segment, end-segment and site counts of the polymer block, all 0 without one.
+    AttributeDimensions dimensions();
+
+    /// The offset that CC_FIND_ATTR gives, with every attribute laid out for the present polymer block.
+    Int attribute_offset(Int component, std::string_view name);
+
+    /// Attributes are laid out by the first stream; components cannot get further ones after it.
+    void add_stream(const Stream& stream);
+    void select_stream(std::string_view name, Int substream = 1) { streams_.select(name, substream); }
+
+    void set_bounds(double missing_value_bound, double zero_bound);
+    void set_pdi_mode(Int mode);        ///< 100: polydispersity is the PDI parameter alone
+    void set_polymer_count(Int count);  ///< number of polymer components; counted from the classes at first
+
+private:
+    /// Registers the one active Host before anything else is made and drops it after everything else is gone.
+    struct Registration {
+        explicit Registration(Host& host);
+        ~Registration();
+        Registration(const Registration&) = delete;
+        Registration& operator=(const Registration&) = delete;
+    };
+
+    Registration registration_;
+    Store store_;
+    BlockId directory_;
+    BlockId root_;
+    ComponentTable components_;
+    AttributeTable attributes_;
+    StreamTable streams_;
+};
+
+}  // namespace minihost
+
+#endif

@@ -1,0 +1,39 @@
+// Lays a polymer block with its four lists straight from plain data.
+#ifndef MINIHOST_POLYMER_BLOCK_H
+#define MINIHOST_POLYMER_BLOCK_H
+
+#include <map>
+#include <vector>
+
+#include "minihost/words.h"
+
+namespace minihost {
+
+class Store;
+
+/// Segment types as the segment list holds them.
+enum class SegmentType : Int { end = 1, repeat = 2, branch3 = 3, branch4 = 4 };
+
+/// The polymer data of a run, by component index.
+struct PolymerLists {
+    struct Segment {
+        Int component;
+        SegmentType type = SegmentType::repeat;
+    };
+    struct Oligomer {
+        Int component;
+        std::map<Int, double> counts;  ///< segments per molecule, by the segment's component index
+    };
+    std::vector<Segment> segments;  ///< any order; the list is laid in ascending index order
+    std::vector<Int> polymers;
+    std::vector<Oligomer> oligomers;  ///< any order; laid in ascending index order
+    std::vector<Int> end_segments;    ///< in the order of the input
+    Int sites = 0;                    ///< catalyst site types
+};
+
+/// Lays the block and returns its id. Throws Error for an oligomer count of a component that is no segment.
+BlockId lay_polymer_block(Store& store, const PolymerLists& lists);
+
+}  // namespace minihost
+
+#endif

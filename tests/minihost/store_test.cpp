@@ -1,0 +1,188 @@
+#include "minihost/store.h"
+
+#include <gtest/gtest.h>
+#include <polyprops/host.h>
+
+#include <functional>
+
+#include "minihost/error.h"
+#include "minihost/host.h"
+
+namespace minihost {
+namespace {
+
+std::string refusal(const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const Error& error) {
+        return error.what();
+    }
+    return "";
+}
+
+class StoreModes : public testing::TestWithParam<Store::Mode> {};
+INSTANTIATE_TEST_SUITE_P(Store, StoreModes, testing::Values(Store::Mode::plain, Store::Mode::checked),
+                         [](const auto& mode) {
+                             return mode.param == Store::Mode::plain ? "plain" : "checked";
+                         });
+
+TEST_P(StoreModes, BlocksKeepTheirContentsThroughAllocationsGrowthAndFrees)
+{
+    Store store(GetParam());
+    const BlockId numbers = store.allocate_integers(3);
+    const BlockId table = store.allocate_two_part(2, 4);
+    for (Int k = 1; k <= 3; ++k) store.set_integer(numbers, k, 10 * k);
+    for (Int k = 1; k <= 2; ++k) store.set_integer(table, k, -k);
+    for (Int k = 1; k <= 4; ++k) store.set_real(table, k, 0.5 * static_cast<double>(k));
+    for (int round = 0; round < 200; ++round) {
+        const BlockId scratch = store.allocate_reals(round);
+        store.resize_integers(numbers, 3 + round % 5);
+        if (round % 2) store.free(scratch);
+    }
+    store.resize_integers(numbers, 2);
+    store.verify();
+    EXPECT_EQ(store.integer_length(numbers), 2);
+    EXPECT_EQ(store.integer(numbers, 1), 10);
+    EXPECT_EQ(store.integer(numbers, 2), 20);
+    EXPECT_EQ(ST_WORDS[store.keys(table) + 1 - 1], -2);
+    EXPECT_EQ(real_of(ST_WORDS[store.values(table) + 3 - 1]), 2.0);
+}
+
+TEST_P(StoreModes, RefusesWhatAHostMustRefuse)
+{
+    Store store(GetParam());
+    const BlockId one = store.allocate_integers(1);
+    const BlockId freed = store.allocate_integers(1);
+    store.free(freed);
+    const struct {
+        std::function<void()> action;
+        const char* text;
+    } cases[] = {
+        {[&] { store.integers(0); }, "store block 0 does not exist"},
+        {[&] { store.integers(99); }, "store block 99 does not exist"},
+        {[&] { store.integers(freed); }, "store block 2 was freed"},
+        {[&] { store.free(freed); }, "store block 2 was freed"},
+        {[&] { store.reals(one); }, "store block 1 holds integers; asked for as reals"},
+        {[&] { store.allocate_reals(-1); }, "a store block cannot have -1 words"},
+        {[&] { store.resize_integers(one, -3); }, "a store block cannot have -3 words"},
+        {[&] { store.allocate_reals(Store::capacity); }, "the store is full: no room for 16000000 words"},
+        {[&] { store.integer(one, 2); }, "store block 1 has no integer word 2; it has 1"},
+        {[&] { store.check_run(ST_WORDS + Store::capacity - 1, 2, "CC_INDEX"); },
+         "CC_INDEX: store positions 16000000 to 16000001 are out of range"},
+    };
+    for (const auto& c : cases) EXPECT_EQ(refusal(c.action), c.text);
+    EXPECT_EQ(store.allocate_integers(1), 3) << "a refused allocation gives no id away";
+}
+
+TEST(Store, PlainModeReusesFreedSpaceAndClearsIt)
+{
+    Store store(Store::Mode::plain);
+    const BlockId first = store.allocate_integers(8);
+    store.allocate_integers(8);
+    const Position place = store.integers(first);
+    store.set_integer(first, 8, 77);
+    store.free(first);
+    const BlockId again = store.allocate_integers(8);
+    EXPECT_EQ(store.integers(again), place);
+    EXPECT_EQ(store.integer(again, 8), 0);
+}
+
+TEST(Store, PlainModeHoldsNearlySixteenMillionWordsInOneBlock)
+{
+    Store store(Store::Mode::plain);
+    const BlockId large = store.allocate_reals(Store::capacity - 1);
+    EXPECT_THROW(store.allocate_integers(1), Error);
+    store.free(large);
+    EXPECT_GT(store.allocate_integers(1), 0);
+}
+
+TEST(Store, CheckedModeMovesEveryBlockButThePinnedOnes)
+{
+    Store store(Store::Mode::checked);
+    const BlockId movable = store.allocate_two_part(2, 2);
+    const BlockId pinned = store.allocate_reals(2, Placement::pinned);
+    const Position stays = store.reals(pinned);
+    std::set<Position> keys;
+    std::set<Position> values;
+    for (int round = 0; round < 10; ++round) {
+        store.allocate_integers(1);
+        EXPECT_TRUE(keys.insert(store.keys(movable)).second) << "an earlier position is good again";
+        EXPECT_TRUE(values.insert(store.values(movable)).second);
+    }
+    EXPECT_EQ(store.reals(pinned), stays);
+}
+
+TEST(Store, CheckedModeHandsOutGarbage)
+{
+    Store store(Store::Mode::checked);
+    EXPECT_EQ(store.integer(store.allocate_integers(1), 1), Store::poison);
+}
+
+TEST(Store, CheckedModeServesUntilItsHalfIsFull)
+{
+    Store store(Store::Mode::checked);
+    const BlockId numbers = store.allocate_integers(1);
+    store.set_integer(numbers, 1, 5);
+    EXPECT_EQ(refusal([&] {
+                  for (;;) store.allocate_reals(999'999);
+              }),
+              "the store is full: no room for 999999 words");
+    store.verify();
+    EXPECT_EQ(store.integer(numbers, 1), 5);
+}
+
+#ifdef __SANITIZE_ADDRESS__
+TEST(StoreDeathTest, TheAddressSanitizerSeesNothingButLiveBlocks)
+{
+    Store store(Store::Mode::checked);
+    const BlockId block = store.allocate_integers(4);
+    const volatile int64_t* words = ST_WORDS + store.integers(block) - 1;
+    EXPECT_DEATH(static_cast<void>(words[4]), "use-after-poison");
+    store.allocate_integers(1);
+    EXPECT_DEATH(static_cast<void>(words[0]), "use-after-poison");
+}
+#else
+TEST(Store, CheckedModeNamesTheBlockWhoseFenceIsDamaged)
+{
+    for (const int beyond : {-1, 4}) {
+        Store store(Store::Mode::checked);
+        store.allocate_integers(4);
+        const BlockId hit = store.allocate_integers(4);
+        store.verify();
+        ST_WORDS[store.integers(hit) - 1 + beyond] = 1;
+        EXPECT_EQ(refusal([&] { store.verify(); }), "words beside store block 2 were overwritten");
+        EXPECT_NE(refusal([&] { store.integers(hit); }), "");
+        EXPECT_NE(refusal([&] { store.allocate_reals(1); }), "");
+    }
+}
+
+TEST(Store, CheckedModePoisonsFreedAndVacatedWords)
+{
+    Store store(Store::Mode::checked);
+    const BlockId kept = store.allocate_integers(1);
+    const BlockId freed = store.allocate_integers(1);
+    store.set_integer(kept, 1, 1);
+    store.set_integer(freed, 1, 2);
+    const Position freed_at = store.integers(freed);
+    store.free(freed);
+    EXPECT_EQ(ST_WORDS[freed_at - 1], Store::poison);
+    const Position vacated = store.integers(kept);
+    store.allocate_integers(1);
+    EXPECT_EQ(ST_WORDS[vacated - 1], Store::poison);
+}
+#endif
+
+TEST(Store, CheckedModeRefusesARunThatLeavesItsBlock)
+{
+    Store store(Store::Mode::checked);
+    const BlockId list = store.allocate_integers(4);
+    const int64_t* second = ST_WORDS + store.integers(list);
+    const int64_t outside[2] = {};
+    store.check_run(second, 3, "CC_INDEX");
+    store.check_run(outside, 2, "CC_INDEX");
+    EXPECT_THROW(store.check_run(second, 4, "CC_INDEX"), Error);
+}
+
+}  // namespace
+}  // namespace minihost

@@ -1,0 +1,66 @@
+// Arrays for outputs, filled with a sentinel and fenced by more of it, to see what a routine left untouched.
+#ifndef TESTS_SUPPORT_GUARDED_H
+#define TESTS_SUPPORT_GUARDED_H
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cstdint>
+#include <initializer_list>
+#include <vector>
+
+namespace support {
+
+template <typename T>
+class Guarded {
+public:
+    /// A number that no calculation gives by chance.
+    static constexpr T sentinel = std::bit_cast<T>(std::int64_t{0x40C3'87AD'DEAD'BEEF});
+
+    /// `size` elements that hold the sentinel.
+    explicit Guarded(std::size_t size) : words_(size + 2 * fence, sentinel), size_(size) {}
+
+    /// The given elements.
+    Guarded(std::initializer_list<T> values) : Guarded(values.size())
+    {
+        std::copy(values.begin(), values.end(), data());
+    }
+
+    T* data() { return words_.data() + fence; }
+    operator T*() { return data(); }
+
+    /// Element i, from 1.
+    T& operator()(std::int64_t i) { return words_.at(fence + static_cast<std::size_t>(i - 1)); }
+    T operator()(std::int64_t i) const { return words_.at(fence + static_cast<std::size_t>(i - 1)); }
+
+    std::vector<T> values() const
+    {
+        const auto first = words_.begin() + static_cast<std::ptrdiff_t>(fence);
+        return {first, first + static_cast<std::ptrdiff_t>(size_)};
+    }
+
+    /// Nothing was written beside the elements.
+    bool fence_holds() const
+    {
+        for (std::size_t k = 0; k < fence; ++k)
+            if (words_[k] != sentinel || words_[fence + size_ + k] != sentinel) return false;
+        return true;
+    }
+
+    bool untouched(std::int64_t i) const { return (*this)(i) == sentinel; }
+
+    /// No element was written either.
+    bool untouched() const { return words_ == std::vector<T>(words_.size(), sentinel); }
+
+private:
+    static constexpr std::size_t fence = 4;
+    std::vector<T> words_;
+    std::size_t size_;
+};
+
+using GuardedReals = Guarded<double>;
+using GuardedInts = Guarded<std::int64_t>;
+
+}  // namespace support
+
+#endif

@@ -1,0 +1,159 @@
+// Worlds for tests: a run's components, polymer data and streams, told as facts.
+//
+//   auto world = World{}.segments({"A", "B"})
+//                       .polymer("P", {{"DPN", 120}, {"SFLOW", {30, 10}}})
+//                       .oligomer("O", {{"A", 2}, {"B", 3}})
+//                       .conventional("W", 18)
+//                       .parameter("P", Parameter::dpn, 7);
+//   EXPECT_EQ(world.ask(POLY_GETDPN, "P"), 120);
+//
+// Components get their indices in the order in which they are named, behind one that nothing names: so the
+// index of a component is never its position in a list by accident. The embedded host is made at the first
+// question, with a checked store; after that the facts stand. One world at a time may be asked.
+#ifndef TESTS_SUPPORT_WORLD_H
+#define TESTS_SUPPORT_WORLD_H
+
+#include <initializer_list>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "minihost/host.h"
+
+namespace support {
+
+using minihost::ComponentClass;
+using minihost::Int;
+using minihost::Parameter;
+using minihost::SegmentType;
+using Real = double;
+
+inline constexpr double missing = 1e35;
+inline constexpr double zero_bound = 1e-15;
+
+/// An attribute and its values.
+struct Attribute {
+    Attribute(const char* attribute, double value) : name(attribute), values{value} {}
+    Attribute(const char* attribute, std::initializer_list<double> all) : name(attribute), values(all) {}
+    std::string name;
+    std::vector<double> values;
+};
+using Attributes = std::vector<Attribute>;
+
+struct Segment {
+    Segment(const char* segment, double weight = 100, SegmentType segment_type = SegmentType::repeat)
+        : id(segment), molecular_weight(weight), type(segment_type)
+    {
+    }
+    std::string id;
+    double molecular_weight;
+    SegmentType type;
+};
+
+/// One substream of an explicit stream vector.
+struct Part {
+    Int type = 1;
+    std::map<std::string, double> flows = {};
+    std::map<std::string, Attributes> attributes = {};
+};
+
+class World {
+public:
+    World();
+
+    // ---- facts
+
+    /// Segment components and their places in the segment list; those of type end also join the end-segment
+    /// list.
+    World& segments(std::initializer_list<Segment> segments);
+    /// A polymer component, listed as a polymer, with its attributes in the current stream.
+    World& polymer(const std::string& id, const Attributes& attributes = {}, double molecular_weight = 1);
+    /// An oligomer component, listed as an oligomer, with its segments per molecule.
+    World& oligomer(const std::string& id, const std::map<std::string, double>& counts,
+                    double molecular_weight = 1);
+    World& conventional(const std::string& id, double molecular_weight = 1, const std::string& name = "");
+    /// A component of a class that stands in no list.
+    World& component(const std::string& id, ComponentClass component_class, double molecular_weight = 1);
+
+    World& parameter(const std::string& id, Parameter parameter, double value);
+    /// The parameter vector does not exist, whatever components give.
+    World& without(Parameter parameter);
+    /// What the host says of a component, whatever lists it stands in.
+    World& class_of(const std::string& id, ComponentClass component_class);
+
+    /// Attributes of any component in the current stream.
+    World& attributes(const std::string& id, const Attributes& attributes);
+    /// The component carries the attribute, but the host gives an offset that is not positive.
+    World& hidden_attribute(const std::string& id, const std::string& attribute, Int offset = -1);
+    World& flow(const std::string& id, double flow);
+    World& stream(const std::string& name, const std::vector<Part>& parts);
+
+    World& sites(Int count);
+    World& end_segments(const std::vector<std::string>& ids);
+    World& bounds(double missing_value_bound, double zero_bound);
+    World& pdi_mode(Int mode);
+    World& polymer_count(Int count);
+    /// The host gives this id (0 or less) for the polymer block.
+    World& without_polymer_block(minihost::BlockId id = 0);
+    World& store_mode(minihost::Store::Mode mode);
+
+    // ---- questions
+
+    minihost::Host& host();
+    Int index(const std::string& id) const;
+    std::vector<Int> indices(const std::vector<std::string>& ids) const;
+    Int component_count() const { return static_cast<Int>(components_.size()); }
+    /// Molecular weights by component index.
+    std::vector<double> molecular_weights() const;
+    /// Component indices in segment-list order.
+    std::vector<Int> segment_list() const;
+    const minihost::StreamView& view(const std::string& stream);
+
+    /// Results of a routine with the arguments selector, N, IDX, OUT.
+    template <typename Routine>
+    std::vector<double> ask(Routine* routine, const std::vector<std::string>& ids, Int selector = 1)
+    {
+        host();
+        const std::vector<Int> listed = indices(ids);
+        const auto n = static_cast<Int>(listed.size());
+        std::vector<double> out(listed.size(), -12345.0);
+        routine(&selector, &n, listed.data(), out.data());
+        return out;
+    }
+    template <typename Routine>
+    double ask(Routine* routine, const char* id, Int selector = 1)
+    {
+        return ask(routine, std::vector<std::string>{id}, selector).front();
+    }
+
+private:
+    World& add(minihost::Component component);
+    minihost::Component& at(const std::string& id);
+    minihost::PolymerLists lists() const;
+    std::vector<minihost::Stream> all_streams() const;
+    void carry_attributes(minihost::Host& host) const;
+    void set_records(minihost::Host& host) const;
+    std::shared_ptr<minihost::Host> make_host() const;
+
+    std::vector<minihost::Component> components_;
+    std::vector<Segment> segments_;
+    std::vector<std::string> polymers_;
+    std::map<std::string, std::map<std::string, double>> oligomers_;
+    std::vector<std::string> end_segments_;
+    Part current_;
+    std::vector<std::pair<std::string, std::vector<Part>>> streams_;
+    std::map<std::pair<std::string, std::string>, Int> hidden_;
+    minihost::Options options_;
+    Int sites_ = 0;
+    std::optional<Int> pdi_mode_;
+    std::optional<Int> polymer_count_;
+    std::optional<minihost::BlockId> polymer_block_;
+    std::shared_ptr<minihost::Host> host_;
+};
+
+}  // namespace support
+
+#endif
