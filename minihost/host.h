@@ -20,8 +20,10 @@
 #include "minihost/components.h"
 #include "minihost/error.h"
 #include "minihost/polymer_block.h"
+#include "minihost/report_file.h"
 #include "minihost/store.h"
 #include "minihost/streams.h"
+#include "minihost/summary_file.h"
 
 namespace minihost {
 
@@ -48,6 +50,8 @@ public:
     const ComponentTable& components() const { return components_; }
     AttributeTable& attributes() { return attributes_; }
     const StreamTable& streams() const { return streams_; }
+    ReportFile& report() { return report_; }
+    SummaryFile& summary() { return summary_; }
 
     /// Id of the polymer block that the library is given; 0 or less: the run has no polymer data.
     BlockId polymer_block();
@@ -83,6 +87,8 @@ private:
     ComponentTable components_;
     AttributeTable attributes_;
     StreamTable streams_;
+    ReportFile report_;
+    SummaryFile summary_;
 };
 
 }  // namespace minihost

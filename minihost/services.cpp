@@ -165,4 +165,31 @@ int64_t CC_INDEX(const int64_t* list, const int64_t* count, const int64_t* value
     return found == end ? 0 : found - list + 1;
 }
 
+void RP_RESERVE_LINES(const int64_t* lines, const int64_t* new_page, const int64_t* three,
+                      const int64_t* rptglobal2)
+{
+    note("RP_RESERVE_LINES", *lines);
+    if (*three != 3 || *rptglobal2 != ST_RPTGLOBAL[2 - 1])
+        throw Error("RP_RESERVE_LINES: expected 3 and word 2 of ST_RPTGLOBAL as the last arguments");
+    Host::active().report().reserve(*lines, *new_page == 1);
+}
+
+void RP_WRITE_LINE(const int32_t* unit, const int64_t* length, const char* text)
+{
+    note("RP_WRITE_LINE", *length);
+    Host::active().report().write_line(*unit, *length, text);
+}
+
+void ST_SUMMARY_OUT(const int64_t* kind, const int64_t* length, const int64_t* data, const double* real)
+{
+    note("ST_SUMMARY_OUT", *kind);
+    Host::active().summary().write_token(*kind, *length, data, *real);
+}
+
+void RP_SUMMARY_HEADER(const void* context, const int64_t* block_name_pair, const int64_t* zero)
+{
+    note("RP_SUMMARY_HEADER", 0, block_name_pair);
+    Host::active().summary().write_header(context, block_name_pair, *zero);
+}
+
 }  // extern "C"
