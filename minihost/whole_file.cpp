@@ -31,7 +31,8 @@ bool write_all(const std::filesystem::path& path, std::string_view content)
 void write_whole_file(const std::filesystem::path& path, std::string_view content)
 {
     std::filesystem::path temporary = path;
-    temporary += "." + std::to_string(::getpid()) + ".tmp";
+    temporary += '.';
+    temporary += std::to_string(::getpid()) + ".tmp";
     if (write_all(temporary, content) && std::rename(temporary.c_str(), path.c_str()) == 0) return;
     const std::string reason = std::strerror(errno);
     std::remove(temporary.c_str());

@@ -16,6 +16,10 @@ namespace polyprops::distribution {
 
 namespace {
 
+constexpr NamePair composite_block{"YCSD"};
+constexpr NamePair lengths_block{"XCSD"};
+constexpr NamePair sections_block{"YCSDS"};
+
 template <class Body>
 void index_set(std::string_view name, Body write_body)
 {
@@ -78,15 +82,15 @@ void write_plot_data(const void* context, const PlotData& data)
     property_set(40001);
     property_set(40002);
     list_set({summary::next_data_set() - 2, summary::next_data_set() - 3});
-    summary::data_block(context, NamePair{"YCSD"}, [&] { write_column(data, 1); });
+    summary::data_block(context, composite_block, [&] { write_column(data, 1); });
     list_set({summary::next_data_set() - 1, summary::next_data_set() - 3});
-    summary::data_block(context, NamePair{"XCSD"}, [&] {
+    summary::data_block(context, lengths_block, [&] {
         for (Int k = 1; k <= data.points; ++k) summary::real(data.lengths(k) * data.length_scale);
     });
     count_set("TRAY_NO", data.sections);
     property_set(40009);
     list_set({summary::next_data_set() - 1, points_set, summary::next_data_set() - 2});
-    summary::data_block(context, NamePair{"YCSDS"}, [&] {
+    summary::data_block(context, sections_block, [&] {
         for (Int c = 1; c <= data.sections; ++c) write_column(data, c + 1);
     });
 }

@@ -3,6 +3,8 @@
 // ST_SUMGLOBAL counts them: word 2 the current block, word 3 the next data set, word 4 the next list set.
 #pragma once
 
+#include <algorithm>
+
 #include "host/words.h"
 
 namespace polyprops {
@@ -32,11 +34,13 @@ inline void put(Int kind, Int length, const Int* data, Real real)
 // Up to twelve characters, four to a word.
 inline void put_text(Int kind, std::string_view text)
 {
-    const auto word_from = [&](std::size_t first) {
-        return text_word(text.size() > first ? text.substr(first) : std::string_view{});
-    };
-    const std::array words{word_from(0), word_from(4), word_from(8)};
-    put(kind, static_cast<Int>(text.size()), words.data(), no_real());
+    const Int length = static_cast<Int>(text.size());
+    std::array<Int, 3> words;
+    for (Int& word : words) {
+        word = text_word(text);
+        text.remove_prefix(std::min<std::size_t>(text.size(), 4));
+    }
+    put(kind, length, words.data(), no_real());
 }
 inline void put_integer(Int kind, Int value)
 {

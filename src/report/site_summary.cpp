@@ -6,6 +6,8 @@ namespace polyprops::report {
 
 namespace {
 
+constexpr NamePair results_block{"POLYRES"};
+
 // The data sets are referred to by name, not by number.
 void list_against_sites()
 {
@@ -46,7 +48,7 @@ void POLY_WRTPOLSUM(const void* CONTEXT, const Int* NS, const Real* R1, const Re
 {
     if (polymer_count_of_run() <= 0 || !summary_is_wanted()) return;
     report::list_against_sites();
-    summary::data_block(CONTEXT, NamePair{"POLYRES"}, [&] {
+    summary::data_block(CONTEXT, report::results_block, [&] {
         report::write_separated(Vector{R1, *NS}, *NS);
         for (const Real* results : {R2, R3, R4, R5, R6, R7}) report::write_plain(Vector{results, *NS}, *NS);
     });
