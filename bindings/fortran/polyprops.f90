@@ -768,6 +768,90 @@ module polyprops
             real(c_double), intent(inout) :: pdi(n)
         end subroutine poly_getpoli
 
+        ! ---- binary interaction parameters
+
+        ! Binary parameter of one pair at a temperature, and its temperature derivative.
+        subroutine poly_tbpara(t, p1, p2, p3, p4, p5, tr, mode, value, deriv) &
+                bind(c, name="POLY_TBPARA")
+            use, intrinsic :: iso_c_binding, only: c_double, c_int64_t
+            real(c_double), intent(in) :: t
+            real(c_double), intent(in) :: p1
+            real(c_double), intent(in) :: p2
+            real(c_double), intent(in) :: p3
+            real(c_double), intent(in) :: p4
+            real(c_double), intent(in) :: p5
+            real(c_double), intent(in) :: tr
+            integer(c_int64_t), intent(in) :: mode
+            real(c_double), intent(inout) :: value
+            real(c_double), intent(inout) :: deriv
+        end subroutine poly_tbpara
+
+        ! Binary parameters of all ordered pairs at a temperature, diagonal included.
+        subroutine poly_tbkij3(t, n, k, m, p, kij) &
+                bind(c, name="POLY_TBKIJ3")
+            use, intrinsic :: iso_c_binding, only: c_double, c_int64_t
+            real(c_double), intent(in) :: t
+            integer(c_int64_t), intent(in) :: n
+            integer(c_int64_t), intent(in) :: k
+            integer(c_int64_t), intent(in) :: m
+            real(c_double), intent(in) :: p(n, m, m)
+            real(c_double), intent(inout) :: kij(m, m)
+        end subroutine poly_tbkij3
+
+        ! Binary parameters of the pairs of selected rows at a temperature, and their temperature derivatives.
+        subroutine poly_tbkij4(t, n, k, m, p, kij, dkij, mode, select) &
+                bind(c, name="POLY_TBKIJ4")
+            use, intrinsic :: iso_c_binding, only: c_double, c_int64_t
+            real(c_double), intent(in) :: t
+            integer(c_int64_t), intent(in) :: n
+            integer(c_int64_t), intent(in) :: k
+            integer(c_int64_t), intent(in) :: m
+            integer(c_int64_t), intent(in) :: mode
+            real(c_double), intent(in) :: p(n, m, m)
+            real(c_double), intent(inout) :: kij(m, m)
+            real(c_double), intent(inout) :: dkij(m, m)
+            real(c_double), intent(in) :: select(m)
+        end subroutine poly_tbkij4
+
+        ! Binary parameters of selected pairs at a temperature, in the form that the number of positions names.
+        subroutine poly_kij5(t, n, k, m, p, select, mask, kij) &
+                bind(c, name="POLY_KIJ5")
+            use, intrinsic :: iso_c_binding, only: c_double, c_int64_t
+            real(c_double), intent(in) :: t
+            integer(c_int64_t), intent(in) :: n
+            integer(c_int64_t), intent(in) :: k
+            integer(c_int64_t), intent(in) :: m
+            real(c_double), intent(in) :: p(n, m, m)
+            real(c_double), intent(in) :: select(m)
+            integer(c_int64_t), intent(in) :: mask(m)
+            real(c_double), intent(inout) :: kij(m, m)
+        end subroutine poly_kij5
+
+        ! Temperature times the temperature derivative of the parameters of POLY_KIJ5.
+        subroutine poly_dkij5(t, n, k, m, p, select, mask, dkij) &
+                bind(c, name="POLY_DKIJ5")
+            use, intrinsic :: iso_c_binding, only: c_double, c_int64_t
+            real(c_double), intent(in) :: t
+            integer(c_int64_t), intent(in) :: n
+            integer(c_int64_t), intent(in) :: k
+            integer(c_int64_t), intent(in) :: m
+            real(c_double), intent(in) :: p(n, m, m)
+            real(c_double), intent(in) :: select(m)
+            integer(c_int64_t), intent(in) :: mask(m)
+            real(c_double), intent(inout) :: dkij(m, m)
+        end subroutine poly_dkij5
+
+        ! Completes a binary parameter array in which pairs are given in only one order of their components.
+        subroutine poly_tbpari(n, m, p, k, mode) &
+                bind(c, name="POLY_TBPARI")
+            use, intrinsic :: iso_c_binding, only: c_double, c_int64_t
+            integer(c_int64_t), intent(in) :: n
+            integer(c_int64_t), intent(in) :: m
+            integer(c_int64_t), intent(in) :: k
+            integer(c_int64_t), intent(in) :: mode
+            real(c_double), intent(inout) :: p(n, m, m)
+        end subroutine poly_tbpari
+
         ! ---- input semantics
 
         ! Checks the polymer input paragraph, reports bad entries and builds the polymer block from the rest.
@@ -792,5 +876,90 @@ module polyprops
             integer(c_int64_t), intent(in) :: unused1
             integer(c_int64_t), intent(in) :: located
         end subroutine poly_catscalesem
+
+        ! ---- chain-length distributions
+
+        ! Chain-length grid on a logarithmic scale, and cleared arrays to accumulate distributions in.
+        subroutine poly_csdini(n, m, x, pmax, w, y, col) &
+                bind(c, name="POLY_CSDINI")
+            use, intrinsic :: iso_c_binding, only: c_double, c_int64_t
+            integer(c_int64_t), intent(in) :: n
+            integer(c_int64_t), intent(in) :: m
+            real(c_double), intent(in) :: pmax
+            real(c_double), intent(inout) :: x(n)
+            real(c_double), intent(inout) :: w(m+1)
+            real(c_double), intent(inout) :: y(n)
+            real(c_double), intent(inout) :: col(n, m)
+        end subroutine poly_csdini
+
+        ! Mixes two distributions in proportion to their weights.
+        subroutine poly_csdadd(n, y1, w1, y2, w2, y, w) &
+                bind(c, name="POLY_CSDADD")
+            use, intrinsic :: iso_c_binding, only: c_double, c_int64_t
+            integer(c_int64_t), intent(in) :: n
+            real(c_double), intent(in) :: w1
+            real(c_double), intent(in) :: w2
+            real(c_double), intent(inout) :: w
+            real(c_double), intent(in) :: y1(n)
+            real(c_double), intent(in) :: y2(n)
+            real(c_double), intent(inout) :: y(n)
+        end subroutine poly_csdadd
+
+        ! Adds one increment of polymer, made by several site types, to running chain-length distributions.
+        subroutine poly_csdcal(n, ns, mode, tau, beta, f, x, w, y, col) &
+                bind(c, name="POLY_CSDCAL")
+            use, intrinsic :: iso_c_binding, only: c_double, c_int64_t
+            integer(c_int64_t), intent(in) :: n
+            integer(c_int64_t), intent(in) :: ns
+            integer(c_int64_t), intent(in) :: mode
+            real(c_double), intent(in) :: tau(ns)
+            real(c_double), intent(in) :: beta(ns)
+            real(c_double), intent(in) :: f(ns)
+            real(c_double), intent(in) :: x(n)
+            real(c_double), intent(inout) :: w(ns+1)
+            real(c_double), intent(inout) :: y(n)
+            real(c_double), intent(inout) :: col(n, ns)
+        end subroutine poly_csdcal
+
+        ! Writes a composite distribution to the host's report, and it and its sections to the host's summary file.
+        subroutine poly_csdplot(context, unused1, unused2, unused3, unused4, unused5, unused6, unused7, &
+                unused8, unused9, n, x, y, nc, scale, scaled, gpc) &
+                bind(c, name="POLY_CSDPLOT")
+            use, intrinsic :: iso_c_binding, only: c_double, c_int64_t
+            type(*), intent(in) :: context(*)
+            type(*), intent(in) :: unused1(*)
+            type(*), intent(in) :: unused2(*)
+            type(*), intent(in) :: unused3(*)
+            type(*), intent(in) :: unused4(*)
+            type(*), intent(in) :: unused5(*)
+            type(*), intent(in) :: unused6(*)
+            type(*), intent(in) :: unused7(*)
+            type(*), intent(in) :: unused8(*)
+            type(*), intent(in) :: unused9(*)
+            integer(c_int64_t), intent(in) :: n
+            integer(c_int64_t), intent(in) :: nc
+            real(c_double), intent(in) :: scale
+            integer(c_int64_t), intent(in) :: scaled
+            integer(c_int64_t), intent(in) :: gpc
+            real(c_double), intent(in) :: x(n)
+            real(c_double), intent(in) :: y(n, nc+1)
+        end subroutine poly_csdplot
+
+        ! ---- reports
+
+        ! Writes polymer results per catalyst site type to the host's summary file.
+        subroutine poly_wrtpolsum(context, ns, r1, r2, r3, r4, r5, r6, r7) &
+                bind(c, name="POLY_WRTPOLSUM")
+            use, intrinsic :: iso_c_binding, only: c_double, c_int64_t
+            type(*), intent(in) :: context(*)
+            integer(c_int64_t), intent(in) :: ns
+            real(c_double), intent(in) :: r1(ns)
+            real(c_double), intent(in) :: r2(ns)
+            real(c_double), intent(in) :: r3(ns)
+            real(c_double), intent(in) :: r4(ns)
+            real(c_double), intent(in) :: r5(ns)
+            real(c_double), intent(in) :: r6(ns)
+            real(c_double), intent(in) :: r7(ns)
+        end subroutine poly_wrtpolsum
     end interface
 end module polyprops
