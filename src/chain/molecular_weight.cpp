@@ -14,12 +14,6 @@ namespace polyprops::chain {
 
 namespace {
 
-// Strictly between the zero bound and the missing-value bound.
-bool is_usable(Real moment)
-{
-    return moment > zero_bound() && moment < missing_value_bound();
-}
-
 Real segment_mass_flow(const PolymerData& data, const Attribute& flows)
 {
     Real mass = 0.0;
@@ -32,7 +26,7 @@ Real weight_from_flows(const PolymerData& data, const Species& species)
     const Real own_weight = molecular_weight(species.component());
     if (!data.exists() || data.polymers().count() < 1 || !species.is_polymer()) return own_weight;
     const Attribute zeroth_moment = species.attribute(AttributeName::zmom);
-    if (!zeroth_moment.is_present() || !is_usable(zeroth_moment.value())) return own_weight;
+    if (!zeroth_moment.is_present() || !is_between_bounds(zeroth_moment.value())) return own_weight;
     const Real mass = segment_mass_flow(data, species.attribute(AttributeName::sflow));
     return mass > zero_bound() ? mass / zeroth_moment.value() : own_weight;
 }
@@ -41,7 +35,8 @@ Real weight_average_weight(const PolymerData& data, const Species& species)
 {
     const Component c = species.component();
     if (!species.has_chains()) return polydispersity_parameter(c) * molecular_weight(c);
-    return polydispersity(data, species) * number_average_weight(data, species);
+    const Real number_average = number_average_weight(data, species);
+    return polydispersity(data, species) * number_average;
 }
 
 }  // namespace
@@ -57,22 +52,28 @@ Real polydispersity_parameter(Component c)
     return ParameterVector::polydispersity().value_or(1.0, c);
 }
 
-Real polydispersity(const PolymerData& data, const Species& species)
+std::optional<PolydispersityMoments> polydispersity_moments(const PolymerData& data, const Species& species)
 {
-    const Real parameter = polydispersity_parameter(species.component());
-    if (!data.exists() || keeps_polydispersity_parameter() || data.polymers().count() < 1) return parameter;
-    if (!species.is_polymer()) return parameter;
+    if (!data.exists() || keeps_polydispersity_parameter() || data.polymers().count() < 1) return {};
+    if (!species.is_polymer()) return {};
     const Attribute zeroth_moment = species.attribute(AttributeName::zmom);
     const Attribute second_moment = species.attribute(AttributeName::smom);
-    if (!second_moment.is_present() || !zeroth_moment.is_present()) return parameter;
+    if (!second_moment.is_present() || !zeroth_moment.is_present()) return {};
     const Real chains = zeroth_moment.value();
-    if (!is_usable(chains)) return parameter;
+    if (!is_between_bounds(chains)) return {};
     const Attribute flows = species.attribute(AttributeName::sflow);
     const Real segments = flows.sum(data.segments().count());
-    // The bound is inclusive here: flows of exactly the zero bound still count.
-    if (segment_mass_flow(data, flows) >= zero_bound() && segments >= zero_bound())
-        return (second_moment.value() / segments) / (segments / chains);
-    return parameter;
+    // The bound is inclusive here: flows of exactly the zero bound still count, but a bound of 0 must not
+    // divide by 0.
+    if (segment_mass_flow(data, flows) >= zero_bound() && segments >= zero_bound() && segments > 0.0)
+        return PolydispersityMoments{chains, segments, second_moment.value()};
+    return {};
+}
+
+Real polydispersity(const PolymerData& data, const Species& species)
+{
+    const auto moments = polydispersity_moments(data, species);
+    return moments ? moments->index() : polydispersity_parameter(species.component());
 }
 
 Real weight_from_counts(SegmentCountMatrix<const Real> counts, ByComponent<const Real> weights,
@@ -89,22 +90,37 @@ using namespace polyprops;
 
 void POLY_GETMWN(const Int* SEL, const Int* N, const Int* IDX, Real* MWN)
 {
-    chain::average_each(chain::molecular_weight_parts, {*SEL}, {*N, IDX}, MWN, chain::number_average_weight);
+    const ComponentList components{*N, IDX};
+    const Vector<Real> mwn{MWN, *N};
+    auto data = PolymerData::locate(0);
+    for (Int i = 1; i <= components.count(); ++i) {
+        const Species species{{*SEL}, components(i)};
+        if (data.exists() && species.has_chains()) data.ensure(chain::molecular_weight_parts);
+        mwn(i) = chain::number_average_weight(data, species);
+    }
 }
 
 void POLY_GETMRT(const Int* SEL, const Int* N, const Int* IDX, Real* MRT)
 {
-    chain::average_each(chain::polydispersity_parts, {*SEL}, {*N, IDX}, MRT, chain::weight_from_flows);
+    chain::average_each(chain::moment_parts, {*SEL}, {*N, IDX}, MRT, chain::weight_from_flows);
 }
 
 void POLY_GETMWW(const Int* SEL, const Int* N, const Int* IDX, Real* MWW)
 {
-    chain::average_each(chain::molecular_weight_parts, {*SEL}, {*N, IDX}, MWW, chain::weight_average_weight);
+    const ComponentList components{*N, IDX};
+    const Vector<Real> mww{MWW, *N};
+    PolymerData data;
+    for (Int i = 1; i <= components.count(); ++i) {
+        const Species species{{*SEL}, components(i)};
+        if (species.has_chains()) data.ensure(chain::molecular_weight_parts);
+        mww(i) = chain::weight_average_weight(data, species);
+    }
 }
 
 void POLY_GETPDI(const Int* SEL, const Int* N, const Int* IDX, Real* PDI)
 {
-    chain::average_each(chain::polydispersity_parts, {*SEL}, {*N, IDX}, PDI, chain::polydispersity);
+    const unsigned parts = keeps_polydispersity_parameter() ? 0U : chain::moment_parts;
+    chain::average_each(parts, {*SEL}, {*N, IDX}, PDI, chain::polydispersity);
 }
 
 void POLY_GETMWN1(const Int* LD, const Real* MW, const Int* NSEG, const Int* ISEG, const Real* SCM,
