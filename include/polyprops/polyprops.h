@@ -52,6 +52,8 @@ extern "C" {
  * - An oligomer whose DPN parameter is within 1e-10 of 1: its segment count from the oligomer list, if it is
  *   in that list. Any other oligomer, and a conventional component: the DPN parameter.
  * - N < 1: nothing is written.
+ * - A NaN found for a component of a run with chains gives 1.0.
+ * - An oligomer that stands twice in the oligomer list takes its first entry.
  */
 POLYPROPS_API void POLY_GETDPN(const int64_t* sel, const int64_t* n, const int64_t* idx, double* dpn);
 
@@ -116,6 +118,11 @@ POLYPROPS_API void POLY_GETDPN2(const int64_t* ld, const int64_t* nseg, const in
  *   oligomer.
  * - An oligomer whose counts do not sum to more than 0: Σ MW(s) count(s, k), undivided.
  * - N < 1: nothing is written.
+ * - Without a molecular-weight vector every molecular weight counts as 0.
+ * - Whether the run has polymers is told by its polymer list here.
+ * - A NaN sum of fractions gives the plain mean.
+ * - A component that stands twice in the oligomer list takes its first entry; one whose counts vanish gets Σ
+ *   MW(s) count(s), which is 0 without segments.
  */
 POLYPROPS_API void POLY_GETMRF(const int64_t* sel, const int64_t* n, const int64_t* idx, double* mrf);
 
@@ -131,6 +138,7 @@ POLYPROPS_API void POLY_GETMRF(const int64_t* sel, const int64_t* n, const int64
  * - DPN and MRF as POLY_GETDPN and POLY_GETMRF give them, with all their fallbacks.
  * - Without a polymer block every entry is its molecular weight.
  * - N < 1: nothing is written.
+ * - Without a molecular-weight vector every molecular weight counts as 0.
  */
 POLYPROPS_API void POLY_GETMWN(const int64_t* sel, const int64_t* n, const int64_t* idx, double* mwn);
 
@@ -169,6 +177,7 @@ POLYPROPS_API void POLY_GETMWN1(const int64_t* ld, const double* mw, const int64
  * - A polymer keeps its molecular weight unless it carries "ZMOM", zero bound < ZMOM < missing-value bound
  *   and Σ MW(s) SFLOW(s) > zero bound. "SFLOW" not carried counts as 0.
  * - N < 1: nothing is written.
+ * - Without a molecular-weight vector every molecular weight counts as 0.
  */
 POLYPROPS_API void POLY_GETMRT(const int64_t* sel, const int64_t* n, const int64_t* idx, double* mrt);
 
@@ -184,6 +193,7 @@ POLYPROPS_API void POLY_GETMRT(const int64_t* sel, const int64_t* n, const int64
  * - PDI and MWN as POLY_GETPDI and POLY_GETMWN give them, with all their fallbacks.
  * - Without the PDI parameter vector a PDI parameter is 1.0.
  * - N < 1: nothing is written.
+ * - Without a molecular-weight vector every molecular weight counts as 0.
  */
 POLYPROPS_API void POLY_GETMWW(const int64_t* sel, const int64_t* n, const int64_t* idx, double* mww);
 
@@ -203,6 +213,9 @@ POLYPROPS_API void POLY_GETMWW(const int64_t* sel, const int64_t* n, const int64
  * - A polymer keeps its PDI parameter unless it carries "SMOM" and "ZMOM", zero bound < ZMOM < missing-value
  *   bound, and both F and Σ MW(s) SFLOW(s) are at or above the zero bound. "SFLOW" not carried counts as 0.
  * - N < 1: nothing is written.
+ * - Without a molecular-weight vector every molecular weight counts as 0. A polymer then keeps its PDI
+ *   parameter.
+ * - Segment flows of exactly 0 keep the PDI parameter, also where the zero bound is 0.
  */
 POLYPROPS_API void POLY_GETPDI(const int64_t* sel, const int64_t* n, const int64_t* idx, double* pdi);
 
@@ -221,6 +234,9 @@ POLYPROPS_API void POLY_GETPDI(const int64_t* sel, const int64_t* n, const int64
  *   missing-value bound counts as 0; so does every element of an attribute that is not carried.
  * - Equal shares 1/NSEG: a polymer whose sum is at or below the zero bound, an oligomer whose sum is exactly
  *   0.
+ * - Whether the run has polymers is told by its polymer list.
+ * - A component that stands twice in the oligomer list takes its first entry.
+ * - A NaN among the values makes every fraction NaN.
  */
 POLYPROPS_API void POLY_GETSMF(const int64_t* sel, const int64_t* c, double* smf);
 
@@ -239,6 +255,10 @@ POLYPROPS_API void POLY_GETSMF(const int64_t* sel, const int64_t* c, double* smf
  *   every element of an "SFLOW" that is not carried.
  * - Equal shares 1/NSEG: a polymer whose sum is at or below the zero bound, an oligomer whose sum is exactly
  *   0.
+ * - Whether the run has polymers is told by its polymer list.
+ * - A component that stands twice in the oligomer list takes its first entry.
+ * - A NaN among the values makes every fraction NaN.
+ * - Without a molecular-weight vector every molecular weight counts as 0.
  */
 POLYPROPS_API void POLY_GETSWF(const int64_t* sel, const int64_t* c, double* swf);
 
@@ -255,6 +275,7 @@ POLYPROPS_API void POLY_GETSWF(const int64_t* sel, const int64_t* c, double* swf
  * - A component for which POLY_GETSWF writes nothing leaves its column untouched; rows beyond the number of
  *   segments stay untouched.
  * - N < 1: nothing is written.
+ * - Without a molecular-weight vector every molecular weight counts as 0.
  */
 POLYPROPS_API void POLY_SWFVEC(const int64_t* sel, const int64_t* n, const int64_t* ld, const int64_t* idx,
                                double* swf);
@@ -265,7 +286,7 @@ POLYPROPS_API void POLY_SWFVEC(const int64_t* sel, const int64_t* n, const int64
  *
  *   K           in      component index: the row of SCM
  *   LD          in      leading dimension of SCM
- *   SCM(LD,*)   in      segments of component k per molecule of j [1]
+ *   SCM(LD,*)   in      segments of each segment component per molecule of each component [1]
  *   NSEG        in      number of segments
  *   ISEG(NSEG)  in      component index of each segment
  *   SMF(NSEG)   out     mole fraction of each segment, in the order of ISEG [1]
@@ -273,6 +294,7 @@ POLYPROPS_API void POLY_SWFVEC(const int64_t* sel, const int64_t* n, const int64
  * - Reads its arguments and the zero bound; any row K is taken, flagged as a polymer or not.
  * - Σ c at or below the zero bound: equal shares 1/NSEG.
  * - NSEG < 1: nothing is written.
+ * - A NaN among the values gives equal shares.
  */
 POLYPROPS_API void POLY_GETSMF1(const int64_t* k, const int64_t* ld, const double* scm, const int64_t* nseg,
                                 const int64_t* iseg, double* smf);
@@ -284,7 +306,7 @@ POLYPROPS_API void POLY_GETSMF1(const int64_t* k, const int64_t* ld, const doubl
  *   K              in      component index: the row of SCM
  *   LD             in      leading dimension of SCM
  *   MW(component)  in      molecular weights, segments included [g/mol]
- *   SCM(LD,*)      in      segments of component k per molecule of j [1]
+ *   SCM(LD,*)      in      segments of each segment component per molecule of each component [1]
  *   NSEG           in      number of segments
  *   ISEG(NSEG)     in      component index of each segment
  *   SWF(NSEG)      out     mass fraction of each segment, in the order of ISEG [1]
@@ -292,6 +314,7 @@ POLYPROPS_API void POLY_GETSMF1(const int64_t* k, const int64_t* ld, const doubl
  * - Reads its arguments and the zero bound; any row K is taken, flagged as a polymer or not.
  * - Σ w at or below the zero bound: equal shares 1/NSEG.
  * - NSEG < 1: nothing is written.
+ * - A NaN among the values gives equal shares.
  */
 POLYPROPS_API void POLY_GETSWF1(const int64_t* k, const int64_t* ld, const double* mw, const double* scm,
                                 const int64_t* nseg, const int64_t* iseg, double* swf);

@@ -41,7 +41,8 @@ Real weight_average_weight(const PolymerData& data, const Species& species)
 {
     const Component c = species.component();
     if (!species.has_chains()) return polydispersity_parameter(c) * molecular_weight(c);
-    return polydispersity(data, species) * number_average_weight(data, species);
+    const Real number_average = number_average_weight(data, species);
+    return polydispersity(data, species) * number_average;
 }
 
 }  // namespace
@@ -69,8 +70,9 @@ Real polydispersity(const PolymerData& data, const Species& species)
     if (!is_usable(chains)) return parameter;
     const Attribute flows = species.attribute(AttributeName::sflow);
     const Real segments = flows.sum(data.segments().count());
-    // The bound is inclusive here: flows of exactly the zero bound still count.
-    if (segment_mass_flow(data, flows) >= zero_bound() && segments >= zero_bound())
+    // The bound is inclusive here: flows of exactly the zero bound still count, but a bound of 0 must not
+    // divide by 0.
+    if (segment_mass_flow(data, flows) >= zero_bound() && segments >= zero_bound() && segments > 0.0)
         return (second_moment.value() / segments) / (segments / chains);
     return parameter;
 }
@@ -89,22 +91,37 @@ using namespace polyprops;
 
 void POLY_GETMWN(const Int* SEL, const Int* N, const Int* IDX, Real* MWN)
 {
-    chain::average_each(chain::molecular_weight_parts, {*SEL}, {*N, IDX}, MWN, chain::number_average_weight);
+    const ComponentList components{*N, IDX};
+    const Vector<Real> mwn{MWN, *N};
+    auto data = PolymerData::locate(0);
+    for (Int i = 1; i <= components.count(); ++i) {
+        const Species species{{*SEL}, components(i)};
+        if (data.exists() && species.has_chains()) data.ensure(chain::molecular_weight_parts);
+        mwn(i) = chain::number_average_weight(data, species);
+    }
 }
 
 void POLY_GETMRT(const Int* SEL, const Int* N, const Int* IDX, Real* MRT)
 {
-    chain::average_each(chain::polydispersity_parts, {*SEL}, {*N, IDX}, MRT, chain::weight_from_flows);
+    chain::average_each(chain::moment_parts, {*SEL}, {*N, IDX}, MRT, chain::weight_from_flows);
 }
 
 void POLY_GETMWW(const Int* SEL, const Int* N, const Int* IDX, Real* MWW)
 {
-    chain::average_each(chain::molecular_weight_parts, {*SEL}, {*N, IDX}, MWW, chain::weight_average_weight);
+    const ComponentList components{*N, IDX};
+    const Vector<Real> mww{MWW, *N};
+    PolymerData data;
+    for (Int i = 1; i <= components.count(); ++i) {
+        const Species species{{*SEL}, components(i)};
+        if (species.has_chains()) data.ensure(chain::molecular_weight_parts);
+        mww(i) = chain::weight_average_weight(data, species);
+    }
 }
 
 void POLY_GETPDI(const Int* SEL, const Int* N, const Int* IDX, Real* PDI)
 {
-    chain::average_each(chain::polydispersity_parts, {*SEL}, {*N, IDX}, PDI, chain::polydispersity);
+    const unsigned parts = keeps_polydispersity_parameter() ? 0U : chain::moment_parts;
+    chain::average_each(parts, {*SEL}, {*N, IDX}, PDI, chain::polydispersity);
 }
 
 void POLY_GETMWN1(const Int* LD, const Real* MW, const Int* NSEG, const Int* ISEG, const Real* SCM,

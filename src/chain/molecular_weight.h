@@ -7,8 +7,8 @@ namespace polyprops::chain {
 
 // What number_average_weight and weight_average_weight read of the run.
 inline constexpr unsigned molecular_weight_parts = degree_of_polymerization_parts | mean_segment_weight_parts;
-// What polydispersity reads of the run.
-inline constexpr unsigned polydispersity_parts = PolymerData::segment_list | PolymerData::polymer_list;
+// What averages from moments and segment flows read of the run.
+inline constexpr unsigned moment_parts = PolymerData::segment_list | PolymerData::polymer_list;
 
 // Number-average molecular weight of a listed component, g/mol.
 Real number_average_weight(const PolymerData& data, const Species& species);

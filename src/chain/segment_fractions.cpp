@@ -3,8 +3,8 @@
 //   SMF(s) = v(s) / Σ v     v(s) = SFRAC(s), or SFLOW(s) without it; count(s) for an oligomer; SCM(j, s)
 //   SWF(s) = v(s) / Σ v     v(s) = SFLOW(s) · MW(s);            MW(s) · count(s);          MW(s) · SCM(j, s)
 //
-// Values that vanish in total share equally, 1/NSEG each. The total of a polymer is compared with the zero
-// bound, that of an oligomer with exactly 0.
+// Values that vanish in total share equally, 1/NSEG each. The total of a polymer or of a matrix row is
+// compared with the zero bound (a NaN total passes for the former only), that of an oligomer with exactly 0.
 #include "chain/segment_fractions.h"
 
 #include "polyprops/polyprops.h"

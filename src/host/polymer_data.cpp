@@ -27,24 +27,23 @@ OligomerTable find_oligomers(Int id, Int rows)
 
 }  // namespace
 
-PolymerData PolymerData::locate(unsigned parts)
+void PolymerData::ensure(unsigned parts)
 {
-    PolymerData data;
-    data.located_ = parts;
-    Int id = 0;
-    CC_POLYMER_BLOCK(&id);
-    data.exists_ = id > 0;
-    if (!data.exists_) return data;
+    if (!asked_) {
+        CC_POLYMER_BLOCK(&id_);
+        asked_ = true;
+    }
+    const unsigned wanted = parts & ~located_;
+    located_ |= parts;
+    if (!exists() || wanted == 0) return;
 
-    const Position block = find_integers(id);
+    const Position block = find_integers(id_);
     const auto id_in = [&](Word word) { return integer_at(block + (static_cast<Int>(word) - 1)); };
     const auto list_in = [&](Word word) { return list_at(find_integers(id_in(word))); };
-    if (parts & segment_list) data.segments_ = list_in(Word::segments);
-    if (parts & polymer_list) data.polymers_ = list_in(Word::polymers);
-    if (parts & oligomer_block)
-        data.oligomers_ = find_oligomers(id_in(Word::oligomers), data.segments().count());
-    if (parts & end_segment_list) data.end_segments_ = list_in(Word::end_segments);
-    return data;
+    if (wanted & segment_list) segments_ = list_in(Word::segments);
+    if (wanted & polymer_list) polymers_ = list_in(Word::polymers);
+    if (wanted & oligomer_block) oligomers_ = find_oligomers(id_in(Word::oligomers), segments().count());
+    if (wanted & end_segment_list) end_segments_ = list_in(Word::end_segments);
 }
 
 }  // namespace polyprops

@@ -37,11 +37,19 @@ class PolymerData {
 public:
     enum Part : unsigned { segment_list = 1, polymer_list = 2, oligomer_block = 4, end_segment_list = 8 };
 
-    // Asks for the polymer block and, when there is one, locates the given parts. The oligomer block needs
-    // the segment list beside it, which says how many rows its table has.
-    static PolymerData locate(unsigned parts);
+    // Asks for the polymer block and, when there is one, locates the given parts.
+    static PolymerData locate(unsigned parts)
+    {
+        PolymerData data;
+        data.ensure(parts);
+        return data;
+    }
 
-    bool exists() const { return exists_; }
+    // Locates those of the parts that are not located yet: for a routine that reads them for some components
+    // only. The oligomer block needs the segment list beside it, which says how many rows its table has.
+    void ensure(unsigned parts);
+
+    bool exists() const { return id_ > 0; }
     const ComponentList& segments() const { return checked(segments_, segment_list); }
     const ComponentList& polymers() const { return checked(polymers_, polymer_list); }
     const OligomerTable& oligomers() const { return checked(oligomers_, oligomer_block); }
@@ -50,9 +58,9 @@ public:
     // Two signs that the run has polymers or oligomers; rules differ in which they take.
     bool run_has_chains() const
     {
-        return exists_ && (polymer_count_of_run() >= 1 || oligomers().count() >= 1);
+        return exists() && (polymer_count_of_run() >= 1 || oligomers().count() >= 1);
     }
-    bool lists_chains() const { return exists_ && (polymers().count() >= 1 || oligomers().count() >= 1); }
+    bool lists_chains() const { return exists() && (polymers().count() >= 1 || oligomers().count() >= 1); }
 
     // Molecular weight of the component at a position of the segment list.
     Real segment_weight(Int segment_position) const { return molecular_weight(segments()(segment_position)); }
@@ -65,7 +73,8 @@ private:
         return list;
     }
 
-    bool exists_ = false;
+    bool asked_ = false;
+    Int id_ = 0;
     unsigned located_ = 0;
     ComponentList segments_;
     ComponentList polymers_;

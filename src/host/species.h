@@ -1,7 +1,7 @@
 // One listed component as the host sees it: its class and its attributes in the current stream.
 //
-// Within a call the host is asked at most once for the class of a component and once for each of its
-// attributes, however many averages are formed from them.
+// For one entry of a list the host is asked at most once for the class of the component and once for each of
+// its attributes, however many averages are formed from them.
 #pragma once
 
 #include <array>

@@ -40,7 +40,7 @@ World::World()
 
 World& World::add(minihost::Component component)
 {
-    if (host_) throw minihost::Error("the facts of a world stand once it was asked");
+    if (slot_) throw minihost::Error("the facts of a world stand once it was asked");
     components_.push_back(std::move(component));
     return *this;
 }
@@ -171,13 +171,18 @@ World& World::store_mode(minihost::Store::Mode mode)
 
 minihost::Host& World::host()
 {
-    if (!host_) host_ = make_host();
-    return *host_;
+    static std::weak_ptr<Slot> asked_last;
+    if (slot_ && slot_->host) return *slot_->host;
+    if (const auto other = asked_last.lock()) other->host.reset();
+    slot_ = std::make_shared<Slot>();
+    slot_->host = make_host();
+    asked_last = slot_;
+    return *slot_->host;
 }
 
-std::shared_ptr<minihost::Host> World::make_host() const
+std::unique_ptr<minihost::Host> World::make_host() const
 {
-    auto host = std::make_shared<minihost::Host>(components_, options_);
+    auto host = std::make_unique<minihost::Host>(components_, options_);
     host->set_polymer_block(minihost::lay_polymer_block(host->store(), lists()));
     carry_attributes(*host);
     for (const minihost::Stream& stream : all_streams()) host->add_stream(stream);

@@ -9,7 +9,8 @@
 //
 // Components get their indices in the order in which they are named, behind one that nothing names: so the
 // index of a component is never its position in a list by accident. The embedded host is made at the first
-// question, with a checked store; after that the facts stand. One world at a time may be asked.
+// question, with a checked store; after that the facts stand. To ask one world takes the host from the one
+// asked before, which gets a new one when it is asked again.
 #ifndef TESTS_SUPPORT_WORLD_H
 #define TESTS_SUPPORT_WORLD_H
 
@@ -130,13 +131,17 @@ public:
     }
 
 private:
+    struct Slot {
+        std::unique_ptr<minihost::Host> host;
+    };
+
     World& add(minihost::Component component);
     minihost::Component& at(const std::string& id);
     minihost::PolymerLists lists() const;
     std::vector<minihost::Stream> all_streams() const;
     void carry_attributes(minihost::Host& host) const;
     void set_records(minihost::Host& host) const;
-    std::shared_ptr<minihost::Host> make_host() const;
+    std::unique_ptr<minihost::Host> make_host() const;
 
     std::vector<minihost::Component> components_;
     std::vector<Segment> segments_;
@@ -151,7 +156,7 @@ private:
     std::optional<Int> pdi_mode_;
     std::optional<Int> polymer_count_;
     std::optional<minihost::BlockId> polymer_block_;
-    std::shared_ptr<minihost::Host> host_;
+    std::shared_ptr<Slot> slot_;
 };
 
 }  // namespace support

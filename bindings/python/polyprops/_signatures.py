@@ -47,6 +47,8 @@ SIGNATURES = {
             'An attribute that the polymer does not carry counts as 0.',
             'An oligomer whose DPN parameter is within 1e-10 of 1: its segment count from the oligomer list, if it is in that list. Any other oligomer, and a conventional component: the DPN parameter.',
             'N < 1: nothing is written.',
+            'A NaN found for a component of a run with chains gives 1.0.',
+            'An oligomer that stands twice in the oligomer list takes its first entry.',
         ),
     ),
     'POLY_GETDPN1': Signature(
@@ -105,6 +107,10 @@ SIGNATURES = {
             'A polymer whose value came from f and that also stands in the oligomer list takes the value of the oligomer.',
             'An oligomer whose counts do not sum to more than 0: Σ MW(s) count(s, k), undivided.',
             'N < 1: nothing is written.',
+            'Without a molecular-weight vector every molecular weight counts as 0.',
+            'Whether the run has polymers is told by its polymer list here.',
+            'A NaN sum of fractions gives the plain mean.',
+            'A component that stands twice in the oligomer list takes its first entry; one whose counts vanish gets Σ MW(s) count(s), which is 0 without segments.',
         ),
     ),
     'POLY_GETMWN': Signature(
@@ -121,6 +127,7 @@ SIGNATURES = {
             'DPN and MRF as POLY_GETDPN and POLY_GETMRF give them, with all their fallbacks.',
             'Without a polymer block every entry is its molecular weight.',
             'N < 1: nothing is written.',
+            'Without a molecular-weight vector every molecular weight counts as 0.',
         ),
     ),
     'POLY_GETMWN1': Signature(
@@ -157,6 +164,7 @@ SIGNATURES = {
             'Without a polymer block or without polymers in the run every entry is its molecular weight; so are oligomers.',
             'A polymer keeps its molecular weight unless it carries "ZMOM", zero bound < ZMOM < missing-value bound and Σ MW(s) SFLOW(s) > zero bound. "SFLOW" not carried counts as 0.',
             'N < 1: nothing is written.',
+            'Without a molecular-weight vector every molecular weight counts as 0.',
         ),
     ),
     'POLY_GETMWW': Signature(
@@ -173,6 +181,7 @@ SIGNATURES = {
             'PDI and MWN as POLY_GETPDI and POLY_GETMWN give them, with all their fallbacks.',
             'Without the PDI parameter vector a PDI parameter is 1.0.',
             'N < 1: nothing is written.',
+            'Without a molecular-weight vector every molecular weight counts as 0.',
         ),
     ),
     'POLY_GETPDI': Signature(
@@ -190,6 +199,8 @@ SIGNATURES = {
             "Without a polymer block, without polymers in the run, or with the host's PDI mode at 100, every entry is its PDI parameter; so are oligomers.",
             'A polymer keeps its PDI parameter unless it carries "SMOM" and "ZMOM", zero bound < ZMOM < missing-value bound, and both F and Σ MW(s) SFLOW(s) are at or above the zero bound. "SFLOW" not carried counts as 0.',
             'N < 1: nothing is written.',
+            'Without a molecular-weight vector every molecular weight counts as 0. A polymer then keeps its PDI parameter.',
+            'Segment flows of exactly 0 keep the PDI parameter, also where the zero bound is 0.',
         ),
     ),
     'POLY_GETSMF': Signature(
@@ -205,6 +216,9 @@ SIGNATURES = {
             'SMF stays untouched without a polymer block, without segments, with neither polymers nor oligomers in the run, and for a component that is neither a polymer nor in the oligomer list.',
             'v is SFLOW only when the offset of "SFRAC" is exactly 0. An element of a polymer at or above the missing-value bound counts as 0; so does every element of an attribute that is not carried.',
             'Equal shares 1/NSEG: a polymer whose sum is at or below the zero bound, an oligomer whose sum is exactly 0.',
+            'Whether the run has polymers is told by its polymer list.',
+            'A component that stands twice in the oligomer list takes its first entry.',
+            'A NaN among the values makes every fraction NaN.',
         ),
     ),
     'POLY_GETSWF': Signature(
@@ -220,6 +234,10 @@ SIGNATURES = {
             'SWF stays untouched without a polymer block, without segments, with neither polymers nor oligomers in the run, and for a component that is neither a polymer nor in the oligomer list.',
             '"SFRAC" is not read. A product v(s) of a polymer at or above the missing-value bound counts as 0; so does every element of an "SFLOW" that is not carried.',
             'Equal shares 1/NSEG: a polymer whose sum is at or below the zero bound, an oligomer whose sum is exactly 0.',
+            'Whether the run has polymers is told by its polymer list.',
+            'A component that stands twice in the oligomer list takes its first entry.',
+            'A NaN among the values makes every fraction NaN.',
+            'Without a molecular-weight vector every molecular weight counts as 0.',
         ),
     ),
     'POLY_SWFVEC': Signature(
@@ -236,6 +254,7 @@ SIGNATURES = {
         (
             'A component for which POLY_GETSWF writes nothing leaves its column untouched; rows beyond the number of segments stay untouched.',
             'N < 1: nothing is written.',
+            'Without a molecular-weight vector every molecular weight counts as 0.',
         ),
     ),
     'POLY_GETSMF1': Signature(
@@ -245,7 +264,7 @@ SIGNATURES = {
         (
             Argument('K', 'int', 'in', '', 'component index: the row of SCM', ''),
             Argument('LD', 'int', 'in', '', 'leading dimension of SCM', ''),
-            Argument('SCM', 'real', 'in', 'LD,*', 'segments of component k per molecule of j', '1'),
+            Argument('SCM', 'real', 'in', 'LD,*', 'segments of each segment component per molecule of each component', '1'),
             Argument('NSEG', 'int', 'in', '', 'number of segments', ''),
             Argument('ISEG', 'int', 'in', 'NSEG', 'component index of each segment', ''),
             Argument('SMF', 'real', 'out', 'NSEG', 'mole fraction of each segment, in the order of ISEG', '1'),
@@ -254,6 +273,7 @@ SIGNATURES = {
             'Reads its arguments and the zero bound; any row K is taken, flagged as a polymer or not.',
             'Σ c at or below the zero bound: equal shares 1/NSEG.',
             'NSEG < 1: nothing is written.',
+            'A NaN among the values gives equal shares.',
         ),
     ),
     'POLY_GETSWF1': Signature(
@@ -264,7 +284,7 @@ SIGNATURES = {
             Argument('K', 'int', 'in', '', 'component index: the row of SCM', ''),
             Argument('LD', 'int', 'in', '', 'leading dimension of SCM', ''),
             Argument('MW', 'real', 'in', 'component', 'molecular weights, segments included', 'g/mol'),
-            Argument('SCM', 'real', 'in', 'LD,*', 'segments of component k per molecule of j', '1'),
+            Argument('SCM', 'real', 'in', 'LD,*', 'segments of each segment component per molecule of each component', '1'),
             Argument('NSEG', 'int', 'in', '', 'number of segments', ''),
             Argument('ISEG', 'int', 'in', 'NSEG', 'component index of each segment', ''),
             Argument('SWF', 'real', 'out', 'NSEG', 'mass fraction of each segment, in the order of ISEG', '1'),
@@ -273,6 +293,7 @@ SIGNATURES = {
             'Reads its arguments and the zero bound; any row K is taken, flagged as a polymer or not.',
             'Σ w at or below the zero bound: equal shares 1/NSEG.',
             'NSEG < 1: nothing is written.',
+            'A NaN among the values gives equal shares.',
         ),
     ),
     'POLY_POLSEM': Signature(

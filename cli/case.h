@@ -1,0 +1,97 @@
+// A case as its file states it: plain values, every name with the place where it stands.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/diagnostics.h"
+#include "minihost/components.h"
+
+namespace cli {
+
+using minihost::ComponentClass;
+std::string_view text(ComponentClass kind);
+
+// How many neighbours a segment is bonded to; the values are the segment types of the polymer paragraph.
+enum class SegmentType { end = 1, repeat = 2, branch3 = 3, branch4 = 4 };
+
+// A component named by its ID.
+struct Reference {
+    std::string id;
+    Source source;
+};
+
+struct Component : minihost::Component {
+    Source source;
+};
+
+struct Segment {
+    Reference component;
+    SegmentType type = SegmentType::repeat;
+};
+
+// `count` segments in one molecule of the oligomer.
+struct OligomerPart {
+    Reference oligomer;
+    Reference segment;
+    double count = 0;
+};
+
+// The attributes that a component carries in every stream.
+struct AttributeList {
+    Reference component;
+    std::vector<Reference> names;
+};
+
+struct Paragraph {
+    Source source;
+    std::vector<Reference> polymers;
+    std::vector<Segment> segments;
+    std::vector<OligomerPart> oligomers;
+    std::vector<AttributeList> attributes;
+};
+
+// Element values in the order of the file, or each with the segment that it belongs to.
+struct AttributeValue {
+    Reference component;
+    Reference name;
+    std::vector<double> elements;
+    std::vector<Reference> segments;  // empty: elements are given by position
+};
+
+struct Flow {
+    Reference component;
+    double value = 0;  // kmol/h, apparent basis
+};
+
+struct Stream {
+    Reference name;
+    std::vector<Flow> flows;
+    std::vector<AttributeValue> attributes;
+};
+
+struct Settings {
+    double zero_bound = 1e-15;
+    double missing_value_bound = 1e35;
+    bool pdi_from_parameters = false;
+};
+
+struct Case {
+    std::string file;
+    std::string title;
+    Settings settings;
+    std::vector<Component> components;  // in the order of the file
+    std::optional<Paragraph> paragraph;
+    std::vector<Stream> streams;
+
+    const Component* find(std::string_view id) const;
+    std::vector<std::string_view> ids() const;
+    // Segments of the polymer paragraph in segment-list order, which is the order of the components.
+    std::vector<std::string_view> segment_ids() const;
+    // End segments in the order in which the paragraph lists them.
+    std::vector<std::string_view> end_segment_ids() const;
+    const AttributeList* attributes_of(std::string_view component) const;
+};
+
+}  // namespace cli

@@ -1,0 +1,27 @@
+// Reads a case file. All errors of the file are found in one run.
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+#include "cli/case.h"
+#include "cli/table_reader.h"
+
+namespace cli {
+
+// The case, of use only while `diagnostics` is empty. Throws std::runtime_error when the file cannot be read.
+Case read_case(const std::filesystem::path& file, Diagnostics& diagnostics);
+
+// The same from a text that came from `file`.
+Case parse_case(std::string_view text, const std::string& file, Diagnostics& diagnostics);
+
+// The parts of the reader, one file each.
+Paragraph read_paragraph(TableReader table);
+std::vector<Stream> read_streams(TableReader table);
+
+// What can only be told from the whole case: names that lead nowhere, repeats, lengths.
+void check_components(const Case& input, Diagnostics& diagnostics);
+void check_paragraph(const Case& input, Diagnostics& diagnostics);
+void check_streams(const Case& input, Diagnostics& diagnostics);
+
+}  // namespace cli

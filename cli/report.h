@@ -1,0 +1,48 @@
+// Results as tables. Every format writes the same report: a new result becomes a table here and appears in
+// all of them.
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "cli/case.h"
+#include "cli/results.h"
+
+namespace cli {
+
+using Cell = std::variant<std::string, double>;
+
+struct Column {
+    std::string key;      // stable name in CSV and JSON
+    std::string heading;  // as text shows it
+    std::string unit;     // of a number; "1" for a ratio, empty for a text
+};
+
+struct Table {
+    std::string key;
+    std::string heading;
+    std::vector<Column> columns;
+    std::vector<std::vector<Cell>> rows;
+};
+
+struct StreamReport {
+    std::string stream;
+    std::vector<Table> tables;
+};
+
+struct Report {
+    std::string title;
+    std::vector<StreamReport> streams;
+};
+
+Report make_report(const Case& input, const std::vector<StreamResults>& results);
+
+// One line for each number of the report that is not finite.
+std::vector<std::string> not_finite(const Report& report);
+
+std::string format_text(const Report& report);
+std::string format_csv(const Report& report);
+std::string format_json(const Report& report);
+
+}  // namespace cli

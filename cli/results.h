@@ -1,0 +1,41 @@
+// What the library says of a loaded case.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/case.h"
+#include "minihost/host.h"
+
+namespace cli {
+
+// Chain averages of a component that flows in a stream.
+struct ChainAverages {
+    std::string component;
+    ComponentClass kind;
+    double mole_flow;            // kmol/h, apparent basis
+    double dpn;                  // segments per chain
+    double mean_segment_weight;  // g/mol
+    double mn;                   // g/mol
+    double mw;                   // g/mol
+    double pdi;                  // Mw/Mn
+};
+
+// The share of one segment in a polymer or oligomer.
+struct SegmentShare {
+    std::string component;
+    std::string segment;
+    double mole_fraction;
+    double mass_fraction;
+};
+
+struct StreamResults {
+    std::string stream;
+    std::vector<ChainAverages> averages;
+    std::vector<SegmentShare> shares;
+};
+
+// Selects the streams of the case one after another and asks the library's routines about each.
+std::vector<StreamResults> evaluate(const Case& input, minihost::Host& host);
+
+}  // namespace cli
