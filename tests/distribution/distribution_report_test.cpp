@@ -10,6 +10,7 @@
 #include <random>
 #include <sstream>
 
+#include "minihost/service_log.h"
 #include "support/world.h"
 
 #ifdef HAS_FORTRAN_FIELDS
@@ -113,22 +114,35 @@ std::vector<Int> page_sizes(const std::string& text)
     return sizes;
 }
 
+using Reservations = std::vector<std::pair<Int, Int>>;  // lines, new-page flag
+
+Reservations reservations(const minihost::ServiceLog& log)
+{
+    Reservations result;
+    for (const auto& call : log.calls())
+        if (call.service == "RP_RESERVE_LINES") result.emplace_back(call.subject, call.selector);
+    return result;
+}
+
 TEST(DistributionReport, StartsItsTableWhereThereIsRoom)
 {
     const struct {
         const char* name;
         Int points, lines_per_page;
+        Reservations reserved;
         std::vector<Int> pages;
     } cases[] = {
-        {"eleven lines left", 9, 13, {14, 9}},
-        {"ten lines left", 9, 12, {2, 13, 8}},
-        {"a page of six holds two points", 3, 6, {2, 7, 6, 2}},
-        {"a shorter page is taken as six", 3, 5, {2, 7, 6, 2}},
-        {"so is one without lines", 3, -1, {2, 7, 6, 2}},
+        {"eleven lines left", 9, 13, {{2, 0}, {11, 0}, {6, 0}, {2, 0}}, {14, 9}},
+        {"ten lines left", 9, 12, {{2, 0}, {12, 1}, {5, 0}, {2, 0}}, {2, 13, 8}},
+        {"a page of six holds two points", 3, 6, {{2, 0}, {6, 1}, {5, 0}, {2, 0}}, {2, 7, 6, 2}},
+        {"a shorter page is taken as six", 3, 5, {{2, 0}, {6, 1}, {5, 0}, {2, 0}}, {2, 7, 6, 2}},
+        {"so is one without lines", 3, -1, {{2, 0}, {6, 1}, {5, 0}, {2, 0}}, {2, 7, 6, 2}},
     };
     for (const auto& c : cases) {
         World world;
+        const minihost::ServiceLog log;
         EXPECT_EQ(page_sizes(most_probable(c.points).report(world, c.lines_per_page)), c.pages) << c.name;
+        EXPECT_EQ(reservations(log), c.reserved) << c.name;
     }
 }
 
