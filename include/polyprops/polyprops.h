@@ -319,6 +319,987 @@ POLYPROPS_API void POLY_GETSMF1(const int64_t* k, const int64_t* ld, const doubl
 POLYPROPS_API void POLY_GETSWF1(const int64_t* k, const int64_t* ld, const double* mw, const double* scm,
                                 const int64_t* nseg, const int64_t* iseg, double* swf);
 
+/* Chain moments and polymer mass flow of a stream vector, per site type and in total.
+ *
+ *   NS = 1: Z = Σ ZMOM, F = Σ SFLOW(s), S = Σ SMOM, W = Σ flow × MW, over substreams and polymers
+ *   NS > 1, t < NS: Z(t) = Σ SZMOM(t), F(t) = Σ SSFLOW(s, t), S(t) = Σ SSMOM(t), W(t) = Σ MW(s) SSFLOW(s, t)
+ *   NS > 1, t = NS: sums over all sites, W(NS) = Σ flow × MW
+ *
+ *   SV(*)          in      stream vector: flows and attributes of each substream [kmol/s]
+ *   NSS            in      number of substreams
+ *   K0(NSS)        in      position in a stream vector of the first component flow of each substream
+ *   KTYPE(NSS)     in      type code of each substream; 3 is skipped
+ *   MW(component)  in      molecular weights, polymers and segments included [g/mol]
+ *   NS             in      number of result entries: 1 for whole polymers, else one per site type and the
+ *                          total last
+ *   Z(NS)          out     zeroth moment: chains [kmol/s]
+ *   F(NS)          out     first moment: segments [kmol/s]
+ *   S(NS)          out     second moment [kmol/s]
+ *   W(NS)          out     polymer mass flow; of a site, the mass of its segments [kg/s]
+ *
+ * - Without a polymer block, with an empty polymer list, or with NS < 1 nothing is written.
+ * - A polymer whose mass flow in a substream is below the zero bound is skipped there; at the bound it
+ *   counts.
+ * - An attribute that a polymer does not carry counts as 0. "FMOM" is not read.
+ * - The unit of a flow is whatever the stream vector holds; the ones given are the usual ones.
+ */
+POLYPROPS_API void POLY_GETMOMENTS(const double* sv, const int64_t* nss, const int64_t* k0,
+                                   const int64_t* ktype, const double* mw, const int64_t* ns, double* z,
+                                   double* f, double* s, double* w);
+
+/* Averages of the polymer that one stream vector holds beyond another, per site type and in total.
+ *
+ *   with the differences of the sums of POLY_GETMOMENTS, SV2 - SV1
+ *   PMASS = W, PMRS = W / F, PMWN = W / Z, PMWW = S (W / F) / F
+ *   PDPN = F / Z, PDPW = S / F, PPDI = Z (S / F) / F
+ *
+ *   SV1(*)         in      stream vector to subtract [kmol/s]
+ *   SV2(*)         in      stream vector to subtract from [kmol/s]
+ *   NSS            in      number of substreams
+ *   K0(NSS)        in      position in a stream vector of the first component flow of each substream
+ *   KTYPE(NSS)     in      type code of each substream; 3 is skipped
+ *   MW(component)  in      molecular weights, polymers and segments included [g/mol]
+ *   NS             in      number of result entries: 1 for whole polymers, else one per site type and the
+ *                          total last
+ *   PMASS(NS)      out     polymer mass flow [kg/s]
+ *   PMRS(NS)       out     mean segment molecular weight [g/mol]
+ *   PMWN(NS)       out     number-average molecular weight [g/mol]
+ *   PMWW(NS)       out     weight-average molecular weight [g/mol]
+ *   PDPN(NS)       out     number-average degree of polymerization [1]
+ *   PDPW(NS)       out     weight-average degree of polymerization [1]
+ *   PPDI(NS)       out     polydispersity index [1]
+ *
+ * - PMWN and PDPN are 0 unless the difference of Z is above the zero bound; PMRS, PMWW, PDPW and PPDI are 0
+ *   unless the difference of F is above exactly 0.
+ * - Without a polymer block or with an empty polymer list every result is 0.
+ * - Any NS ≥ 1 works; NS < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_POLYRESULTS(const double* sv1, const double* sv2, const int64_t* nss,
+                                    const int64_t* k0, const int64_t* ktype, const double* mw,
+                                    const int64_t* ns, double* pmass, double* pmrs, double* pmwn,
+                                    double* pmww, double* pdpn, double* pdpw, double* ppdi);
+
+/* Ratio of a mixture's moles on the apparent basis to its moles of chains.
+ *
+ *   RAT = (A / B) / A, A = Σ MW X(i), B = Σ X(i) / DP(i)
+ *   DP = F / Z of a polymer, F = Σ SFLOW(s), Z = ZMOM, else 0.5 Σ SFLOW(e) over e = 1..min(NEND, NSEG)
+ *
+ *   SEL     in      attribute selector, passed on to the host's attribute search
+ *   N       in      number of listed components
+ *   IDX(N)  in      component index of each entry
+ *   X(N)    in      fraction of each entry [1]
+ *   RAT     out     the ratio [1]
+ *
+ * - Without a polymer block, or with neither polymers (by the polymer count of the host) nor oligomers in the
+ *   run: 1.0; so when A or B is exactly 0, and therefore when N < 1.
+ * - A polymer: DP = 1.0 unless both Z and F are above the zero bound; there is no lower limit of 1. "DPN" and
+ *   "FMOM" are not read.
+ * - An oligomer: its DPN parameter (1.0 without the parameter vector); within 1e-10 of 1 its segment count
+ *   from the oligomer list, if it is in that list. A conventional component: 1.0.
+ * - A chain length of exactly 0 counts as 1.0.
+ * - The estimate of Z without "ZMOM" takes SFLOW at the entry numbers of the end-segment list: it is half the
+ *   flow of the end segments when these lead the segment list.
+ */
+POLYPROPS_API void POLY_GETRAT(const int64_t* sel, const int64_t* n, const int64_t* idx, const double* x,
+                               double* rat);
+
+/* Polymer flag array of listed components.
+ *
+ *   IFLAG(IDX(i)) = 1 for a polymer or oligomer, 0 otherwise
+ *
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   UNUSED1           unused  not read
+ *   IFLAG(component)  out     polymer flags, by component index
+ *
+ * - Entries of components that are not listed stay untouched.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETISP(const int64_t* n, const int64_t* idx, const void* unused1, int64_t* iflag);
+
+/* CRY parameter of listed components.
+ *
+ *   CRY(i) = the CRY parameter of IDX(i)
+ *
+ *   UNUSED1  unused  not read
+ *   N        in      number of listed components
+ *   IDX(N)   in      component index of each entry
+ *   CRY(N)   out     CRY parameter, by position [1]
+ *
+ * - 0.0 when the parameter vector does not exist.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETCRY(const void* unused1, const int64_t* n, const int64_t* idx, double* cry);
+
+/* ---- composition bases --------------------------------------------------------------------------------- */
+
+/* Apparent to true mole fractions, with the host's chain averages.
+ *
+ *   XT(i) ∝ MW(c) XA(i) / (DPN MRF) for a polymer or oligomer c = IDX(i), XA(i) otherwise; normalised to sum
+ *     1
+ *
+ *   N              in      number of listed components
+ *   IDX(N)         in      component index of each entry
+ *   MW(component)  in      molecular weights of the apparent basis [g/mol]
+ *   XA(N)          in      apparent mole fractions, by position [1]
+ *   XT(N)          out     true mole fractions, by position [1]
+ *
+ * - DPN and MRF as POLY_GETDPN and POLY_GETMRF give them with selector 1.
+ * - Without a polymer block (its id 0 or less) XT is XA as it stands, not normalised.
+ * - An entry whose DPN MRF is exactly 0 keeps its apparent fraction; a sum of exactly 0 leaves the values
+ *   unnormalised.
+ * - XT may be XA. N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_XATOXT(const int64_t* n, const int64_t* idx, const double* mw, const double* xa,
+                               double* xt);
+
+/* Apparent to true mole fractions, with a segment-count matrix.
+ *
+ *   XT(i) ∝ XA(i) MW(c) / Σ_m MW(ISEG(m)) SCM(c, ISEG(m)) for a flagged component c = IDX(i), XA(i)
+ *     otherwise; normalised to sum 1
+ *
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   XA(N)             in      apparent mole fractions, by position [1]
+ *   LD                in      leading dimension of SCM
+ *   MW(component)     in      molecular weights of the apparent basis, segments included [g/mol]
+ *   NSEG              in      number of segments
+ *   ISEG(NSEG)        in      component index of each segment
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *   SCM(LD,*)         in      segments of component k per molecule of j [1]
+ *   XT(N)             out     true mole fractions, by position [1]
+ *
+ * - A sum of exactly 0 leaves the values unnormalised.
+ * - The chain weight of a flagged component is not tested: a row without segments divides by 0.
+ * - Reads nothing but its arguments. XT may be XA. N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETXTRUE(const int64_t* n, const int64_t* idx, const double* xa, const int64_t* ld,
+                                 const double* mw, const int64_t* nseg, const int64_t* iseg,
+                                 const int64_t* iflag, const double* scm, double* xt);
+
+/* Molar quantities or mole fractions to the true basis, polymers as the host classes them.
+ *
+ *   MODE = 0: VT(i) = MWN(i) V(i) / MW(c) for a polymer or oligomer c = IDX(i), V(i) otherwise
+ *   MODE = 1: VT(i) ∝ MW(c) V(i) / MWN(i) for a polymer or oligomer, V(i) otherwise; normalised to sum 1
+ *
+ *   N              in      number of listed components
+ *   IDX(N)         in      component index of each entry
+ *   MW(component)  in      molecular weights of the apparent basis [g/mol]
+ *   MWN(N)         in      number-average molecular weights, by position; read for polymers and oligomers
+ *                          only [g/mol]
+ *   V(N)           in      quantity per mole (MODE 0) or mole fractions (MODE 1) [any]
+ *   VT(N)          out     the same on the true basis [any]
+ *   MODE           in      0: a quantity per mole; 1: mole fractions
+ *
+ * - The host is asked for the class of each entry; no polymer block is needed.
+ * - MODE = 1 with a sum that is not above the zero bound: the values stay unnormalised. Neither weight is
+ *   tested before it divides.
+ * - Any other MODE: nothing is written. VT may be V. N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_VATOVT(const int64_t* n, const int64_t* idx, const double* mw, const double* mwn,
+                               const double* v, double* vt, const int64_t* mode);
+
+/* Molar quantities or mole fractions to the true basis, polymers by flag.
+ *
+ *   MODE = 0: VT(i) = MWN(i) V(i) / MW(c) for a polymer or oligomer c = IDX(i), V(i) otherwise
+ *   MODE = 1: VT(i) ∝ MW(c) V(i) / MWN(i) for a polymer or oligomer, V(i) otherwise; normalised to sum 1
+ *
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   MW(component)     in      molecular weights of the apparent basis [g/mol]
+ *   MWN(N)            in      number-average molecular weights, by position; read for polymers and oligomers
+ *                             only [g/mol]
+ *   V(N)              in      quantity per mole (MODE 0) or mole fractions (MODE 1) [any]
+ *   VT(N)             out     the same on the true basis [any]
+ *   MODE              in      0: a quantity per mole; 1: mole fractions
+ *   UNUSED1           unused  not read
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *
+ * - A component counts as a polymer or oligomer when its flag is exactly 1.
+ * - MODE = 1 with a sum that is not above the zero bound: the values stay unnormalised. Neither weight is
+ *   tested before it divides.
+ * - Any other MODE: nothing is written. VT may be V. N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_VATOVX(const int64_t* n, const int64_t* idx, const double* mw, const double* mwn,
+                               const double* v, double* vt, const int64_t* mode, const void* unused1,
+                               const int64_t* iflag);
+
+/* Apparent mole fractions to mass fractions.
+ *
+ *   WT(i) = XA(i) MW / Σ XA MW, MW the host's molecular weight of IDX(i)
+ *
+ *   XA(N)   in      apparent mole fractions, by position [1]
+ *   N       in      number of listed components
+ *   IDX(N)  in      component index of each entry
+ *   WT(N)   out     mass fractions, by position [1]
+ *
+ * - A sum that is not above the zero bound: WT holds the products XA(i) MW.
+ * - WT may be XA. N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_XATOWT(const double* xa, const int64_t* n, const int64_t* idx, double* wt);
+
+/* Mole fractions to mass fractions with given molecular weights.
+ *
+ *   WT(i) = XT(i) MWT(i) / Σ XT MWT
+ *
+ *   N       in      number of entries
+ *   XT(N)   in      mole fractions [1]
+ *   MWT(N)  in      molecular weight of each entry [g/mol]
+ *   WT(N)   out     mass fractions [1]
+ *
+ * - A sum that is not above the zero bound: WT is 0 throughout.
+ * - WT may be XT or MWT. N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_XTTOWT(const int64_t* n, const double* xt, const double* mwt, double* wt);
+
+/* Segments of one polymer or oligomer and how many of each stand in a molecule.
+ *
+ *   CNT(k) = SFLOW(m) / ZMOM of a polymer, the segment count of an oligomer, for the k-th segment m with a
+ *     positive amount
+ *
+ *   SEL      in      attribute selector, passed on to the host's attribute search
+ *   J        in      component index
+ *   NSEG     out     number of segments found
+ *   ISEG(*)  out     component index of each, in segment-list order; at least the length of the segment list
+ *   CNT(*)   out     segments per molecule of J; as long as ISEG [1]
+ *
+ * - Without a polymer block, or with neither polymers nor oligomers in the run, nothing is written, NSEG
+ *   included.
+ * - A polymer without "ZMOM", or whose "ZMOM" is not above 0, counts 1.0 of each segment. "SFLOW" not carried
+ *   counts as 0; missing values are not left out.
+ * - An oligomer is found by the oligomer list alone; standing there more than once it gives the segments of
+ *   each column in turn.
+ * - NSEG = 0 for a conventional component. ISEG is set to 0 over the length of the segment list; CNT beyond
+ *   NSEG stays untouched.
+ */
+POLYPROPS_API void POLY_GETSEG(const int64_t* sel, const int64_t* j, int64_t* nseg, int64_t* iseg,
+                               double* cnt);
+
+/* Segment make-up of listed components, and the list on the segment basis.
+ *
+ *   FSEG(j, s) = (F(s) / Σ F) DPN(i) FAC(s) for j = IDX(i)
+ *   F = SFRAC, else SFLOW of a polymer; segment counts of an oligomer
+ *
+ *   N            in      number of listed components
+ *   IDX(N)       in      component index of each entry
+ *   NC           in      number of components of the host
+ *   FAC(NC)      in      factor of each segment, by component index [1]
+ *   DPN(N)       out     segments per chain, by position, as POLY_GETDPN gives it with selector 1 [1]
+ *   KSEG(NC,NC)  out     row j: the number of segments of component j, then their component indices
+ *   FSEG(NC,NC)  out     amount of segment component s in component j; 0 for conventional components [1]
+ *   NOUT         out     length of the output list
+ *   IDXOUT(NC)   out     component indices on the segment basis in the order of first appearance, then zeros
+ *   IPOS(NC)     out     position of each component in the output list, 0 when absent
+ *
+ * - A value counts when it is above 0 and below the missing-value bound. F is SFLOW only when the offset of
+ *   "SFRAC" is exactly 0; an attribute that is not carried counts as 0.
+ * - A listed polymer or oligomer without such a value is made of the first segment component of the host,
+ *   with fraction 1; without any segment component it is treated as a conventional one. One that is not
+ *   listed has -1 in KSEG(j, 1).
+ * - DPN is 1.0, and every polymer or oligomer is made of the first segment component, without a polymer block
+ *   or with neither polymers nor oligomers in the run.
+ * - A conventional component is appended without looking for it first, and its later position stays in IPOS;
+ *   a segment is appended once. The output list never exceeds NC entries.
+ * - An oligomer in several columns of the oligomer table takes the last with a count above 0, beside the
+ *   amounts of earlier ones. A component listed twice is scaled twice.
+ */
+POLYPROPS_API void POLY_GETPSEG(const int64_t* n, const int64_t* idx, const int64_t* nc, const double* fac,
+                                double* dpn, int64_t* kseg, double* fseg, int64_t* nout, int64_t* idxout,
+                                int64_t* ipos);
+
+/* Segment mole fractions of one row of a segment-count matrix, by component.
+ *
+ *   SF(s) = SCM(J, s) / Σ SCM(J, s), s in ISEG
+ *
+ *   LD          in      leading dimension of SCM, length of SF
+ *   J           in      component index: the row of SCM
+ *   NSEG        in      number of segments
+ *   ISEG(NSEG)  in      component index of each segment
+ *   SCM(LD,*)   in      segments of component k per molecule of j [1]
+ *   SF(LD)      out     mole fraction of each segment in J, by component index [1]
+ *
+ * - SF is 0 for every component that is not in ISEG; a sum of exactly 0 leaves the products undivided.
+ * - Reads nothing but its arguments.
+ */
+POLYPROPS_API void POLY_GETMFS(const int64_t* ld, const int64_t* j, const int64_t* nseg, const int64_t* iseg,
+                               const double* scm, double* sf);
+
+/* Segment mass fractions of one row of a segment-count matrix, by component.
+ *
+ *   SWF(s) = MW(s) SCM(J, s) / Σ MW(s) SCM(J, s), s in ISEG
+ *
+ *   LD             in      leading dimension of SCM, length of SWF
+ *   J              in      component index: the row of SCM
+ *   MW(component)  in      molecular weights, segments included [g/mol]
+ *   NSEG           in      number of segments
+ *   ISEG(NSEG)     in      component index of each segment
+ *   SCM(LD,*)      in      segments of component k per molecule of j [1]
+ *   SWF(LD)        out     mass fraction of each segment in J, by component index [1]
+ *
+ * - SWF is 0 for every component that is not in ISEG; a sum of exactly 0 leaves the products undivided.
+ * - Reads nothing but its arguments.
+ */
+POLYPROPS_API void POLY_GETWFS(const int64_t* ld, const int64_t* j, const double* mw, const int64_t* nseg,
+                               const int64_t* iseg, const double* scm, double* swf);
+
+/* A component list on the segment basis, with the host's segment data.
+ *
+ *   XOUT(s) = Σ X(i) n(i, s), n = segments per molecule as POLY_GETSEG gives them; X(i) for a conventional
+ *     entry
+ *
+ *   N          in      number of listed components
+ *   IDX(N)     in      component index of each entry
+ *   X(N)       in      amounts: mole fractions or flows [mol]
+ *   UNUSED1    unused  not read
+ *   WSEG(*)    work    work space, as long as the segment list
+ *   WCNT(*)    work    work space, as long as the segment list [1]
+ *   NOUT       out     length of the output list
+ *   IDXOUT(*)  out     component index of each output entry; room for N entries and one per segment
+ *   XOUT(*)    out     amount of each output entry; as long as IDXOUT [mol]
+ *   NORM       in      1 normalises XOUT to sum 1; no other value does
+ *
+ * - Entries stand in the order of first appearance. A conventional entry is appended without looking for an
+ *   earlier one; the amount of a segment goes to every entry that holds its component, and a segment that
+ *   none holds is appended.
+ * - A polymer or oligomer for which POLY_GETSEG finds nothing or writes nothing contributes nothing.
+ * - NORM = 1 with a sum of exactly 0 leaves the amounts as they are.
+ * - N < 1: NOUT = 0 and nothing else is written.
+ */
+POLYPROPS_API void POLY_XPTOXS(const int64_t* n, const int64_t* idx, const double* x, const void* unused1,
+                               int64_t* wseg, double* wcnt, int64_t* nout, int64_t* idxout, double* xout,
+                               const int64_t* norm);
+
+/* True mole fractions to mole fractions on the segment basis, with a segment-count matrix.
+ *
+ *   XOUT(s) ∝ Σ X(i) SCM(c, s) for a flagged c = IDX(i); X(i) SCM(c, 1) otherwise; normalised to sum 1
+ *
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *   X(N)              in      true mole fractions [1]
+ *   LD                in      leading dimension of SCM
+ *   SCM(LD,*)         in      segments of component k per molecule of j; column 1 of an unflagged row holds
+ *                             its own count [1]
+ *   NSEG              in      number of segments
+ *   ISEG(NSEG)        in      component index of each segment
+ *   NOUT              out     length of the output list
+ *   IDXOUT(*)         out     component index of each output entry; room for N entries and one per segment
+ *   XOUT(*)           out     amount of each output entry; as long as IDXOUT [mol]
+ *
+ * - Entries stand in the order of first appearance. A conventional entry is appended without looking for an
+ *   earlier one; the amount of a segment goes to every entry that holds its component, and a segment that
+ *   none holds is appended.
+ * - Counts that are not above 0 are skipped; the count of a conventional entry is taken as it is.
+ * - A sum of exactly 0 leaves the amounts as they are.
+ * - N < 1: NOUT = 0 and nothing else is written.
+ */
+POLYPROPS_API void POLY_XTTOXS(const int64_t* n, const int64_t* idx, const int64_t* iflag, const double* x,
+                               const int64_t* ld, const double* scm, const int64_t* nseg, const int64_t* iseg,
+                               int64_t* nout, int64_t* idxout, double* xout);
+
+/* Flows of a component list on the segment basis, with a segment-count matrix.
+ *
+ *   XOUT(s) = Σ X(i) SCM(c, s) for a flagged c = IDX(i); X(i) otherwise
+ *
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   X(N)              in      flows [mol/s]
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *   LD                in      leading dimension of SCM
+ *   SCM(LD,*)         in      segments of component k per molecule of j [1]
+ *   NSEG              in      number of segments
+ *   ISEG(NSEG)        in      component index of each segment
+ *   NOUT              out     length of the output list
+ *   IDXOUT(*)         out     component index of each output entry; room for N entries and one per segment
+ *   XOUT(*)           out     flow of each output entry; as long as IDXOUT [mol/s]
+ *   NORM              in      1 normalises XOUT to sum 1; no other value does
+ *
+ * - Entries stand in the order of first appearance. A conventional entry is appended without looking for an
+ *   earlier one; the amount of a segment goes to every entry that holds its component, and a segment that
+ *   none holds is appended.
+ * - Counts that are not above 0 are skipped; column 1 of an unflagged row is not read.
+ * - NORM = 1 with a sum of exactly 0 leaves the flows as they are.
+ * - N < 1: NOUT = 0 and nothing else is written.
+ */
+POLYPROPS_API void POLY_PFTOSF(const int64_t* n, const int64_t* idx, const double* x, const int64_t* iflag,
+                               const int64_t* ld, const double* scm, const int64_t* nseg, const int64_t* iseg,
+                               int64_t* nout, int64_t* idxout, double* xout, const int64_t* norm);
+
+/* A property of listed components to the members of a list on the segment basis.
+ *
+ *   POUT(j) = Σ P(i) w / WSUM(j), WSUM(j) = Σ w, w = SCM(c, s) > 0, over the flagged c = IDX(i), for a
+ *     segment s = IDXOUT(j)
+ *   POUT(j) = P(i) / SCM(c, 1), WSUM(j) = SCM(c, 1) for an unflagged c = IDX(i) that is IDXOUT(j)
+ *
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *   P(N)              in      property of each entry [any]
+ *   LD                in      leading dimension of SCM
+ *   SCM(LD,*)         in      segments of component k per molecule of j; column 1 of an unflagged row holds
+ *                             its own count [1]
+ *   NSEG              in      number of segments
+ *   ISEG(NSEG)        in      component index of each segment
+ *   NOUT              in      length of the target list
+ *   IDXOUT(NOUT)      in      component index of each target entry
+ *   POUT(NOUT)        out     property of each target entry [any]
+ *   WSUM(NOUT)        out     sum of the weights of each target entry [1]
+ *
+ * - A weight sum of exactly 0 leaves the numerator: 0 for a target that nothing reaches.
+ * - An unflagged entry replaces what earlier entries gave its target; later ones add to it.
+ * - Reads nothing but its arguments. NOUT < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_PTTOPS(const int64_t* n, const int64_t* idx, const int64_t* iflag, const double* p,
+                               const int64_t* ld, const double* scm, const int64_t* nseg, const int64_t* iseg,
+                               const int64_t* nout, const int64_t* idxout, double* pout, double* wsum);
+
+/* A property of listed components as the mean over their segments.
+ *
+ *   Q(i) = Σ_m w(m) QS(m) / Σ SFLOW for a polymer, w = SFLOW
+ *   Q(i) = Σ_m (count(m) / Σ count) QS(m) for a component in the oligomer list, QS otherwise
+ *
+ *   N              in      number of listed components
+ *   IDX(N)         in      component index of each entry
+ *   QS(component)  in      property of each component, segments included [any]
+ *   Q(N)           out     property of each entry [any]
+ *
+ * - Without a polymer block every entry is its own QS; so is a component that is neither a polymer nor in the
+ *   oligomer list, and a polymer of a run without segments.
+ * - A flow at or above the missing-value bound counts as 0 in Σ SFLOW and as 1/NSEG in w; "SFLOW" not carried
+ *   counts as 0.
+ * - Σ SFLOW not above the zero bound: the plain mean over the segment list. The counts of an oligomer are not
+ *   tested before their sum divides.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_QSGTOQ(const int64_t* n, const int64_t* idx, const double* qs, double* q);
+
+/* A property of listed components as the weighted mean over their segments.
+ *
+ *   Q(i) = Σ_m QS(m) f(m) WS(m) / Σ_m f(m) WS(m)
+ *   f = SFLOW / Σ SFLOW, else SFRAC / Σ SFRAC, else 1/NSEG of a polymer; count / Σ count of an oligomer
+ *
+ *   WS(component)  in      weight of each segment component [any]
+ *   N              in      number of listed components
+ *   IDX(N)         in      component index of each entry
+ *   QS(component)  in      property of each component, segments included [any]
+ *   Q(N)           out     property of each entry [any]
+ *
+ * - Without a polymer block every entry is its own QS; so is a conventional component, an oligomer that is
+ *   not in the oligomer list, and a polymer of a run without segments.
+ * - A flow at or above the missing-value bound counts as 1/NSEG. SFLOW is taken when its sum is above the
+ *   zero bound, SFRAC when its sum is above the zero bound and below the missing-value bound. An attribute
+ *   that is not carried counts as 0.
+ * - Neither the counts of an oligomer nor the sum of the weights are tested before they divide.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_QSTOQA(const double* ws, const int64_t* n, const int64_t* idx, const double* qs,
+                               double* q);
+
+/* A component list split into polymers and oligomers, and the rest.
+ *
+ *   IDXP = the polymers and oligomers of IDX, IDXK = the others, each in the order of the list, with their
+ *     positions in it
+ *
+ *   N         in      number of listed components
+ *   IDX(N)    in      component index of each entry
+ *   NP        out     number of polymers and oligomers
+ *   IDXP(NP)  out     their component indices
+ *   POSP(NP)  out     their positions in IDX
+ *   NK        out     number of others
+ *   IDXK(NK)  out     their component indices
+ *   POSK(NK)  out     their positions in IDX
+ *
+ * - N < 1: both counts are 0 and nothing else is written. IDXP or IDXK may be IDX.
+ */
+POLYPROPS_API void POLY_IDXSPLIT(const int64_t* n, const int64_t* idx, int64_t* np, int64_t* idxp,
+                                 int64_t* posp, int64_t* nk, int64_t* idxk, int64_t* posk);
+
+/* Values of two parts of a list merged into the order of the list.
+ *
+ *   V(POSP(k)) = VP(k), then V(POSK(k)) = VK(k)
+ *
+ *   UNUSED1   unused  not read
+ *   NP        in      number of values of the first part
+ *   NK        in      number of values of the second part
+ *   POSP(NP)  in      target positions of the first part
+ *   POSK(NK)  in      target positions of the second part
+ *   VP(NP)    in      values of the first part, reals or integers
+ *   VK(NK)    in      values of the second part
+ *   V(*)      out     merged values; as long as the largest position
+ *
+ * - Positions that neither part names stay untouched; one that both name holds the value of the second part.
+ */
+POLYPROPS_API void POLY_PROPMRG(const void* unused1, const int64_t* np, const int64_t* nk,
+                                const int64_t* posp, const int64_t* posk, const void* vp, const void* vk,
+                                void* v);
+
+/* Composition of a sub-list, normalised.
+ *
+ *   XS(k) = X(IDX(k)) / Σ X(IDX(k))
+ *
+ *   UNUSED1       unused  not read
+ *   X(component)  in      full composition, by component index [1]
+ *   N             in      number of entries of the sub-list
+ *   IDX(N)        in      component index of each entry
+ *   XS(N)         out     composition of the sub-list [1]
+ *
+ * - A sum of exactly 0 leaves the entries unnormalised.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETXSUB(const void* unused1, const double* x, const int64_t* n, const int64_t* idx,
+                                double* xs);
+
+/* Consecutive work areas laid out in a work vector.
+ *
+ *   PTR(1) = LAST + 1, PTR(k + 1) = PTR(k) + LEN(k), LAST = PTR(N) + LEN(N) - 1
+ *
+ *   LAST    inout   last position in use, before and after
+ *   N       in      number of work areas
+ *   LEN(N)  in      length of each area
+ *   PTR(N)  out     first position of each area
+ *
+ * - N < 1: nothing is written.
+ * - An area of length 0 shares its start with the next one. PTR may be LEN.
+ */
+POLYPROPS_API void POLY_WRKPOINT(int64_t* last, const int64_t* n, const int64_t* len, int64_t* ptr);
+
+/* Water in a component list, by its name.
+ *
+ *   JW = the first IDX(i) named "H2O"
+ *
+ *   N       in      number of listed components
+ *   IDX(N)  in      component index of each entry
+ *   JW      out     component index of water, 0 when the list has none
+ *
+ * - The first eight characters of the name must be H2O and five blanks, in upper case.
+ * - N < 1: JW = 0.
+ */
+POLYPROPS_API void POLY_SETH2O(const int64_t* n, const int64_t* idx, int64_t* jw);
+
+/* ---- mixture properties -------------------------------------------------------------------------------- */
+
+/* Chain averages, true mole fractions, polymer flags and segment fractions of listed components.
+ *
+ *   MWN(i) = DPN(i) MRF(i)
+ *   XT(i) = y(i) / Σ y, y(i) = X(i) MW(IDX(i)) / MWN(i)
+ *   SMFM(j, m), SWFM(j, m) = mole and mass fraction of the segment at position m in polymer or oligomer j
+ *
+ *   N            in      number of listed components
+ *   X(N)         in      apparent mole fractions, by position [1]
+ *   IDX(N)       in      component index of each entry
+ *   DPN(NC)      out     segments per chain, by position [1]
+ *   MWN(NC)      out     number-average molecular weight, by position [g/mol]
+ *   XT(NC)       out     true mole fractions, by position [1]
+ *   MRF(NC)      out     molecular weight per segment, by position [g/mol]
+ *   W1(NC)       work    work space [1]
+ *   W2(NC)       work    work space [1]
+ *   NC           in      number of components of the host, leading dimension of SMFM and SWFM
+ *   MW(NC)       in      molecular weights of the apparent basis, by component [g/mol]
+ *   IFLAG(NC)    out     by component, 1 marks a listed polymer or oligomer, 0 otherwise
+ *   SMFM(NC,NC)  out     segment mole fractions; rows are component indices, columns segment positions [1]
+ *   SWFM(NC,NC)  out     segment mass fractions; rows are component indices, columns segment positions [1]
+ *   NSEG         out     number of segments of the run
+ *   ISEG(NC)     out     component index of each segment
+ *
+ * - DPN, MRF and the fractions as POLY_GETDPN, POLY_GETMRF, POLY_GETSMF and POLY_GETSWF give them for
+ *   attribute selector 1, with all their fallbacks; where those write no fractions the row is 0.
+ * - Every output is 0 where nothing else is said: entries beyond N or NSEG, rows of components that are not
+ *   listed or are neither polymer nor oligomer.
+ * - An entry whose MWN is exactly 0 has y(i) = X(i). Σ y of exactly 0 is not divided by.
+ * - Without a polymer block NSEG is 0 and both matrices are 0.
+ * - N < 1: everything is cleared, NSEG and ISEG are given.
+ */
+POLYPROPS_API void POLY_GETPOL1(const int64_t* n, const double* x, const int64_t* idx, double* dpn,
+                                double* mwn, double* xt, double* mrf, double* w1, double* w2,
+                                const int64_t* nc, const double* mw, int64_t* iflag, double* smfm,
+                                double* swfm, int64_t* nseg, int64_t* iseg);
+
+/* Chain averages, polymer flags and segment fractions of listed components.
+ *
+ *   MWN(i) = DPN(i) MRF(i)
+ *   SMFM(j, m), SWFM(j, m) = mole and mass fraction of the segment at position m in polymer or oligomer j
+ *
+ *   N            in      number of listed components
+ *   IDX(N)       in      component index of each entry
+ *   DPN(NC)      out     segments per chain, by position [1]
+ *   MWN(NC)      out     number-average molecular weight, by position [g/mol]
+ *   MRF(NC)      out     molecular weight per segment, by position [g/mol]
+ *   W1(NC)       work    work space [1]
+ *   W2(NC)       work    work space [1]
+ *   NC           in      number of components of the host, leading dimension of SMFM and SWFM
+ *   IFLAG(NC)    out     by component, 1 marks a listed polymer or oligomer, 0 otherwise
+ *   SMFM(NC,NC)  out     segment mole fractions; rows are component indices, columns segment positions [1]
+ *   SWFM(NC,NC)  out     segment mass fractions; rows are component indices, columns segment positions [1]
+ *   NSEG         out     number of segments of the run
+ *   ISEG(NC)     out     component index of each segment
+ *
+ * - POLY_GETPOL1 without mole fractions; its notes hold here.
+ * - N < 1: everything is cleared, NSEG and ISEG are given.
+ */
+POLYPROPS_API void POLY_GETPOL2(const int64_t* n, const int64_t* idx, double* dpn, double* mwn, double* mrf,
+                                double* w1, double* w2, const int64_t* nc, int64_t* iflag, double* smfm,
+                                double* swfm, int64_t* nseg, int64_t* iseg);
+
+/* Segment-count matrix and polymer flags of listed components from their chain averages.
+ *
+ *   SCM(j, ISEG(m)) = SMF(m) DPN for a polymer or oligomer j
+ *   SCM(j, 1) = DPN for any other component j
+ *
+ *   N           in      number of listed components
+ *   IDX(N)      in      component index of each entry
+ *   NC          in      number of components of the host, leading dimension of SCM
+ *   W(NC)       work    work space [1]
+ *   NSEG        out     number of segments of the run
+ *   ISEG(NC)    out     component index of each segment
+ *   IFLAG(NC)   out     by component, 1 marks a listed polymer or oligomer, 0 otherwise
+ *   SCM(NC,NC)  out     segments of component k per molecule of j [1]
+ *
+ * - DPN and SMF as POLY_GETDPN and POLY_GETSMF give them for attribute selector 1, with all their fallbacks;
+ *   where POLY_GETSMF writes nothing the row is 0.
+ * - Column 1 of a component that is neither polymer nor oligomer holds its own count, whatever component the
+ *   column belongs to. Every other element is 0, and so are ISEG beyond NSEG and IFLAG of components that are
+ *   not listed.
+ * - Without a polymer block NSEG is 0 and only column 1 of listed components that are neither polymer nor
+ *   oligomer is set.
+ * - N < 1: everything is cleared, NSEG and ISEG are given.
+ */
+POLYPROPS_API void POLY_GETPOL3(const int64_t* n, const int64_t* idx, const int64_t* nc, double* w,
+                                int64_t* nseg, int64_t* iseg, int64_t* iflag, double* scm);
+
+/* Segment-count matrix of listed components straight from their attributes.
+ *
+ *   SCM(j, ISEG(m)) = f(m) max(1, D) for a polymer j, f(m) = v(m) / Σ v, v = SFRAC, else SFLOW
+ *   D = DPN, else MWN / Σ f(m) MW(ISEG(m)), else F / Z
+ *   Z = ZMOM, else 0.5 Σ SFLOW(e) over e = 1..min(NEND, NSEG)
+ *   F = FMOM when it is not below Z, else Σ SFLOW(m)
+ *   SCM(j, ISEG(m)) = count(m, e) for the e-th oligomer of the run, where positive
+ *   SCM(j, 1) = max(1, DPN parameter) for any other component j
+ *
+ *   SEL            in      attribute selector, passed on to the host's attribute search
+ *   NC             in      number of components of the host, leading dimension of SCM
+ *   MW(NC)         in      molecular weights by component, for the mean segment weight [g/mol]
+ *   NSEG           out     number of segments of the run
+ *   ISEG(segment)  out     component index of each segment
+ *   N              in      number of listed components
+ *   IDX(N)         in      component index of each entry
+ *   SCM(NC,NC)     out     segments of component k per molecule of j [1]
+ *
+ * - Without a polymer block SCM is 0, NSEG and ISEG stay untouched. ISEG also stays untouched when no polymer
+ *   or oligomer is listed.
+ * - A polymer takes SFLOW only when it does not carry "SFRAC". With neither, or with Σ v at or below the zero
+ *   bound: equal shares 1/NSEG. Values at or above the missing-value bound are used as they are.
+ * - "DPN" is taken from 1.0 on, however large; "MWN" when it is not below the mean segment weight and that is
+ *   not exactly 0. F / Z needs both above the zero bound; D is 1.0 otherwise.
+ * - The estimate of Z without "ZMOM" takes SFLOW at the entry numbers of the end-segment list: it is half the
+ *   flow of the end segments when these lead the segment list. An attribute that is not carried counts as 0.
+ * - An oligomer with one positive count and a DPN parameter above 1.0: that count is the DPN parameter. One
+ *   that stands more than once in the oligomer list is taken column by column. One that is not in the list
+ *   has a row of 0.
+ * - Without the DPN parameter vector a DPN parameter is 1.0; so is one that is not a number.
+ */
+POLYPROPS_API void POLY_GETPOL(const int64_t* sel, const int64_t* nc, const double* mw, int64_t* nseg,
+                               int64_t* iseg, const int64_t* n, const int64_t* idx, double* scm);
+
+/* Segment-count matrix, lengths and flags of listed components straight from their attributes.
+ *
+ *   SCM(j, ISEG(m)) = v(m) DPN(i) / Σ v for a polymer j = IDX(i), v = SFRAC, else SFLOW
+ *   DPN(i) = "DPN", else max(1, F / Z) for a polymer
+ *   Z = ZMOM, else 0.5 Σ SFLOW(e) over e = 1..min(NEND, NSEG)
+ *   F = FMOM, else Σ SFLOW(m)
+ *   SCM(j, ISEG(m)) = count(m, e) / V × DPN(i), V = Σ count(m, e), for the e-th oligomer of the run
+ *   SCM(j, 1) = 1 and DPN(i) = max(1, DPN parameter) for any other component j
+ *
+ *   SEL         in      attribute selector, passed on to the host's attribute search
+ *   N           in      number of listed components
+ *   IDX(N)      in      component index of each entry
+ *   NC          in      number of components of the host, leading dimension of SCM
+ *   NSEG        out     number of segments of the run
+ *   ISEG(NC)    out     component index of each segment
+ *   NPOL        out     number of entries that are polymers or oligomers
+ *   IFLAG(NC)   out     by component, 1 marks a listed polymer or oligomer, 0 otherwise
+ *   SCM(NC,NC)  out     segments of component k per molecule of j [1]
+ *   DPN(NC)     out     segments per chain, by position [1]
+ *
+ * - Neither polymer nor oligomer in the list: NPOL is 0 and everything else stays untouched.
+ * - A polymer takes "DPN" when 1.0 < value < missing-value bound. F / Z needs both above the zero bound;
+ *   DPN(i) is 1.0 otherwise. "FMOM" counts whenever it is carried.
+ * - SFLOW is taken only when "SFRAC" is not carried. Values at or above the missing-value bound count as 0; Σ
+ *   v at or below the zero bound: SCM(j, ISEG(m)) = DPN(i) / NSEG. An attribute that is not carried counts as
+ *   0.
+ * - The estimate of Z without "ZMOM" takes SFLOW at the entry numbers of the end-segment list: it is half the
+ *   flow of the end segments when these lead the segment list.
+ * - An oligomer whose DPN parameter is within 1e-10 of 1 has DPN(i) = max(1, V); any other has its DPN
+ *   parameter. V of exactly 0 is not divided by. One that stands more than once in the oligomer list takes
+ *   its last column, V adding up from column to column.
+ * - Without the DPN parameter vector a DPN parameter is 1.0; so is one that is not a number.
+ * - Without a polymer block NSEG is 0 and the rows of polymers and oligomers are 0; polymers still take
+ *   DPN(i) from their attributes, the estimate of Z and Σ SFLOW being 0.
+ */
+POLYPROPS_API void POLY_GETPALL(const int64_t* sel, const int64_t* n, const int64_t* idx, const int64_t* nc,
+                                int64_t* nseg, int64_t* iseg, int64_t* npol, int64_t* iflag, double* scm,
+                                double* dpn);
+
+/* Segment-count matrix of listed components, one polymer being given by the weight of its chains.
+ *
+ *   SCM(J, ISEG(m)) = FRAC(m) R / S, R = MWJ / W
+ *   S = Σ FRAC(m), W = Σ MW(ISEG(m)) FRAC(m) / S
+ *   SCM(k, 1) = 1 for every other listed component k
+ *
+ *   J           in      component index of the polymer
+ *   MWJ         in      molecular weight that the chains of J are to have [g/mol]
+ *   N           in      number of listed components
+ *   IDX(N)      in      component index of each entry
+ *   NC          in      number of components of the host, leading dimension of SCM
+ *   MW(NC)      in      molecular weights by component, segments included [g/mol]
+ *   IFLAG(NC)   out     by component, 1 for J and 0 for the other listed components
+ *   SCM(NC,NC)  out     segments of component k per molecule of j [1]
+ *   NSEG        out     number of segments of J
+ *   ISEG(*)     out     component index of each segment of J
+ *   FRAC(*)     out     segments of each kind per chain of J [1]
+ *
+ * - NSEG, ISEG and FRAC as POLY_GETSEG gives them for attribute selector 1. Where it writes nothing NSEG is
+ *   0, ISEG and FRAC stay untouched.
+ * - ISEG and FRAC need as many entries as the run has segments; as many again for each further place of an
+ *   oligomer in the oligomer list.
+ * - IFLAG of components that are not listed stays untouched.
+ * - Row J stays 0 when J is not listed, and when S or W is exactly 0.
+ * - N < 1: SCM is cleared, NSEG, ISEG and FRAC are given.
+ */
+POLYPROPS_API void POLY_GETPMIX(const int64_t* j, const double* mwj, const int64_t* n, const int64_t* idx,
+                                const int64_t* nc, const double* mw, int64_t* iflag, double* scm,
+                                int64_t* nseg, int64_t* iseg, double* frac);
+
+/* True mole fractions of listed components, one polymer being given by the weight of its chains.
+ *
+ *   XT(i) = y(i) / Σ y, y(i) = MW(IDX(i)) X(i) / MWN(i), MWN(i) = MWJ for IDX(i) = J
+ *
+ *   J              in      component index of the polymer
+ *   MWJ            in      molecular weight of the chains of J [g/mol]
+ *   N              in      number of listed components
+ *   IDX(N)         in      component index of each entry
+ *   X(N)           in      apparent mole fractions, by position [1]
+ *   XT(N)          out     true mole fractions, by position [1]
+ *   MWN(N)         inout   number-average molecular weights, by position; entries of J become MWJ [g/mol]
+ *   UNUSED1        unused  never read
+ *   MW(component)  in      molecular weights of the apparent basis [g/mol]
+ *
+ * - Reads nothing but its arguments.
+ * - MWN of every other component stays as it is.
+ * - An entry whose MWN is exactly 0 has y(i) = X(i). Σ y of exactly 0 is not divided by.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETPMIX1(const int64_t* j, const double* mwj, const int64_t* n, const int64_t* idx,
+                                 const double* x, double* xt, double* mwn, const void* unused1,
+                                 const double* mw);
+
+/* Segment-count matrix that breaks only the listed oligomers into segments.
+ *
+ *   B(j, ISEG(m)) = A(j, ISEG(m)) for an oligomer j, where positive
+ *   B(j, 1) = 1 for any other component j, polymers included
+ *
+ *   N              in      number of listed components
+ *   IDX(N)         in      component index of each entry
+ *   NC             in      number of components of the host, leading dimension of A and B
+ *   A(NC,NC)       in      segments of component k per molecule of j [1]
+ *   NSEG           out     number of segments of the run
+ *   ISEG(segment)  out     component index of each segment
+ *   B(NC,NC)       out     segments of component k per molecule of j, oligomers only [1]
+ *   IFLAG(NC)      out     by component, 1 marks a listed oligomer, 0 otherwise
+ *
+ * - Without a polymer block NSEG is 0, B and IFLAG are 0, ISEG stays untouched.
+ * - ISEG stays untouched when no oligomer is listed.
+ * - An oligomer that is not in the oligomer list is flagged and has a row of 0.
+ * - N < 1: B and IFLAG are cleared, NSEG is given.
+ */
+POLYPROPS_API void POLY_GETOLI(const int64_t* n, const int64_t* idx, const int64_t* nc, const double* a,
+                               int64_t* nseg, int64_t* iseg, double* b, int64_t* iflag);
+
+/* A property of listed components, averaged over segments by number.
+ *
+ *   OUT(i) = Σ_k Q(s) SCM(j, s) / Σ_k SCM(j, s), s = IK(k), for a flagged component j = IJ(i), Q(j) otherwise
+ *
+ *   LD                in      leading dimension of SCM
+ *   Q(component)      in      the property of segments and components [any]
+ *   NK                in      number of segments
+ *   IK(NK)            in      component index of each segment
+ *   SCM(LD,*)         in      segments of component k per molecule of j [1]
+ *   NJ                in      number of listed components
+ *   IJ(NJ)            in      component index of each entry
+ *   OUT(NJ)           out     the property of each entry, by position [any]
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *
+ * - Reads its arguments and the zero bound.
+ * - A flagged component whose row sum is at or below the zero bound, or is not a number, has its own Q(j).
+ * - NJ < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETMAVG(const int64_t* ld, const double* q, const int64_t* nk, const int64_t* ik,
+                                const double* scm, const int64_t* nj, const int64_t* ij, double* out,
+                                const int64_t* iflag);
+
+/* A property of one polymer, averaged over segments by mass.
+ *
+ *   OUT = Σ_k SCM(J, s) Q(s) WT(s) / Σ_k SCM(J, s) WT(s), s = IK(k)
+ *
+ *   LD             in      leading dimension of SCM
+ *   WT(component)  in      weight factors; molecular weights give the average by mass [any]
+ *   NK             in      number of segments; below 1 every sum is 0
+ *   IK(NK)         in      component index of each segment
+ *   SCM(LD,*)      in      segments of component k per molecule of j [1]
+ *   J              in      component index of the polymer
+ *   Q(component)   in      the property of the segments [any]
+ *   OUT            out     the property of J [any]
+ *
+ * - Reads nothing but its arguments.
+ * - A denominator of exactly 0 is not divided by: OUT is the numerator, 0 for NK < 1.
+ */
+POLYPROPS_API void POLY_GETSAVG(const int64_t* ld, const double* wt, const int64_t* nk, const int64_t* ik,
+                                const double* scm, const int64_t* j, const double* q, double* out);
+
+/* A property of one polymer: its own value where given, else averaged over segments by mass.
+ *
+ *   OUT = Q(J) for zero bound < Q(J) < missing-value bound, else Σ_k SCM(J, s) Q(s) WT(s) / Σ_k SCM(J, s)
+ *     WT(s), s = IK(k)
+ *
+ *   LD             in      leading dimension of SCM
+ *   WT(component)  in      weight factors; molecular weights give the average by mass [any]
+ *   NK             in      number of segments; below 1 every sum is 0
+ *   IK(NK)         in      component index of each segment
+ *   SCM(LD,*)      in      segments of component k per molecule of j [1]
+ *   J              in      component index of the polymer
+ *   Q(component)   in      the property of segments and polymers [any]
+ *   OUT            out     the property of J [any]
+ *
+ * - Reads its arguments and the two bounds, which are themselves excluded.
+ * - A denominator of exactly 0 is not divided by: OUT is the numerator, 0 for NK < 1.
+ */
+POLYPROPS_API void POLY_GETPOLQ(const int64_t* ld, const double* wt, const int64_t* nk, const int64_t* ik,
+                                const double* scm, const int64_t* j, const double* q, double* out);
+
+/* A property of one polymer, averaged over segments by number.
+ *
+ *   OUT = Σ_k SCM(J, s) Q(s) / Σ_k SCM(J, s), s = IK(k)
+ *
+ *   LD            in      leading dimension of SCM
+ *   NK            in      number of segments; below 1 every sum is 0
+ *   IK(NK)        in      component index of each segment
+ *   SCM(LD,*)     in      segments of component k per molecule of j [1]
+ *   J             in      component index of the polymer
+ *   Q(component)  in      the property of the segments [any]
+ *   OUT           out     the property of J [any]
+ *
+ * - Reads nothing but its arguments.
+ * - A row sum of exactly 0 is not divided by: OUT is the numerator, 0 for NK < 1.
+ */
+POLYPROPS_API void POLY_GETFAVG(const int64_t* ld, const int64_t* nk, const int64_t* ik, const double* scm,
+                                const int64_t* j, const double* q, double* out);
+
+/* A property of one polymer, averaged over segments by number; the same as POLY_GETFAVG.
+ *
+ *   OUT = Σ_k SCM(J, s) Q(s) / Σ_k SCM(J, s), s = IK(k)
+ *
+ *   LD            in      leading dimension of SCM
+ *   NK            in      number of segments; below 1 every sum is 0
+ *   IK(NK)        in      component index of each segment
+ *   SCM(LD,*)     in      segments of component k per molecule of j [1]
+ *   J             in      component index of the polymer
+ *   Q(component)  in      the property of the segments [any]
+ *   OUT           out     the property of J [any]
+ *
+ * - Reads nothing but its arguments.
+ * - A row sum of exactly 0 is not divided by: OUT is the numerator, 0 for NK < 1.
+ */
+POLYPROPS_API void POLY_GETFAVGT(const int64_t* ld, const int64_t* nk, const int64_t* ik, const double* scm,
+                                 const int64_t* j, const double* q, double* out);
+
+/* Mean segment molecular weight from a segment-count matrix, by component.
+ *
+ *   OUT(j) = Σ_m MW(s) SCM(j, s) / Σ_m SCM(j, s), s = ISEG(m), for a flagged component j = IDX(i), MW(j)
+ *     otherwise
+ *
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   LD                in      leading dimension of SCM
+ *   MW(component)     in      molecular weights, segments included [g/mol]
+ *   NSEG              in      number of segments; below 1 every sum is 0
+ *   ISEG(NSEG)        in      component index of each segment
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *   SCM(LD,*)         in      segments of component k per molecule of j [1]
+ *   OUT(component)    out     molecular weight per segment, by component [g/mol]
+ *
+ * - Reads nothing but its arguments.
+ * - A row sum of exactly 0 is not divided by: OUT(j) is the numerator, 0 for NSEG < 1.
+ * - OUT of components that are not listed stays untouched; N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETMWS(const int64_t* n, const int64_t* idx, const int64_t* ld, const double* mw,
+                               const int64_t* nseg, const int64_t* iseg, const int64_t* iflag,
+                               const double* scm, double* out);
+
+/* Molecular weight of a chain from a segment-count matrix, by position.
+ *
+ *   OUT(i) = Σ_m MW(s) SCM(j, s), s = ISEG(m), for a flagged component j = IDX(i), MW(j) otherwise
+ *
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   LD                in      leading dimension of SCM
+ *   MW(component)     in      molecular weights, segments included [g/mol]
+ *   NSEG              in      number of segments; below 1 every sum is 0
+ *   ISEG(NSEG)        in      component index of each segment
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *   SCM(LD,*)         in      segments of component k per molecule of j [1]
+ *   OUT(N)            out     number-average molecular weight, by position [g/mol]
+ *
+ * - Reads nothing but its arguments.
+ * - It is what POLY_GETMWN1 gives, the arguments in another order.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETMWP(const int64_t* n, const int64_t* idx, const int64_t* ld, const double* mw,
+                               const int64_t* nseg, const int64_t* iseg, const int64_t* iflag,
+                               const double* scm, double* out);
+
+/* Weight-average molecular weight from a segment-count matrix and the moments of the stream, by position.
+ *
+ *   OUT(i) = PDI(i) MWP(i), PDI as POLY_GETPOLI gives it for attribute selector 1, MWP as POLY_GETMWP gives
+ *     it
+ *
+ *   N                 in      number of listed components
+ *   IDX(N)            in      component index of each entry
+ *   LD                in      leading dimension of SCM
+ *   MW(component)     in      molecular weights, segments included [g/mol]
+ *   NSEG              in      number of segments; below 1 every sum is 0
+ *   ISEG(NSEG)        in      component index of each segment
+ *   IFLAG(component)  in      1 marks a polymer or oligomer; no other value does
+ *   SCM(LD,*)         in      segments of component k per molecule of j [1]
+ *   OUT(N)            out     weight-average molecular weight, by position [g/mol]
+ *
+ * - A component that is not flagged has its PDI times MW(j).
+ * - PDI with all its fallbacks, whether the component is flagged or not.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETWWP(const int64_t* n, const int64_t* idx, const int64_t* ld, const double* mw,
+                               const int64_t* nseg, const int64_t* iseg, const int64_t* iflag,
+                               const double* scm, double* out);
+
+/* Polydispersity index of listed components, never below 1 where moments give it.
+ *
+ *   PDI(i) = max(1, (SMOM / F) / (F / ZMOM)) for a polymer, the PDI parameter otherwise
+ *   F = Σ SFLOW(s) over s = 1..NSEG; FMOM is not read
+ *
+ *   SEL     in      attribute selector, passed on to the host's attribute search
+ *   N       in      number of listed components
+ *   IDX(N)  in      component index of each entry
+ *   PDI(N)  out     polydispersity index, by position [1]
+ *
+ * - Without the PDI parameter vector a PDI parameter is 1.0. A parameter is given as it stands, also below 1.
+ * - Without a polymer block, without polymers in the run, or with the host's PDI mode at 100, every entry is
+ *   its PDI parameter; so are oligomers.
+ * - A polymer keeps its PDI parameter unless it carries "SMOM", zero bound < ZMOM < missing-value bound, both
+ *   F and Σ MW(s) SFLOW(s) are at or above the zero bound, and F is not exactly 0. An attribute that is not
+ *   carried counts as 0.
+ * - Past these tests 1.0 when SMOM is not strictly between the two bounds: the parameter then does not count.
+ * - N < 1: nothing is written.
+ */
+POLYPROPS_API void POLY_GETPOLI(const int64_t* sel, const int64_t* n, const int64_t* idx, double* pdi);
+
 /* ---- binary interaction parameters --------------------------------------------------------------------- */
 
 /* Binary parameter of one pair at a temperature, and its temperature derivative.
@@ -461,6 +1442,81 @@ POLYPROPS_API void POLY_DKIJ5(const double* t, const int64_t* n, const int64_t* 
  */
 POLYPROPS_API void POLY_TBPARI(const int64_t* n, const int64_t* m, double* p, const int64_t* k,
                                const int64_t* mode);
+
+/* ---- input semantics ----------------------------------------------------------------------------------- */
+
+/* Checks the polymer input paragraph, reports bad entries and builds the polymer block from the rest.
+ *
+ *   polymer block: segments, polymers, oligomers with their make-up, catalysts, initiators, counts, attribute
+ *     layout, distribution requests
+ *   layout table: groups 1..5 hold NSEG + 1 elements each, groups 6..11 one more than there are catalyst site
+ *     types, laid end to end
+ *
+ *   UNUSED1       unused  not used
+ *   OP            in      2 checks the paragraph, 5 answers only; anything else does nothing
+ *   CONTEXT       in      semantics context, passed on to the host's property semantics
+ *   PARAGRAPH(*)  in      the paragraph, handed to the host's sentence service
+ *   UNUSED2       unused  not used
+ *   STATUS        inout   5 for OP = 5; otherwise what the host's sentence service makes of it
+ *
+ * - OP = 5 sets STATUS to 5 and touches nothing else.
+ * - Messages go through the host's message channel under the name POLSEM. A bad entry is reported and
+ *   dropped, the others are processed. Only a paragraph without sentences, segments without a polymer or
+ *   oligomer, and polymers or oligomers without a segment end the routine; nothing is built then. A paragraph
+ *   that names none of the three is accepted.
+ * - STATUS 2 from the host's sentence service ends the routine with nothing built. When memory for its work
+ *   space is exhausted, the routine sets STATUS to 2 itself and builds nothing.
+ * - The end of the sentences is told to the host last, when word 1 of PARAGRAPH is at least 1, and only by a
+ *   check that was not ended early.
+ * - A polymer or a segment that is named twice stands where it was named first; the repeat is reported
+ *   (messages 5 and 11) and dropped from every list.
+ * - A segment of another type than 1 to 4 stands in the segment list alone.
+ * - An unknown catalyst or initiator is reported and keeps its place, which holds 0; so does the real value
+ *   of a catalyst.
+ * - A blank oligomer ID stands for the last one written. Of two counts of the same segment in the same
+ *   oligomer the later one holds; an oligomer without any accepted count is listed with zeros.
+ * - Blocks of an earlier paragraph are used again. Lists that are too short are enlarged; a catalyst block or
+ *   an oligomer block that might be too small is freed and made anew. Without oligomers in the paragraph an
+ *   earlier oligomer block stays, but lists none when the number of segments has changed.
+ * - Parameter block: the number of site types and the real are always written, 0 without a catalyst-site
+ *   sentence; its other words only when the new value is not zero. Of the attribute layout table word 1 and
+ *   the reals are not written.
+ * - An attribute entry that lacks what a polymer or a catalyst needs, or names EFRAC without an end segment,
+ *   is not forwarded; if the host suppresses the message, it is. An entry whose ID is unknown and whose
+ *   message is suppressed counts as neither polymer nor catalyst. The forwarded sentence carries the ID as
+ *   written.
+ * - A distribution request of another type than 1 to 4 is neither stored nor reported.
+ * - A list start outside its sentence, or a count beyond it, is cut to what the sentence holds; missing words
+ *   read as 0.
+ * - Allocates in the host's store. Blocks handed to the host's property semantics and copies of sentences are
+ *   not freed.
+ */
+POLYPROPS_API void POLY_POLSEM(const int64_t* unused1, const int64_t* op, const void* context,
+                               const int64_t* paragraph, const int64_t* unused2, int64_t* status);
+
+/* Writes the values of a CATSCALE sentence over component attributes.
+ *
+ *   column 1 of the attribute's elements 1..m = B(i) where B(i) < missing-value bound
+ *   column 3 of the attribute's elements 1..m = A(i) where A(i) < missing-value bound, for each entry i in
+ *     order
+ *
+ *   OP        in      2 applies the sentence; anything else does nothing
+ *   SENTENCE  in      id of the block whose word 4 names the CATSCALE data block
+ *   STATUS    out     -1 when every entry was applied, 1 when one named an attribute that its component does
+ *                     not carry
+ *   UNUSED1   unused  not used
+ *   LOCATED   in      id of a block that is located and not read
+ *
+ * - OP other than 2: nothing is read or written, STATUS included.
+ * - An attribute that the component does not carry is reported under the name CATSCALE (severity 1, message
+ *   1), changes nothing and sets STATUS to 1, also when the host suppresses the message; the other entries
+ *   are applied. A component without an attribute block carries none.
+ * - A value at or above the missing-value bound, or one that is not a number, leaves its column untouched;
+ *   this is not reported.
+ * - An attribute without elements is left alone and not reported. Column 2 is never touched.
+ */
+POLYPROPS_API void POLY_CATSCALESEM(const int64_t* op, const int64_t* sentence, int64_t* status,
+                                    const int64_t* unused1, const int64_t* located);
 
 /* ---- chain-length distributions ------------------------------------------------------------------------ */
 
