@@ -86,6 +86,8 @@ Case read_root(TableReader root, const std::string& file)
     if (const auto polymers = root.table("polymers")) input.paragraph = read_paragraph(*polymers);
     if (const auto streams = section(root, "streams", "a table with at least one stream"))
         input.streams = read_streams(*streams);
+    if (const auto properties = root.table("properties")) input.properties = read_properties(*properties);
+    if (const auto reactors = root.table("reactors")) input.reactors = read_reactors(*reactors);
     root.finish();
     return input;
 }
@@ -122,6 +124,8 @@ Case parse_case(std::string_view text, const std::string& file, Diagnostics& dia
     check_components(input, diagnostics);
     check_paragraph(input, diagnostics);
     check_streams(input, diagnostics);
+    check_properties(input, diagnostics);
+    check_reactors(input, diagnostics);
     return input;
 }
 

@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "cli/bases.h"
+
 namespace cli {
 
 enum class Format { text, csv, json };
@@ -15,5 +17,18 @@ inline constexpr int exit_usage = 2;
 // Loads the case and prints its results to `out`. What is wrong with the case goes to `errors`, one line
 // each.
 int run(const std::filesystem::path& file, Format format, std::FILE* out, std::FILE* errors);
+
+struct Conversion {
+    std::string stream;
+    Basis from;
+    Basis to;
+};
+
+// Why there is no such conversion; empty when there is one.
+std::string impossible(const Conversion& conversion);
+
+// Prints one stream of the case on two bases. A stream that the case does not have is an error of usage.
+int convert(const std::filesystem::path& file, const Conversion& conversion, Format format, std::FILE* out,
+            std::FILE* errors);
 
 }  // namespace cli

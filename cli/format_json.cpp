@@ -19,11 +19,22 @@ Json row_object(const Table& table, const std::vector<Cell>& row)
     return object;
 }
 
+Json section_object(const Section& section)
+{
+    Json object{{"name", section.name}};
+    for (const auto& [key, text] : section.facts) object[key] = text;
+    for (const auto& table : section.tables) {
+        object[table.key] = Json::array();
+        for (const auto& row : table.rows) object[table.key].push_back(row_object(table, row));
+    }
+    return object;
+}
+
 Json units(const Report& report)
 {
     auto units = Json::object();
-    for (const auto& stream : report.streams)
-        for (const auto& table : stream.tables)
+    for (const auto& section : report.sections)
+        for (const auto& table : section.tables)
             for (const auto& column : table.columns)
                 if (!column.unit.empty()) units[table.key][column.key] = column.unit;
     return units;
@@ -35,14 +46,7 @@ std::string format_json(const Report& report)
 {
     Json json{{"schema_version", schema_version}, {"title", report.title}, {"units", units(report)}};
     json["streams"] = Json::array();
-    for (const auto& stream : report.streams) {
-        Json object{{"name", stream.stream}};
-        for (const auto& table : stream.tables) {
-            object[table.key] = Json::array();
-            for (const auto& row : table.rows) object[table.key].push_back(row_object(table, row));
-        }
-        json["streams"].push_back(std::move(object));
-    }
+    for (const auto& section : report.sections) json[section.kind + "s"].push_back(section_object(section));
     return json.dump(2) + "\n";
 }
 

@@ -64,11 +64,11 @@ std::string aligned(const Table& table)
 std::string format_text(const Report& report)
 {
     std::string text = report.title.empty() ? "" : fmt::format("{}\n", report.title);
-    for (const auto& stream : report.streams) {
-        text += fmt::format("{}Stream {}\n", text.empty() ? "" : "\n", stream.stream);
-        if (std::ranges::all_of(stream.tables, [](const Table& t) { return t.rows.empty(); }))
-            text += "\nNothing flows in this stream.\n";
-        for (const auto& table : stream.tables)
+    for (const auto& section : report.sections) {
+        text += fmt::format("{}{}\n", text.empty() ? "" : "\n", section.heading);
+        if (std::ranges::all_of(section.tables, [](const Table& t) { return t.rows.empty(); }))
+            text += fmt::format("\nNothing flows in this {}.\n", section.kind);
+        for (const auto& table : section.tables)
             if (!table.rows.empty()) text += fmt::format("\n{}\n{}", table.heading, aligned(table));
     }
     return text;

@@ -26,17 +26,25 @@ struct Table {
     std::vector<std::vector<Cell>> rows;
 };
 
-struct StreamReport {
-    std::string stream;
+// The tables of one stream or reactor.
+struct Section {
+    std::string kind;  // "stream", "reactor"
+    std::string name;
+    std::string heading;                                     // as text shows it
+    std::vector<std::pair<std::string, std::string>> facts;  // keys and texts that tell more of it
     std::vector<Table> tables;
 };
 
 struct Report {
     std::string title;
-    std::vector<StreamReport> streams;
+    std::vector<Section> sections;
 };
 
-Report make_report(const Case& input, const std::vector<StreamResults>& results);
+Report make_report(const Case& input, const Results& results);
+
+// The composition of one stream on the basis `from` and on the basis `to`.
+Report make_conversion_report(const Case& input, const std::string& stream,
+                              const std::vector<Composition>& compositions);
 
 // One line for each number of the report that is not finite.
 std::vector<std::string> not_finite(const Report& report);
