@@ -164,5 +164,30 @@ module polyprops
             integer(c_int64_t), intent(in) :: iseg(nseg)
             real(c_double), intent(inout) :: swf(nseg)
         end subroutine poly_getswf1
+
+        ! ---- input semantics
+
+        ! Checks the polymer input paragraph, reports bad entries and builds the polymer block from the rest.
+        subroutine poly_polsem(unused1, op, context, paragraph, unused2, status) &
+                bind(c, name="POLY_POLSEM")
+            use, intrinsic :: iso_c_binding, only: c_int64_t
+            integer(c_int64_t), intent(in) :: unused1
+            integer(c_int64_t), intent(in) :: op
+            type(*), intent(in) :: context(*)
+            integer(c_int64_t), intent(in) :: unused2
+            integer(c_int64_t), intent(inout) :: status
+            integer(c_int64_t), intent(in) :: paragraph(*)
+        end subroutine poly_polsem
+
+        ! Writes the values of a CATSCALE sentence over component attributes.
+        subroutine poly_catscalesem(op, sentence, status, unused1, located) &
+                bind(c, name="POLY_CATSCALESEM")
+            use, intrinsic :: iso_c_binding, only: c_int64_t
+            integer(c_int64_t), intent(in) :: op
+            integer(c_int64_t), intent(in) :: sentence
+            integer(c_int64_t), intent(inout) :: status
+            integer(c_int64_t), intent(in) :: unused1
+            integer(c_int64_t), intent(in) :: located
+        end subroutine poly_catscalesem
     end interface
 end module polyprops

@@ -319,6 +319,81 @@ POLYPROPS_API void POLY_GETSMF1(const int64_t* k, const int64_t* ld, const doubl
 POLYPROPS_API void POLY_GETSWF1(const int64_t* k, const int64_t* ld, const double* mw, const double* scm,
                                 const int64_t* nseg, const int64_t* iseg, double* swf);
 
+/* ---- input semantics ----------------------------------------------------------------------------------- */
+
+/* Checks the polymer input paragraph, reports bad entries and builds the polymer block from the rest.
+ *
+ *   polymer block: segments, polymers, oligomers with their make-up, catalysts, initiators, counts, attribute
+ *     layout, distribution requests
+ *   layout table: groups 1..5 hold NSEG + 1 elements each, groups 6..11 one more than there are catalyst site
+ *     types, laid end to end
+ *
+ *   UNUSED1       unused  not used
+ *   OP            in      2 checks the paragraph, 5 answers only; anything else does nothing
+ *   CONTEXT       in      semantics context, passed on to the host's property semantics
+ *   PARAGRAPH(*)  in      the paragraph, handed to the host's sentence service
+ *   UNUSED2       unused  not used
+ *   STATUS        inout   5 for OP = 5; otherwise what the host's sentence service makes of it
+ *
+ * - OP = 5 sets STATUS to 5 and touches nothing else.
+ * - Messages go through the host's message channel under the name POLSEM. A bad entry is reported and
+ *   dropped, the others are processed. Only a paragraph without sentences, segments without a polymer or
+ *   oligomer, and polymers or oligomers without a segment end the routine; nothing is built then. A paragraph
+ *   that names none of the three is accepted.
+ * - STATUS 2 from the host's sentence service ends the routine with nothing built. When memory for its work
+ *   space is exhausted, the routine sets STATUS to 2 itself and builds nothing.
+ * - The end of the sentences is told to the host last, when word 1 of PARAGRAPH is at least 1, and only by a
+ *   check that was not ended early.
+ * - A polymer or a segment that is named twice stands where it was named first; the repeat is reported
+ *   (messages 5 and 11) and dropped from every list.
+ * - A segment of another type than 1 to 4 stands in the segment list alone.
+ * - An unknown catalyst or initiator is reported and keeps its place, which holds 0; so does the real value
+ *   of a catalyst.
+ * - A blank oligomer ID stands for the last one written. Of two counts of the same segment in the same
+ *   oligomer the later one holds; an oligomer without any accepted count is listed with zeros.
+ * - Blocks of an earlier paragraph are used again. Lists that are too short are enlarged; a catalyst block or
+ *   an oligomer block that might be too small is freed and made anew. Without oligomers in the paragraph an
+ *   earlier oligomer block stays, but lists none when the number of segments has changed.
+ * - Parameter block: the number of site types and the real are always written, 0 without a catalyst-site
+ *   sentence; its other words only when the new value is not zero. Of the attribute layout table word 1 and
+ *   the reals are not written.
+ * - An attribute entry that lacks what a polymer or a catalyst needs, or names EFRAC without an end segment,
+ *   is not forwarded; if the host suppresses the message, it is. An entry whose ID is unknown and whose
+ *   message is suppressed counts as neither polymer nor catalyst. The forwarded sentence carries the ID as
+ *   written.
+ * - A distribution request of another type than 1 to 4 is neither stored nor reported.
+ * - A list start outside its sentence, or a count beyond it, is cut to what the sentence holds; missing words
+ *   read as 0.
+ * - Allocates in the host's store. Blocks handed to the host's property semantics and copies of sentences are
+ *   not freed.
+ */
+POLYPROPS_API void POLY_POLSEM(const int64_t* unused1, const int64_t* op, const void* context,
+                               const int64_t* paragraph, const int64_t* unused2, int64_t* status);
+
+/* Writes the values of a CATSCALE sentence over component attributes.
+ *
+ *   column 1 of the attribute's elements 1..m = B(i) where B(i) < missing-value bound
+ *   column 3 of the attribute's elements 1..m = A(i) where A(i) < missing-value bound, for each entry i in
+ *     order
+ *
+ *   OP        in      2 applies the sentence; anything else does nothing
+ *   SENTENCE  in      id of the block whose word 4 names the CATSCALE data block
+ *   STATUS    out     -1 when every entry was applied, 1 when one named an attribute that its component does
+ *                     not carry
+ *   UNUSED1   unused  not used
+ *   LOCATED   in      id of a block that is located and not read
+ *
+ * - OP other than 2: nothing is read or written, STATUS included.
+ * - An attribute that the component does not carry is reported under the name CATSCALE (severity 1, message
+ *   1), changes nothing and sets STATUS to 1, also when the host suppresses the message; the other entries
+ *   are applied. A component without an attribute block carries none.
+ * - A value at or above the missing-value bound, or one that is not a number, leaves its column untouched;
+ *   this is not reported.
+ * - An attribute without elements is left alone and not reported. Column 2 is never touched.
+ */
+POLYPROPS_API void POLY_CATSCALESEM(const int64_t* op, const int64_t* sentence, int64_t* status,
+                                    const int64_t* unused1, const int64_t* located);
+
 #ifdef __cplusplus
 }
 #endif

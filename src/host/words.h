@@ -32,6 +32,10 @@ inline Real real_at(Position p)
 {
     return std::bit_cast<Real>(*address_of(p));
 }
+inline void write_real(Position p, Real value)
+{
+    *address_of(p) = std::bit_cast<Int>(value);
+}
 
 // Consecutive reals of the store.
 class RealWords {
@@ -45,11 +49,12 @@ private:
     const Int* first_ = nullptr;
 };
 
-// Four characters followed by four blanks, as the host writes text into a word.
-constexpr Int text_word(std::string_view text)
+// Four characters of a text, from the given one on, followed by four blanks: so the host writes text into a
+// word.
+constexpr Int text_word(std::string_view text, std::size_t from = 0)
 {
     std::array<char, 8> characters{' ', ' ', ' ', ' ', ' ', ' ', ' ', ' '};
-    for (std::size_t i = 0; i < text.size() && i < 4; ++i) characters[i] = text[i];
+    for (std::size_t i = 0; i < 4 && from + i < text.size(); ++i) characters[i] = text[from + i];
     return std::bit_cast<Int>(characters);
 }
 
@@ -57,11 +62,21 @@ constexpr Int text_word(std::string_view text)
 struct NamePair {
     std::array<Int, 2> words;
 
-    constexpr explicit NamePair(std::string_view name)
-        : words{text_word(name), text_word(name.size() > 4 ? name.substr(4) : std::string_view{})}
-    {
-    }
+    constexpr explicit NamePair(std::string_view name) : words{text_word(name), text_word(name, 4)} {}
+    constexpr NamePair(Int first, Int second) : words{first, second} {}
+
     const Int* data() const { return words.data(); }
+    // The eight characters, trailing blanks kept.
+    std::array<char, 8> characters() const
+    {
+        std::array<char, 8> text{};
+        for (std::size_t half = 0; half < 2; ++half) {
+            const auto word = std::bit_cast<std::array<char, 8>>(words[half]);
+            for (std::size_t i = 0; i < 4; ++i) text[4 * half + i] = word[i];
+        }
+        return text;
+    }
+    friend bool operator==(const NamePair&, const NamePair&) = default;
 };
 
 // ---- records ----

@@ -1,0 +1,70 @@
+#include "input/segment_list.h"
+
+#include <array>
+
+#include "input/components.h"
+#include "input/messages.h"
+
+namespace polyprops::input {
+
+namespace {
+
+using Word = PolymerBlock::Word;
+
+class TypeLists {
+public:
+    explicit TypeLists(const PolymerBlock& block)
+        : lists_{ListWriter{block.list(Word::end_segments)}, ListWriter{block.list(Word::type_2_segments)},
+                 ListWriter{block.list(Word::type_3_segments)}, ListWriter{block.list(Word::type_4_segments)}}
+    {
+    }
+    // A segment of any other type stands in the list of all segments alone.
+    void append(Int type, Component segment) const
+    {
+        if (1 <= type && type <= 4) lists_[static_cast<std::size_t>(type - 1)].append(segment);
+    }
+
+private:
+    std::array<ListWriter, 4> lists_;
+};
+
+void note_segments(const Sentence& segments, const TypeLists& types, const Workspace& work)
+{
+    const SentenceWords words = segments.words();
+    const Int ids = words.list_start(1);
+    for (Int i = 1; i <= segments.entry_count; ++i) {
+        const NamePair id = words.name(ids, i);
+        const auto c = find_component(id);
+        if (!c || work.notes(*c).is_segment) {
+            report(c ? messages::repeated_segment : messages::unknown_segment, id);
+            continue;
+        }
+        const Int type = words.integer(ids + 2 * segments.entry_count + i - 1);
+        work.notes(*c).is_segment = true;
+        work.notes(*c).segment_type = type;
+        types.append(type, *c);
+    }
+}
+
+void write_segment_list(const IntegerBlock& block, const Workspace& work)
+{
+    const ListWriter list{block};
+    for (Component c{1}; c.index <= work.notes.count(); ++c.index)
+        if (work.notes(c).is_segment) list.append(c);
+    const Int count = list.count();
+    for (Int s = 1; s <= count; ++s) block(1 + count + s) = work.notes(Component{block(1 + s)}).segment_type;
+}
+
+}  // namespace
+
+void list_segments(const Sentence& segments, const PolymerBlock& block, const Workspace& work)
+{
+    note_segments(segments, TypeLists{block}, work);
+    const IntegerBlock list = block.list(Word::segments);
+    const Int former_count = list(1);
+    write_segment_list(list, work);
+    // The table of an earlier paragraph's oligomers has as many rows as there were segments.
+    if (list(1) != former_count) block.two_part(Word::oligomers).integers(1) = 0;
+}
+
+}  // namespace polyprops::input
