@@ -69,7 +69,11 @@ Host::Host(std::vector<Component> components, const Options& options)
       root_(allocate_root(store_, directory_)),
       components_(store_, std::move(components), options.absent_parameters),
       attributes_(components_.count()),
-      streams_(store_, components_, attributes_)
+      streams_(store_, components_, attributes_),
+      paragraph_(store_),
+      keywords_(store_),
+      property_sentences_(store_, components_, keywords_, attributes_),
+      attribute_blocks_(store_, components_)
 {
     set_bounds(options.missing_value_bound, options.zero_bound);
     set_polymer_count(count_polymers(components_));
@@ -107,6 +111,12 @@ Int Host::attribute_offset(Int component, std::string_view name)
     if (!attributes_.find(component, name)) return 0;
     if (!attributes_.frozen()) attributes_.lay_out(dimensions());
     return attributes_.reported_offset(component, name);
+}
+
+AttributeBlocks& Host::lay_attribute_blocks()
+{
+    attribute_blocks_.lay(attributes_, dimensions());
+    return attribute_blocks_;
 }
 
 void Host::add_stream(const Stream& stream)

@@ -17,9 +17,14 @@
 #include <vector>
 
 #include "minihost/attributes.h"
+#include "minihost/catalyst_scaling.h"
 #include "minihost/components.h"
 #include "minihost/error.h"
+#include "minihost/keywords.h"
+#include "minihost/messages.h"
+#include "minihost/paragraph.h"
 #include "minihost/polymer_block.h"
+#include "minihost/property_sentences.h"
 #include "minihost/store.h"
 #include "minihost/streams.h"
 
@@ -48,6 +53,17 @@ public:
     const ComponentTable& components() const { return components_; }
     AttributeTable& attributes() { return attributes_; }
     const StreamTable& streams() const { return streams_; }
+    MessageLog& messages() { return messages_; }
+    PolymerParagraph& paragraph() { return paragraph_; }
+    const KeywordTables& keywords() const { return keywords_; }
+    PropertySentences& property_sentences() { return property_sentences_; }
+
+    /// What a caller hands to the paragraph check as the semantics context, for the host to know it again.
+    const void* semantics_context() const { return &property_sentences_; }
+
+    /// Component attribute blocks for the attributes that components carry now.
+    AttributeBlocks& lay_attribute_blocks();
+    const AttributeBlocks& attribute_blocks() const { return attribute_blocks_; }
 
     /// Id of the polymer block that the library is given; 0 or less: the run has no polymer data.
     BlockId polymer_block();
@@ -83,6 +99,11 @@ private:
     ComponentTable components_;
     AttributeTable attributes_;
     StreamTable streams_;
+    MessageLog messages_;
+    PolymerParagraph paragraph_;
+    KeywordTables keywords_;
+    PropertySentences property_sentences_;
+    AttributeBlocks attribute_blocks_;
 };
 
 }  // namespace minihost

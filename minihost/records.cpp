@@ -37,7 +37,7 @@ void reset_records()
     std::fill_n(ST_RGLOBAL, record_size, 0.0);
     std::fill_n(ST_FILES, record_size, 0);
     std::fill_n(ST_ERROUT, record_size, ' ');
-    ST_GLOBAL[6 - 1] = 4;  // printed message level
+    ST_GLOBAL[6 - 1] = 2;  // printed message level
     ST_GLOBAL[8 - 1] = 5;
     ST_GLOBAL[9 - 1] = 6;
     ST_GLOBAL[10 - 1] = 7;

@@ -50,6 +50,24 @@ void copy(const char* service, const T* source, T* target, Int count)
     if (count > 0) std::copy_n(source, count, target);
 }
 
+void expect(const char* service, const char* argument, Int seen, Int expected)
+{
+    if (seen != expected)
+        throw Error(std::string(service) + ": " + argument + " is " + std::to_string(seen) + "; expected " +
+                    std::to_string(expected));
+}
+
+// A keyword of up to 12 characters in three words.
+std::string keyword_of(const Word* words)
+{
+    std::string text;
+    for (int w = 0; w < 3; ++w) {
+        const NamePair quarter = {words[w], text_word("")};
+        text += name_of(quarter.data());
+    }
+    return text;
+}
+
 }  // namespace
 }  // namespace minihost
 
@@ -163,6 +181,103 @@ int64_t CC_INDEX(const int64_t* list, const int64_t* count, const int64_t* value
     const int64_t* end = list + std::max<int64_t>(*count, 0);
     const int64_t* found = std::find(list, end, *value);
     return found == end ? 0 : found - list + 1;
+}
+
+int64_t ST_ERROR_CHECK(const int64_t* routine_pair, const int64_t* severity, const int64_t* number,
+                       const int64_t* global6, const int64_t* global8, const int64_t* zero1,
+                       const int64_t* zero2, const int64_t* two)
+{
+    note("ST_ERROR_CHECK", *number);
+    expect("ST_ERROR_CHECK", "argument 5", *global8, ST_GLOBAL[8 - 1]);
+    expect("ST_ERROR_CHECK", "argument 6", *zero1, 0);
+    expect("ST_ERROR_CHECK", "argument 7", *zero2, 0);
+    expect("ST_ERROR_CHECK", "argument 8", *two, 2);
+    return Host::active().messages().check(name_of(routine_pair), *severity, *number, *global6);
+}
+
+void ST_PRINT_ERROR(const int64_t* line_count)
+{
+    note("ST_PRINT_ERROR", *line_count);
+    Host::active().messages().print(*line_count);
+}
+
+void UT_GET_SENTENCE(const int64_t* number, int64_t* kind, const int64_t* /*paragraph*/, const int64_t* zero1,
+                     const int64_t* zero2, const int64_t* zero3, const int64_t* zero4, int64_t* extra1,
+                     int64_t* int_position, int64_t* int_length, int64_t* extra2, int64_t* real_position,
+                     int64_t* real_length, int64_t* status)
+{
+    note("UT_GET_SENTENCE", *number);
+    expect("UT_GET_SENTENCE", "the kind on entry", *kind, *number);
+    for (const int64_t* zero : {zero1, zero2, zero3, zero4}) expect("UT_GET_SENTENCE", "a zero", *zero, 0);
+    PolymerParagraph& sentences = Host::active().paragraph();
+    if (sentences.fails(*number)) {
+        *status = 2;
+        return;
+    }
+    const auto delivery = sentences.deliver(*number);
+    *kind = delivery.kind;
+    *extra1 = *extra2 = 0;
+    *int_position = delivery.integers;
+    *int_length = delivery.integer_length;
+    *real_position = delivery.reals;
+    *real_length = delivery.real_length;
+}
+
+void UT_END_SENTENCES(const int64_t* /*paragraph*/)
+{
+    note("UT_END_SENTENCES");
+    Host::active().paragraph().end();
+}
+
+void PS_FIND_COMPONENT(const int64_t* id_word1, const int64_t* id_word2, const int64_t* component_ids,
+                       int64_t* status, int64_t* index)
+{
+    const NamePair pair = {*id_word1, *id_word2};
+    note("PS_FIND_COMPONENT", 0, pair.data());
+    if (component_ids != UT_COMPONENT_IDS)
+        throw Error("PS_FIND_COMPONENT: argument 3 is not UT_COMPONENT_IDS");
+    const std::string id = name_of(pair.data());
+    const Int found = name_pair(id) == pair ? Host::active().components().find(id) : 0;
+    *status = found > 0 ? 2 : 1;
+    *index = found;
+}
+
+void PS_PROCESS_SENTENCE(const int64_t* code3030, const int64_t* code2, const void* semantics_context,
+                         const int64_t* head_id, const int64_t* descriptor_id, int64_t* result)
+{
+    note("PS_PROCESS_SENTENCE", *head_id);
+    expect("PS_PROCESS_SENTENCE", "argument 1", *code3030, 3030);
+    expect("PS_PROCESS_SENTENCE", "argument 2", *code2, 2);
+    Host& host = Host::active();
+    if (semantics_context != host.semantics_context())
+        throw Error("PS_PROCESS_SENTENCE: argument 3 is not the semantics context");
+    *result = host.property_sentences().process(*head_id, *descriptor_id) ? 0 : 1;
+}
+
+int64_t ST_FIND_KEYWORD(const int64_t* keyword_words, const int64_t* zero)
+{
+    note("ST_FIND_KEYWORD");
+    expect("ST_FIND_KEYWORD", "argument 2", *zero, 0);
+    return KeywordTables::number(keyword_of(keyword_words));
+}
+
+int64_t ST_KEYWORD_TEXT(const int64_t* table_position, const int64_t* keyword_number, const int64_t* seven)
+{
+    note("ST_KEYWORD_TEXT", *keyword_number);
+    expect("ST_KEYWORD_TEXT", "argument 3", *seven, 7);
+    return KeywordTables::item(*table_position, *keyword_number, *seven);
+}
+
+// Any read leaves another table current, as the first one's target says.
+void ST_READ_TABLE(const int64_t* table_entry, int64_t* target, int64_t* out1, int64_t* out2, int64_t* out3)
+{
+    note("ST_READ_TABLE", *table_entry);
+    const auto reading = Host::active().keywords().read(*table_entry);
+    ST_TABLES[2 - 1] = reading.table;
+    *target = reading.table;
+    *out1 = reading.position;
+    *out2 = reading.length;
+    *out3 = 0;
 }
 
 }  // extern "C"
