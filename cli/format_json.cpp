@@ -29,18 +29,38 @@ Json units(const Report& report)
     return units;
 }
 
+void add_tables(const std::vector<Table>& tables, Json& object)
+{
+    for (const auto& table : tables) {
+        object[table.key] = Json::array();
+        for (const auto& row : table.rows) object[table.key].push_back(row_object(table, row));
+    }
+}
+
+Json message_object(const PlacedMessage& placed, const std::string& file)
+{
+    const auto& [source, hint, message] = placed;
+    return {{"file", file},
+            {"line", source.line},
+            {"column", source.column},
+            {"routine", message.routine},
+            {"number", message.number},
+            {"severity", message.severity},
+            {"lines", message.lines}};
+}
+
 }  // namespace
 
 std::string format_json(const Report& report)
 {
     Json json{{"schema_version", schema_version}, {"title", report.title}, {"units", units(report)}};
-    json["streams"] = Json::array();
+    json["messages"] = Json::array();
+    for (const auto& message : report.messages)
+        json["messages"].push_back(message_object(message, report.file));
+    if (!report.input.empty()) add_tables(report.input, json["input"]);
     for (const auto& stream : report.streams) {
         Json object{{"name", stream.stream}};
-        for (const auto& table : stream.tables) {
-            object[table.key] = Json::array();
-            for (const auto& row : table.rows) object[table.key].push_back(row_object(table, row));
-        }
+        add_tables(stream.tables, object);
         json["streams"].push_back(std::move(object));
     }
     return json.dump(2) + "\n";

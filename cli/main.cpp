@@ -19,16 +19,22 @@ int main(int argc, char** argv)
 
     std::string file;
     std::string format = "text";
-    auto* run = app.add_subcommand("run", "Print chain averages and segment fractions of every stream");
-    run->add_option("CASE", file, "Case file (TOML)")->required();
-    run->add_option("--format", format, "Form of the results (default: text)")
-        ->check(CLI::IsMember({"text", "csv", "json"}))
-        ->type_name("FORMAT");
+    const auto add_command = [&](const char* name, const char* purpose) {
+        auto* command = app.add_subcommand(name, purpose);
+        command->add_option("CASE", file, "Case file (TOML)")->required();
+        command->add_option("--format", format, "Form of the results (default: text)")
+            ->check(CLI::IsMember({"text", "csv", "json"}))
+            ->type_name("FORMAT");
+        return command;
+    };
+    add_command("run", "Print chain averages and segment fractions of every stream");
+    const auto* check = add_command("check", "Check the polymer paragraph and print what was built from it");
 
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? cli::exit_success : cli::exit_usage;
     }
-    return cli::run(file, formats.at(format), stdout, stderr);
+    const auto& command = check->parsed() ? cli::check : cli::run;
+    return command(file, formats.at(format), stdout, stderr);
 }

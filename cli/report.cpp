@@ -43,9 +43,9 @@ Table segment_fractions(const std::vector<SegmentShare>& shares)
 
 }  // namespace
 
-Report make_report(const Case& input, const std::vector<StreamResults>& results)
+Report make_report(const Case& input, const CheckedInput& checked, const std::vector<StreamResults>& results)
 {
-    Report report{input.title, {}};
+    Report report{input.title, input.file, checked.messages, {}, {}};
     for (const auto& r : results)
         report.streams.push_back({r.stream, {chain_averages(r.averages), segment_fractions(r.shares)}});
     return report;

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "cli/built.h"
+
 namespace cli {
 
 namespace {
@@ -51,9 +53,10 @@ std::vector<ChainAverages> chain_averages(const minihost::StreamView& stream,
     return averages;
 }
 
-std::vector<SegmentShare> segment_shares(const std::vector<Int>& chains, const Case& input, const Host& host)
+std::vector<SegmentShare> segment_shares(const std::vector<Int>& chains, Host& host)
 {
-    const auto segments = input.segment_ids();
+    const auto segments = segment_list(host);
+    if (segments.empty()) return {};
     const auto n = static_cast<Int>(chains.size());
     const auto rows = static_cast<Int>(segments.size());
     std::vector<double> mass(chains.size() * segments.size());
@@ -63,13 +66,13 @@ std::vector<SegmentShare> segment_shares(const std::vector<Int>& chains, const C
         std::vector<double> mole(segments.size());
         POLY_GETSMF(&selector, &chains[i], mole.data());
         for (std::size_t s = 0; s < segments.size(); ++s)
-            shares.push_back({host.components().at(chains[i]).id, std::string{segments[s]}, mole[s],
-                              mass[i * segments.size() + s]});
+            shares.push_back(
+                {host.components().at(chains[i]).id, segments[s], mole[s], mass[i * segments.size() + s]});
     }
     return shares;
 }
 
-StreamResults evaluate(const std::string& name, const Case& input, Host& host)
+StreamResults evaluate(const std::string& name, Host& host)
 {
     host.select_stream(name);
     const auto& stream = host.streams().view(name);
@@ -79,7 +82,7 @@ StreamResults evaluate(const std::string& name, const Case& input, Host& host)
         return host.components().is(ComponentClass::polymer, c) ||
                host.components().is(ComponentClass::oligomer, c);
     });
-    return {name, chain_averages(stream, components, host), segment_shares(chains, input, host)};
+    return {name, chain_averages(stream, components, host), segment_shares(chains, host)};
 }
 
 }  // namespace
@@ -87,7 +90,7 @@ StreamResults evaluate(const std::string& name, const Case& input, Host& host)
 std::vector<StreamResults> evaluate(const Case& input, Host& host)
 {
     std::vector<StreamResults> results;
-    for (const auto& stream : input.streams) results.push_back(evaluate(stream.name.id, input, host));
+    for (const auto& stream : input.streams) results.push_back(evaluate(stream.name.id, host));
     return results;
 }
 

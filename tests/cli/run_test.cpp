@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <fstream>
 #include <nlohmann/json.hpp>
 #include <sstream>
@@ -9,40 +8,19 @@
 #include "cli/commands.h"
 #include "cli/load.h"
 #include "cli/report.h"
+#include "support/capture.h"
 
 namespace {
 
 using cli::Format;
+using support::Outcome;
 using Json = nlohmann::json;
 
 const std::filesystem::path examples{POLYPROPS_EXAMPLES};
 
-// A file without a name, read back after the program wrote to it.
-class Capture {
-public:
-    ~Capture() { std::fclose(file); }
-    std::string text() const
-    {
-        std::rewind(file);
-        std::string all;
-        for (int c = std::fgetc(file); c != EOF; c = std::fgetc(file)) all += static_cast<char>(c);
-        return all;
-    }
-    std::FILE* file = std::tmpfile();
-};
-
-struct Outcome {
-    int status;
-    std::string out;
-    std::string errors;
-};
-
 Outcome run(const std::filesystem::path& file, Format format)
 {
-    Capture out;
-    Capture errors;
-    const int status = cli::run(file, format, out.file, errors.file);
-    return {status, out.text(), errors.text()};
+    return support::capture(cli::run, file, format);
 }
 
 Json run_json(const std::string& example)
@@ -179,7 +157,10 @@ LISTED = { flows = { P = 1 }, attributes.P = { ZMOM = 0.5, SMOM = 50, SFLOW = [1
     cli::Diagnostics diagnostics;
     const auto input = cli::parse_case(text, "c.toml", diagnostics);
     ASSERT_TRUE(diagnostics.empty()) << diagnostics.lines("c.toml").front();
-    for (const auto& stream : cli::evaluate(input, *cli::load(input))) {
+    const auto checked = cli::check_input(input);
+    EXPECT_TRUE(checked.messages.empty());
+    EXPECT_TRUE(cli::add_streams(input, checked).empty());
+    for (const auto& stream : cli::evaluate(input, *checked.host)) {
         SCOPED_TRACE(stream.stream);
         EXPECT_EQ(stream.shares.at(0).segment, "A-R");
         EXPECT_EQ(stream.shares.at(0).mole_fraction, 0.25);
@@ -194,9 +175,9 @@ TEST(Report, NamesEveryNumberThatIsNotFinite)
 {
     cli::StreamResults results{"S", {{"P", cli::ComponentClass::polymer, 1, 2, 3, 4, 5, 6}}, {}};
     const cli::Case input{};
-    EXPECT_TRUE(cli::not_finite(cli::make_report(input, {results})).empty());
+    EXPECT_TRUE(cli::not_finite(cli::make_report(input, {}, {results})).empty());
     results.averages[0].pdi = std::numeric_limits<double>::infinity();
-    EXPECT_EQ(cli::not_finite(cli::make_report(input, {results})),
+    EXPECT_EQ(cli::not_finite(cli::make_report(input, {}, {results})),
               std::vector<std::string>{"streams.S: pdi of P is inf; expected a finite result"});
 }
 
