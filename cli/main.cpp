@@ -30,6 +30,7 @@ int main(int argc, char** argv)
         return command;
     };
     add_command("run", "Print the results of every stream and reactor");
+    const auto* check = add_command("check", "Check the polymer paragraph and print what was built from it");
 
     std::string stream;
     std::string from;
@@ -52,5 +53,6 @@ int main(int argc, char** argv)
     }
     if (convert->parsed())
         return cli::convert(file, {stream, bases.at(from), bases.at(to)}, formats.at(format), stdout, stderr);
-    return cli::run(file, formats.at(format), stdout, stderr);
+    const auto& command = check->parsed() ? cli::check : cli::run;
+    return command(file, formats.at(format), stdout, stderr);
 }

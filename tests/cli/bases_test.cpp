@@ -113,10 +113,10 @@ TEST(Examples, GiveTheTablesThatTheirCommentsDerive)
 
 Outcome convert(const std::string& example, const cli::Conversion& conversion, Format format)
 {
-    Capture out;
-    Capture errors;
-    const int status = cli::convert(examples / example, conversion, format, out.file, errors.file);
-    return {status, out.text(), errors.text()};
+    const auto command = [&](const auto& file, Format form, std::FILE* out, std::FILE* errors) {
+        return cli::convert(file, conversion, form, out, errors);
+    };
+    return support::capture(command, examples / example, format);
 }
 
 TEST(Convert, GivesTheTablesOfTheRunForEachPairOfBases)

@@ -3,11 +3,11 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <fstream>
 #include <nlohmann/json.hpp>
 
 #include "cli/commands.h"
+#include "support/capture.h"
 
 namespace cli_test {
 
@@ -16,32 +16,11 @@ using Json = nlohmann::json;
 
 inline const std::filesystem::path examples{POLYPROPS_EXAMPLES};
 
-// A file without a name, read back after the program wrote to it.
-class Capture {
-public:
-    ~Capture() { std::fclose(file); }
-    std::string text() const
-    {
-        std::rewind(file);
-        std::string all;
-        for (int c = std::fgetc(file); c != EOF; c = std::fgetc(file)) all += static_cast<char>(c);
-        return all;
-    }
-    std::FILE* file = std::tmpfile();
-};
-
-struct Outcome {
-    int status;
-    std::string out;
-    std::string errors;
-};
+using support::Outcome;
 
 inline Outcome run(const std::filesystem::path& file, Format format)
 {
-    Capture out;
-    Capture errors;
-    const int status = cli::run(file, format, out.file, errors.file);
-    return {status, out.text(), errors.text()};
+    return support::capture(cli::run, file, format);
 }
 
 inline Json run_json(const std::string& example)

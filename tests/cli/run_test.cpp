@@ -143,7 +143,10 @@ LISTED = { flows = { P = 1 }, attributes.P = { ZMOM = 0.5, SMOM = 50, SFLOW = [1
     cli::Diagnostics diagnostics;
     const auto input = cli::parse_case(text, "c.toml", diagnostics);
     ASSERT_TRUE(diagnostics.empty()) << diagnostics.lines("c.toml").front();
-    for (const auto& stream : cli::evaluate(input, *cli::load(input)).streams) {
+    const auto checked = cli::check_input(input);
+    EXPECT_TRUE(checked.messages.empty());
+    EXPECT_TRUE(cli::add_streams(input, checked).empty());
+    for (const auto& stream : cli::evaluate(input, *checked.host).streams) {
         SCOPED_TRACE(stream.stream);
         EXPECT_EQ(stream.shares.at(0).segment, "A-R");
         EXPECT_EQ(stream.shares.at(0).mole_fraction, 0.25);
@@ -160,9 +163,9 @@ TEST(Report, NamesEveryNumberThatIsNotFinite)
     results.streams.push_back(
         {"S", {{"P", cli::ComponentClass::polymer, 1, 2, 3, 4, 5, 6}}, {}, {}, {}, {}, {}});
     const cli::Case input{};
-    EXPECT_TRUE(cli::not_finite(cli::make_report(input, results)).empty());
+    EXPECT_TRUE(cli::not_finite(cli::make_report(input, {}, results)).empty());
     results.streams[0].averages[0].pdi = std::numeric_limits<double>::infinity();
-    EXPECT_EQ(cli::not_finite(cli::make_report(input, results)),
+    EXPECT_EQ(cli::not_finite(cli::make_report(input, {}, results)),
               std::vector<std::string>{"streams.S: pdi of P is inf; expected a finite result"});
 }
 
