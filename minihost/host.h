@@ -25,8 +25,10 @@
 #include "minihost/messages.h"
 #include "minihost/paragraph.h"
 #include "minihost/property_sentences.h"
+#include "minihost/report_file.h"
 #include "minihost/store.h"
 #include "minihost/streams.h"
+#include "minihost/summary_file.h"
 
 namespace minihost {
 
@@ -57,6 +59,8 @@ public:
     PolymerParagraph& paragraph() { return paragraph_; }
     const KeywordTables& keywords() const { return keywords_; }
     PropertySentences& property_sentences() { return property_sentences_; }
+    ReportFile& report() { return report_; }
+    SummaryFile& summary() { return summary_; }
 
     /// What a caller hands to the paragraph check as the semantics context, for the host to know it again.
     const void* semantics_context() const { return &property_sentences_; }
@@ -104,6 +108,8 @@ private:
     KeywordTables keywords_;
     PropertySentences property_sentences_;
     AttributeBlocks attribute_blocks_;
+    ReportFile report_;
+    SummaryFile summary_;
 };
 
 }  // namespace minihost

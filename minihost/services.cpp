@@ -201,6 +201,33 @@ void ST_PRINT_ERROR(const int64_t* line_count)
     Host::active().messages().print(*line_count);
 }
 
+void RP_RESERVE_LINES(const int64_t* lines, const int64_t* new_page, const int64_t* three,
+                      const int64_t* rptglobal2)
+{
+    note("RP_RESERVE_LINES", *lines, nullptr, *new_page);
+    expect("RP_RESERVE_LINES", "argument 3", *three, 3);
+    expect("RP_RESERVE_LINES", "argument 4", *rptglobal2, ST_RPTGLOBAL[2 - 1]);
+    Host::active().report().reserve(*lines, *new_page == 1);
+}
+
+void RP_WRITE_LINE(const int32_t* unit, const int64_t* length, const char* text)
+{
+    note("RP_WRITE_LINE", *length);
+    Host::active().report().write_line(*unit, *length, text);
+}
+
+void ST_SUMMARY_OUT(const int64_t* kind, const int64_t* length, const int64_t* data, const double* real)
+{
+    note("ST_SUMMARY_OUT", *kind);
+    Host::active().summary().write_token(*kind, *length, data, *real);
+}
+
+void RP_SUMMARY_HEADER(const void* context, const int64_t* block_name_pair, const int64_t* zero)
+{
+    note("RP_SUMMARY_HEADER", 0, block_name_pair);
+    Host::active().summary().write_header(context, block_name_pair, *zero);
+}
+
 void UT_GET_SENTENCE(const int64_t* number, int64_t* kind, const int64_t* /*paragraph*/, const int64_t* zero1,
                      const int64_t* zero2, const int64_t* zero3, const int64_t* zero4, int64_t* extra1,
                      int64_t* int_position, int64_t* int_length, int64_t* extra2, int64_t* real_position,

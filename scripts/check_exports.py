@@ -14,8 +14,9 @@ from exports import table
 
 ROOT = Path(__file__).resolve().parent.parent
 ALLOWED_LIBRARIES = re.compile(r"libc\.so\.6|libm\.so\.6|ld-linux.*\.so\.\d+")
-# Weak references that the compiler's start files leave in every shared object.
-START_FILES = {"__gmon_start__", "__cxa_finalize", "_ITM_deregisterTMCloneTable", "_ITM_registerTMCloneTable"}
+# Weak references that the compiler's start files and its static run-time library leave in a shared object.
+START_FILES = {"__gmon_start__", "__cxa_finalize", "__cxa_pure_virtual", "_ITM_deregisterTMCloneTable",
+               "_ITM_registerTMCloneTable"}
 
 
 def run(*command):

@@ -24,12 +24,7 @@ Real polymer_length(const PolymerData& data, const Species& polymer, Real parame
         const Real value = own.value();
         return value > 1.0 && value < missing_value_bound() ? value : parameter;
     }
-    const Real chains = chain_count(data, polymer);
-    const Attribute first_moment = polymer.attribute(AttributeName::fmom);
-    const Real segments = first_moment.is_present()
-                              ? first_moment.value()
-                              : polymer.attribute(AttributeName::sflow).sum(data.segments().count());
-    return chains > zero_bound() && segments > zero_bound() ? segments / chains : 1.0;
+    return length_from_moments(data, polymer, FirstMomentCounts::when_present);
 }
 
 }  // namespace
@@ -55,6 +50,17 @@ Real chain_count(const PolymerData& data, const Species& polymer)
     return chains;
 }
 
+Real length_from_moments(const PolymerData& data, const Species& polymer, FirstMomentCounts first_moment)
+{
+    const Real chains = chain_count(data, polymer);
+    const Attribute given = polymer.attribute(AttributeName::fmom);
+    const bool counts =
+        given.is_present() && (first_moment == FirstMomentCounts::when_present || given.value() >= chains);
+    const Real segments =
+        counts ? given.value() : polymer.attribute(AttributeName::sflow).sum(data.segments().count());
+    return chains > zero_bound() && segments > zero_bound() ? segments / chains : 1.0;
+}
+
 Real oligomer_length(const PolymerData& data, Int column)
 {
     Real length = 0.0;
@@ -64,9 +70,6 @@ Real oligomer_length(const PolymerData& data, Int column)
 
 Real degree_of_polymerization(const PolymerData& data, const Species& species)
 {
-    // A NaN counts as below the lower limit.
-    const auto at_least_one = [](Real length) { return length > 1.0 ? length : 1.0; };
-
     const Real parameter = degree_of_polymerization_parameter(species.component());
     if (!data.run_has_chains()) return parameter;
     if (species.is_polymer()) return at_least_one(polymer_length(data, species, parameter));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cmath>
+
 #include "host/species.h"
 
 namespace polyprops::chain {
@@ -20,6 +22,18 @@ bool counts_as_one(Real parameter);
 // segment flows is taken by the entry number of the end segment, so the estimate is the half sum of the end
 // segments' flows when the end segments lead the segment list.
 Real chain_count(const PolymerData& data, const Species& polymer);
+
+// When "FMOM" gives the amount of segments of a polymer; its segment flows do otherwise.
+enum class FirstMomentCounts { when_present, when_not_below_chains };
+
+// Segments over chains of a polymer; 1 unless both are above the zero bound.
+Real length_from_moments(const PolymerData& data, const Species& polymer, FirstMomentCounts first_moment);
+
+// No molecule has less than one segment. A NaN counts as less, without raising an exception.
+inline Real at_least_one(Real length)
+{
+    return std::isgreater(length, 1.0) ? length : 1.0;
+}
 
 // Segments in one molecule of the oligomer in a column of the oligomer table.
 Real oligomer_length(const PolymerData& data, Int column);

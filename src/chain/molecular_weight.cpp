@@ -14,12 +14,6 @@ namespace polyprops::chain {
 
 namespace {
 
-// Strictly between the zero bound and the missing-value bound.
-bool is_usable(Real moment)
-{
-    return moment > zero_bound() && moment < missing_value_bound();
-}
-
 Real segment_mass_flow(const PolymerData& data, const Attribute& flows)
 {
     Real mass = 0.0;
@@ -32,7 +26,7 @@ Real weight_from_flows(const PolymerData& data, const Species& species)
     const Real own_weight = molecular_weight(species.component());
     if (!data.exists() || data.polymers().count() < 1 || !species.is_polymer()) return own_weight;
     const Attribute zeroth_moment = species.attribute(AttributeName::zmom);
-    if (!zeroth_moment.is_present() || !is_usable(zeroth_moment.value())) return own_weight;
+    if (!zeroth_moment.is_present() || !is_between_bounds(zeroth_moment.value())) return own_weight;
     const Real mass = segment_mass_flow(data, species.attribute(AttributeName::sflow));
     return mass > zero_bound() ? mass / zeroth_moment.value() : own_weight;
 }
@@ -58,23 +52,29 @@ Real polydispersity_parameter(Component c)
     return ParameterVector::polydispersity().value_or(1.0, c);
 }
 
-Real polydispersity(const PolymerData& data, const Species& species)
+std::optional<PolydispersityMoments> polydispersity_moments(const PolymerData& data, const Species& species)
 {
-    const Real parameter = polydispersity_parameter(species.component());
-    if (!data.exists() || keeps_polydispersity_parameter() || data.polymers().count() < 1) return parameter;
-    if (!species.is_polymer()) return parameter;
-    const Attribute zeroth_moment = species.attribute(AttributeName::zmom);
+    if (!data.exists() || keeps_polydispersity_parameter() || data.polymers().count() < 1) return {};
+    if (!species.is_polymer()) return {};
     const Attribute second_moment = species.attribute(AttributeName::smom);
-    if (!second_moment.is_present() || !zeroth_moment.is_present()) return parameter;
+    if (!second_moment.is_present()) return {};
+    const Attribute zeroth_moment = species.attribute(AttributeName::zmom);
+    if (!zeroth_moment.is_present()) return {};
     const Real chains = zeroth_moment.value();
-    if (!is_usable(chains)) return parameter;
+    if (!is_between_bounds(chains)) return {};
     const Attribute flows = species.attribute(AttributeName::sflow);
     const Real segments = flows.sum(data.segments().count());
     // The bound is inclusive here: flows of exactly the zero bound still count, but a bound of 0 must not
     // divide by 0.
     if (segment_mass_flow(data, flows) >= zero_bound() && segments >= zero_bound() && segments > 0.0)
-        return (second_moment.value() / segments) / (segments / chains);
-    return parameter;
+        return PolydispersityMoments{chains, segments, second_moment.value()};
+    return {};
+}
+
+Real polydispersity(const PolymerData& data, const Species& species)
+{
+    const auto moments = polydispersity_moments(data, species);
+    return moments ? moments->index() : polydispersity_parameter(species.component());
 }
 
 Real weight_from_counts(SegmentCountMatrix<const Real> counts, ByComponent<const Real> weights,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "chain/degree_of_polymerization.h"
 #include "chain/segment_weight.h"
 
@@ -12,6 +14,18 @@ inline constexpr unsigned moment_parts = PolymerData::segment_list | PolymerData
 
 // Number-average molecular weight of a listed component, g/mol.
 Real number_average_weight(const PolymerData& data, const Species& species);
+
+// Chains, segments and second moment of a polymer, of which its polydispersity is made.
+struct PolydispersityMoments {
+    Real chains;
+    Real segments;
+    Real second;
+
+    // Weight- over number-average chain length.
+    Real index() const { return (second / segments) / (segments / chains); }
+};
+// Nothing for a component that keeps its PDI parameter.
+std::optional<PolydispersityMoments> polydispersity_moments(const PolymerData& data, const Species& species);
 
 // Weight- over number-average molecular weight of a listed component.
 Real polydispersity(const PolymerData& data, const Species& species);

@@ -35,7 +35,13 @@ private:
 
 class PolymerData {
 public:
-    enum Part : unsigned { segment_list = 1, polymer_list = 2, oligomer_block = 4, end_segment_list = 8 };
+    enum Part : unsigned {
+        segment_list = 1,
+        polymer_list = 2,
+        oligomer_block = 4,
+        end_segment_list = 8,
+        every_part = 15
+    };
 
     // Asks for the polymer block and, when there is one, locates the given parts.
     static PolymerData locate(unsigned parts)
@@ -73,8 +79,11 @@ private:
         return list;
     }
 
+    static constexpr Position nowhere{0};
+
     bool asked_ = false;
     Int id_ = 0;
+    Position block_ = nowhere;
     unsigned located_ = 0;
     ComponentList segments_;
     ComponentList polymers_;

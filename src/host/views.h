@@ -79,6 +79,7 @@ public:
         return first_[(j - 1) * leading_dimension_ + (i - 1)];
     }
     T* column(Int j) const { return first_ + (j - 1) * leading_dimension_; }
+    Int leading_dimension() const { return leading_dimension_; }
 
 private:
     T* first_;
@@ -119,6 +120,10 @@ public:
 
     T& operator()(Component row, Component segment) const { return elements_(row.index, segment.index); }
     T& own_count(Component row) const { return elements_(row.index, 1); }
+    SegmentCountMatrix<const T> read_only() const
+    {
+        return {elements_.column(1), elements_.leading_dimension()};
+    }
     Real row_sum(Component row, const ComponentList& segments) const
     {
         Real sum = 0.0;

@@ -95,6 +95,12 @@ inline bool is_missing(Real value)
     return value >= missing_value_bound();
 }
 
+// Given and above zero, both bounds themselves excluded.
+inline bool is_between_bounds(Real value)
+{
+    return value > zero_bound() && value < missing_value_bound();
+}
+
 inline Int polymer_count_of_run()
 {
     return ST_NCOMP[16];
@@ -128,6 +134,12 @@ private:
 inline Real molecular_weight(Component c)
 {
     return ParameterVector::molecular_weight().value_or(0.0, c);
+}
+
+// The first eight characters of a component's name; the host's name table holds three such words a name.
+inline Int first_word_of_name(Component c)
+{
+    return integer_at(Position{ST_POFF4[0] + 3 * (c.index - 1) + 1});
 }
 
 }  // namespace polyprops

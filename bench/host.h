@@ -1,0 +1,34 @@
+// A host for benchmarks: one run of a given size, the same each time, whose services cost next to nothing.
+#pragma once
+
+#include <cstdint>
+
+namespace bench {
+
+using Int = std::int64_t;
+using Real = double;
+
+// Of the components the first fifth are segments, the second polymers, the third oligomers; the rest are
+// conventional.
+struct Run {
+    explicit Run(Int components) : nc(components), group(components / 5) {}
+
+    Int nc;
+    Int group;
+
+    bool is_segment(Int c) const { return c <= group; }
+    bool is_polymer(Int c) const { return c > group && c <= 2 * group; }
+    bool is_oligomer(Int c) const { return c > 2 * group && c <= 3 * group; }
+    Int first_polymer() const { return group + 1; }
+};
+
+inline constexpr Int site_types = 2;
+
+// Lays the run into the store. Polymers carry moments and segment flows, and per site type too; neither
+// lengths nor weights nor fractions, so that every average takes its longest way.
+void lay_run(const Run& run);
+
+// The current stream as an explicit vector: component flows from element 1, then the attributes.
+const Real* stream_vector();
+
+}  // namespace bench

@@ -1,0 +1,14 @@
+// Polymer paragraphs from arbitrary bytes, run through the check on a fenced store, and what must hold of the
+// blocks that it built. The fuzz target and the replay of its kept seeds share it.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace polyprops_fuzz {
+
+/// Throws when something does not hold: minihost::Error for what the host refuses, std::logic_error for the
+/// rest.
+void check_paragraphs(const std::uint8_t* bytes, std::size_t size);
+
+}  // namespace polyprops_fuzz

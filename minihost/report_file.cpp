@@ -1,0 +1,71 @@
+#include "minihost/report_file.h"
+
+#include <polyprops/host.h>
+
+#include "minihost/error.h"
+#include "minihost/whole_file.h"
+
+namespace minihost {
+namespace {
+
+constexpr std::size_t heading_width = 80;
+
+// The library reads both words.
+Int& lines_used()
+{
+    return RP_PAGE[1 - 1];
+}
+Int& lines_per_page()
+{
+    return RP_PAGE[4 - 1];
+}
+
+std::string heading(const std::string& title, Int page)
+{
+    const std::string number = "Page " + std::to_string(page);
+    const std::size_t used = title.size() + number.size();
+    const std::string gap(used + 2 < heading_width ? heading_width - used : 2, ' ');
+    return title + gap + number + "\n\n";
+}
+
+}  // namespace
+
+void ReportFile::set_lines_per_page(Int lines)
+{
+    if (lines < 1) throw Error("lines per page: " + std::to_string(lines) + "; expected 1 or more");
+    lines_per_page() = lines;
+}
+
+void ReportFile::reserve(Int lines, bool new_page)
+{
+    if (lines < 0) throw Error("reserved report lines: " + std::to_string(lines) + "; expected 0 or more");
+    const bool fits = lines <= lines_per_page() - lines_used();
+    if (pages_ == 0 || (lines_used() > 0 && (new_page || !fits))) start_page();
+}
+
+void ReportFile::write_line(Int unit, Int length, const char* text)
+{
+    if (unit != ST_FILES[27 - 1])
+        throw Error("report line on unit " + std::to_string(unit) + "; the report unit is " +
+                    std::to_string(ST_FILES[27 - 1]));
+    if (length < 0) throw Error("report line of length " + std::to_string(length) + "; expected 0 or more");
+    const std::string_view line(text, static_cast<std::size_t>(length));
+    if (line.find_first_of("\n\r\f") != line.npos) throw Error("report line with a line end in it");
+    if (pages_ == 0) start_page();
+    text_.append(line).push_back('\n');
+    ++lines_used();
+}
+
+void ReportFile::start_page()
+{
+    if (pages_ > 0) text_.push_back('\f');
+    text_ += heading(title_, ++pages_);
+    lines_used() = 0;
+}
+
+void ReportFile::save(const std::filesystem::path& path) const
+{
+    write_whole_file(path, text_);
+}
+
+}  // namespace minihost

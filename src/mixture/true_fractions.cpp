@@ -1,0 +1,41 @@
+// True mole fractions of a list of components.
+//
+//   XT(i) = y(i) / Σ y      y(i) = X(i) · MW(IDX(i)) / MWN(i)
+//
+// An apparent mole of a polymer has the weight MW of its component; a true mole has that of its chains, MWN.
+#include "mixture/true_fractions.h"
+
+#include "polyprops/polyprops.h"
+
+namespace polyprops::mixture {
+
+void true_mole_fractions(const ComponentList& components, Vector<const Real> apparent_fractions,
+                         ByComponent<const Real> apparent_weights, Vector<const Real> chain_weights,
+                         Vector<Real> true_fractions)
+{
+    Real sum = 0.0;
+    for (Int i = 1; i <= components.count(); ++i) {
+        const Real x = apparent_fractions(i);
+        const Real weight = chain_weights(i);
+        true_fractions(i) = weight == 0.0 ? x : x * apparent_weights(components(i)) / weight;
+        sum += true_fractions(i);
+    }
+    if (sum == 0.0) return;
+    for (Int i = 1; i <= components.count(); ++i) true_fractions(i) /= sum;
+}
+
+}  // namespace polyprops::mixture
+
+using namespace polyprops;
+
+void POLY_GETPMIX1(const Int* J, const Real* MWJ, const Int* N, const Int* IDX, const Real* X, Real* XT,
+                   Real* MWN, const void*, const Real* MW)
+{
+    const Component polymer{*J};
+    const ComponentList components{*N, IDX};
+    const Vector weights{MWN, *N};
+    for (Int i = 1; i <= components.count(); ++i)
+        if (components(i) == polymer) weights(i) = *MWJ;
+    mixture::true_mole_fractions(components, Vector{X, *N}, ByComponent{MW}, Vector<const Real>{MWN, *N},
+                                 Vector{XT, *N});
+}

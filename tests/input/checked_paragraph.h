@@ -1,0 +1,80 @@
+// A host with named components whose polymer paragraphs go through the check, and what the check built, told
+// by component IDs. The store is a checked one.
+#pragma once
+
+#include <polyprops/polyprops.h>
+
+#include <string>
+#include <vector>
+
+#include "minihost/host.h"
+
+namespace support {
+
+using minihost::Int;
+
+/// Words of the polymer block.
+namespace word {
+inline constexpr Int segments = 2, polymers = 3, attribute_sentence = 5, oligomers = 6, catalysts = 7,
+                     parameters = 8, end_segments = 9, type_3 = 11, type_4 = 12, type_2 = 13, layout = 14,
+                     distributions = 16, initiators = 17;
+}
+
+/// Components W, segments A B C D E, polymers P Q, oligomers O R, catalyst K, initiator I, with the indices 1
+/// to 12 in this order.
+struct CheckedParagraph {
+    minihost::Host host{{{"W"}, {"A"}, {"B"}, {"C"}, {"D"}, {"E"}, {"P"}, {"Q"}, {"O"}, {"R"}, {"K"}, {"I"}},
+                        {.store_mode = minihost::Store::Mode::checked}};
+
+    /// The status after the check, 0 before it.
+    Int check(const std::vector<minihost::Sentence>& sentences, Int op = 2)
+    {
+        host.paragraph().set(sentences);
+        host.messages().clear();
+        host.property_sentences().clear();
+        Int status = 0;
+        POLY_POLSEM(nullptr, &op, host.semantics_context(), host.paragraph().handle(), nullptr, &status);
+        host.store().verify();
+        return status;
+    }
+
+    std::vector<Int> message_numbers()
+    {
+        std::vector<Int> numbers;
+        for (const auto& message : host.messages().printed()) numbers.push_back(message.number);
+        return numbers;
+    }
+    minihost::BlockId block(Int word) { return host.store().integer(host.polymer_block(), word); }
+    std::vector<Int> integers(minihost::BlockId id, Int first, Int count)
+    {
+        std::vector<Int> words;
+        for (Int k = 0; k < count; ++k) words.push_back(host.store().integer(id, first + k));
+        return words;
+    }
+    std::vector<double> reals(minihost::BlockId id, Int count)
+    {
+        std::vector<double> words;
+        for (Int k = 1; k <= count; ++k) words.push_back(host.store().real(id, k));
+        return words;
+    }
+    /// The IDs that a list block or the keys of a two-part block hold, "-" for 0.
+    std::string list(Int word)
+    {
+        std::string text;
+        for (const Int index : integers(block(word), 2, host.store().integer(block(word), 1)))
+            text += (text.empty() ? "" : " ") + (index == 0 ? "-" : host.components().at(index).id);
+        return text;
+    }
+    /// "P:ZMOM,SFLOW" for each forwarded sentence.
+    std::string forwarded()
+    {
+        std::string text;
+        for (const auto& sentence : host.property_sentences().forwarded()) {
+            text += (text.empty() ? "" : " ") + sentence.component + ":";
+            for (const auto& name : sentence.names) text += (text.back() == ':' ? "" : ",") + name;
+        }
+        return text;
+    }
+};
+
+}  // namespace support

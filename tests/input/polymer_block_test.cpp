@@ -1,0 +1,182 @@
+#include <gtest/gtest.h>
+
+#include "input/checked_paragraph.h"
+
+using namespace support;
+using namespace minihost;
+
+namespace {
+
+using Ints = std::vector<Int>;
+using Reals = std::vector<double>;
+
+const PolymerSentence polymer{{"P"}};
+const AttributeSentence attributes{{{"P", {"ZMOM", "SFLOW"}}, {"Q", {"ZMOM", "SFLOW"}}}};
+
+}  // namespace
+
+TEST(PolymerParagraph, ListsSegmentsByIndexAndTheRestByOrderOfInput)
+{
+    CheckedParagraph world;
+    world.check(
+        {PolymerSentence{{"Q", "X", "P", "Q"}},
+         SegmentSentence{{{"E", 1}, {"B", 4}, {"A", 1}, {"D", 3}, {"X", 1}, {"C", 9}, {"B", 2}, {"W", 2}}},
+         attributes});
+    EXPECT_EQ(world.list(word::segments), "W A B C D E");
+    EXPECT_EQ(world.integers(world.block(word::segments), 8, 6), (Ints{2, 1, 4, 9, 3, 1}));
+    EXPECT_EQ(world.list(word::end_segments), "E A");
+    EXPECT_EQ(world.list(word::type_2), "W");
+    EXPECT_EQ(world.list(word::type_3), "D");
+    EXPECT_EQ(world.list(word::type_4), "B");
+    EXPECT_EQ(world.list(word::polymers), "Q P");
+    EXPECT_EQ(world.message_numbers(), (Ints{4, 5, 6, 11}));
+}
+
+TEST(PolymerParagraph, LaysOligomersByIndexWithTheLaterOfTwoCounts)
+{
+    CheckedParagraph world;
+    // Blank IDs stand for the last one written, also when that was in error.
+    world.check({SegmentSentence{{{"C", 2}, {"A", 2}, {"B", 2}}}, OligomerSentence{{{"R", "C", 5},
+                                                                                    {"O", "A", 2},
+                                                                                    {"", "B", 1},
+                                                                                    {"", "A", 3},
+                                                                                    {"X", "A", 7},
+                                                                                    {"", "B", 8},
+                                                                                    {"P", "D", 4}}}});
+    EXPECT_EQ(world.list(word::oligomers), "P O R");
+    EXPECT_EQ(world.reals(world.block(word::oligomers), 9), (Reals{0, 0, 0, 3, 1, 0, 0, 0, 5}));
+    EXPECT_EQ(world.message_numbers(), (Ints{7, 7, 9}));
+    EXPECT_EQ(world.host.store().integer(world.block(word::parameters), 4), 3);
+    EXPECT_EQ(world.list(word::polymers), "");
+}
+
+TEST(PolymerParagraph, KeepsThePlacesOfUnknownCatalystsAndInitiators)
+{
+    CheckedParagraph world;
+    world.check({polymer, SegmentSentence{{{"A", 2}}}, attributes,
+                 CatalystSentence{{{"W", 1.5}, {"X", 2.5}, {"K", 3.5}}}, InitiatorSentence{{"X", "I"}}});
+    EXPECT_EQ(world.list(word::catalysts), "W - K");
+    EXPECT_EQ(world.reals(world.block(word::catalysts), 3), (Reals{1.5, 0, 3.5}));
+    EXPECT_EQ(world.list(word::initiators), "- I");
+    EXPECT_EQ(world.message_numbers(), (Ints{10, 10, 31, 31}));
+    // The same sentences again must not show indices of the first time.
+    world.check({polymer, SegmentSentence{{{"A", 2}}}, attributes, CatalystSentence{{{"X", 2.5}, {"K", 3.5}}},
+                 InitiatorSentence{{"X"}}});
+    EXPECT_EQ(world.list(word::catalysts), "- K");
+    EXPECT_EQ(world.reals(world.block(word::catalysts), 2), (Reals{0, 3.5}));
+    EXPECT_EQ(world.list(word::initiators), "-");
+}
+
+TEST(PolymerParagraph, CountsItsEntriesAndKeepsEarlierParametersWhereNewOnesAreZero)
+{
+    CheckedParagraph world;
+    world.check({PolymerSentence{{"P", "X"}},
+                 SegmentSentence{{{"A", 1}, {"B", 2}, {"C", 3}, {"D", 4}, {"E", 3}, {"X", 1}}}, attributes,
+                 OligomerSentence{{{"O", "A", 2}, {"R", "A", 1}, {"R", "B", 1}}},
+                 CatalystSentence{{{"K", 1}}}, SiteSentence{3, {21, 22, 23}, 0.25}});
+    const BlockId parameters = world.block(word::parameters);
+    EXPECT_EQ(world.integers(parameters, 1, 13), (Ints{3, 2, 6, 2, 1, 1, 1, 2, 1, 0, 21, 22, 23}));
+    EXPECT_EQ(world.reals(parameters, 1), (Reals{0.25}));
+
+    world.check({polymer, SegmentSentence{{{"A", 2}}}, attributes});
+    EXPECT_EQ(world.block(word::parameters), parameters);
+    EXPECT_EQ(world.integers(parameters, 1, 13), (Ints{0, 1, 1, 2, 1, 1, 1, 2, 1, 0, 21, 22, 23}));
+    EXPECT_EQ(world.reals(parameters, 1), (Reals{0}));
+}
+
+TEST(PolymerParagraph, LaysAttributeGroupsEndToEnd)
+{
+    CheckedParagraph world;
+    world.check({polymer, SegmentSentence{{{"A", 1}, {"B", 2}, {"X", 2}}}, SiteSentence{4}, attributes});
+    const BlockId layout = world.block(word::layout);
+    EXPECT_EQ(world.integers(layout, 2, 22), (Ints{1, 4, 7, 10, 13, 16, 21, 26, 31, 36, 41,  //
+                                                   3, 3, 3, 3,  3,  5,  5,  5,  5,  5,  5}));
+    EXPECT_EQ(world.host.store().integer_length(layout), 23);
+    EXPECT_EQ(world.host.store().real_length(layout), 5 * 2 + 6 * 4 + 12);
+
+    world.check({InitiatorSentence{{"I"}}});
+    EXPECT_FALSE(world.host.store().exists(layout)) << "a replaced table is freed";
+    EXPECT_EQ(world.integers(world.block(word::layout), 2, 22),
+              (Ints{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1}));
+}
+
+TEST(PolymerParagraph, FilesDistributionRequestsByType)
+{
+    CheckedParagraph world;
+    const Sentence segments = SegmentSentence{{{"A", 2}}};
+    world.check({polymer, segments, attributes,
+                 DistributionSentence{{{"P", 4, {1, 2, 3}, 0.5},
+                                       {"X", 4, {9, 9, 9}, 9},
+                                       {"Q", 2, {4, 5, 6}, 1.5},
+                                       {"P", 7, {9, 9, 9}, 9},
+                                       {"Q", 4, {7, 8, 9}, 2.5}}}});
+    EXPECT_EQ(world.message_numbers(), (Ints{10}));
+    const Ints directory = world.integers(world.block(word::distributions), 1, 5);
+    EXPECT_EQ(directory[0], 4);
+    EXPECT_EQ(directory[1], 0);
+    EXPECT_EQ(directory[3], 0);
+    const Int p = world.host.components().index("P"), q = world.host.components().index("Q");
+    EXPECT_EQ(world.integers(directory[2], 1, 6), (Ints{1, q, 2, 4, 5, 6}));
+    EXPECT_EQ(world.reals(directory[2], 1), (Reals{1.5}));
+    EXPECT_EQ(world.integers(directory[4], 1, 11), (Ints{2, p, q, 4, 4, 1, 7, 2, 8, 3, 9}));
+    EXPECT_EQ(world.reals(directory[4], 2), (Reals{0.5, 2.5}));
+
+    world.check({polymer, segments, attributes});
+    EXPECT_EQ(world.integers(world.block(word::distributions), 1, 5), (Ints{4, 0, 0, 0, 0}));
+}
+
+TEST(PolymerParagraph, TakesTheLastSentenceOfAKindAndSkipsUnknownKinds)
+{
+    CheckedParagraph world;
+    world.check({SegmentSentence{{{"A", 1}}}, attributes, PolymerSentence{{"P", "X"}},
+                 SentenceWords{9, {1, 2, 3}}, PolymerSentence{{"Q"}}, SegmentSentence{{{"B", 1}, {"C", 1}}}});
+    EXPECT_TRUE(world.host.messages().printed().empty());
+    EXPECT_EQ(world.list(word::polymers), "Q");
+    EXPECT_EQ(world.list(word::end_segments), "B C");
+}
+
+TEST(PolymerParagraph, AcceptsOneThatNamesNeitherChainsNorSegments)
+{
+    CheckedParagraph world;
+    EXPECT_EQ(world.check({InitiatorSentence{{"I"}}}), 0);
+    EXPECT_TRUE(world.host.messages().printed().empty());
+    EXPECT_EQ(world.integers(world.host.polymer_block(), 1, 1), (Ints{17}));
+    for (const Int list : {word::segments, word::polymers, word::oligomers, word::catalysts,
+                           word::end_segments, word::type_2, word::type_3, word::type_4})
+        EXPECT_EQ(world.list(list), "") << "word " << list;
+    EXPECT_EQ(world.host.paragraph().times_ended(), 1);
+    world.host.paragraph().handle()[0] = 0;
+    world.check({InitiatorSentence{{"I"}}});
+    EXPECT_EQ(world.host.paragraph().times_ended(), 1) << "only a paragraph that asks for it is ended";
+}
+
+TEST(PolymerParagraph, BuildsNothingWhenItEndsEarly)
+{
+    const Sentence segments = SegmentSentence{{{"A", 2}}};
+    struct Case {
+        const char* name;
+        std::vector<Sentence> sentences;
+        Int op;
+        Int failing_sentence;
+        Int status;
+        Ints messages;
+    };
+    const Case cases[] = {
+        {"another operation", {polymer, segments}, 3, 0, 0, {}},
+        {"answer only", {polymer, segments}, 5, 0, 5, {}},
+        {"no sentences", {}, 2, 0, 0, {1}},
+        {"segments without chains", {segments}, 2, 0, 0, {2}},
+        {"polymers without segments", {polymer}, 2, 0, 0, {3}},
+        {"oligomers without segments", {OligomerSentence{{{"O", "A", 1}}}}, 2, 0, 0, {3}},
+        {"unreadable sentence", {polymer, segments}, 2, 2, 2, {}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        CheckedParagraph world;
+        world.host.paragraph().fail_at(c.failing_sentence);
+        EXPECT_EQ(world.check(c.sentences, c.op), c.status);
+        EXPECT_EQ(world.message_numbers(), c.messages);
+        EXPECT_LE(world.host.polymer_block(), 0);
+        EXPECT_EQ(world.host.paragraph().times_ended(), 0);
+    }
+}

@@ -1,0 +1,140 @@
+#include <gtest/gtest.h>
+#include <polyprops/host.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <sstream>
+
+#include "minihost/host.h"
+#include "support/world.h"
+
+namespace minihost {
+namespace {
+
+using support::World;
+namespace fs = std::filesystem;
+
+std::string refusal(const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const Error& error) {
+        return error.what();
+    }
+    return "";
+}
+
+bool contains(const std::string& text, const std::string& part)
+{
+    return text.find(part) != text.npos;
+}
+
+std::string content(const fs::path& path)
+{
+    std::stringstream text;
+    text << std::ifstream(path).rdbuf();
+    return text.str();
+}
+
+void write(Host& host, std::string_view line, std::int32_t unit = ST_FILES[27 - 1])
+{
+    host.report().write_line(unit, static_cast<Int>(line.size()), line.data());
+}
+
+TEST(ReportFile, StartsAPageWhenLinesDoNotFit)
+{
+    World world;
+    auto& host = world.host();
+    host.report().set_lines_per_page(3);
+    host.report().set_title("CASE");
+    host.report().reserve(2, true);
+    write(host, "one");
+    write(host, "");
+    host.report().reserve(1, false);
+    write(host, "fits");
+    host.report().set_title("LATER");
+    host.report().reserve(1, false);
+    host.report().reserve(9, true);  // nothing stands on the page yet
+    write(host, "next");
+    const std::string gap(80 - 4 - 6, ' ');
+    EXPECT_EQ(host.report().text(),
+              "CASE" + gap + "Page 1\n\none\n\nfits\n\fLATER" + gap.substr(1) + "Page 2\n\nnext\n");
+    EXPECT_EQ(host.report().pages(), 2);
+    EXPECT_EQ(RP_PAGE[1 - 1], 1);
+}
+
+TEST(ReportFile, RefusesLinesThatBreakARule)
+{
+    World world;
+    auto& host = world.host();
+    EXPECT_TRUE(contains(refusal([&] { write(host, "text", 99); }), "unit 99"));
+    EXPECT_TRUE(contains(refusal([&] { write(host, "two\nlines"); }), "line end"));
+    EXPECT_TRUE(contains(refusal([&] { host.report().write_line(12, -1, ""); }), "length -1"));
+    EXPECT_TRUE(contains(refusal([&] { host.report().set_lines_per_page(0); }), "lines per page: 0"));
+    EXPECT_EQ(host.report().text(), "");
+}
+
+TEST(SummaryFile, RefusesTokensThatBreakARule)
+{
+    const Word none = -1, zero = 0, one = 1, two = 2, blank = text_word(" ");
+    const Word packed = text_word("NPOINT"), longer[] = {text_word("YCSD"), text_word("S")};
+    const double unset = 1e35;
+    const struct {
+        Int kind, length;
+        const Word* data;
+        double real;
+        const char* reason;
+    } cases[] = {
+        {4, 0, &zero, unset, "unknown kind"},
+        {5, 0, &two, unset, "break with data 2"},
+        {5, 1, &zero, unset, "expected length 0"},
+        {0, 0, &one, 1.0, "a real where none belongs"},
+        {0, -1, &zero, 1.0, "an integer where none belongs"},
+        {0, 6, &packed, unset, "four blanks"},
+        {0, 11, longer, unset, "1 to 10 characters"},
+        {3, 4, longer, unset, ""},
+        {7, 2, longer, unset, "beyond the length"},
+        {1, 1, longer, unset, "beyond the length"},
+        {8, 0, &two, unset, "the integer 1"},
+        {1, 1, &blank, unset, ""},
+        {0, -1, &none, 1.0, ""},
+    };
+    for (const auto& c : cases) {
+        World world;
+        const auto seen =
+            refusal([&] { world.host().summary().write_token(c.kind, c.length, c.data, c.real); });
+        EXPECT_TRUE(*c.reason ? contains(seen, c.reason) : seen.empty()) << c.reason << ": " << seen;
+    }
+    World world;
+    auto& summary = world.host().summary();
+    EXPECT_TRUE(
+        contains(refusal([&] { summary.write_header(&summary, longer, 0); }), "YCSDS: unknown context"));
+}
+
+TEST(OutputFiles, AreWrittenWholeOrNotAtAll)
+{
+    const fs::path directory = fs::temp_directory_path() / ("polyprops_output_" + std::to_string(::getpid()));
+    fs::create_directories(directory / "taken" / "by");
+    World world;
+    auto& host = world.host();
+    write(host, "line");
+    std::ofstream(directory / "case.rpt") << "what stood there before";
+    host.report().save(directory / "case.rpt");
+    EXPECT_EQ(content(directory / "case.rpt"), host.report().text());
+    const Word none = -1, quote = text_word("a\"\\");
+    host.summary().write_token(0, 3, &quote, 1e35);
+    host.summary().write_token(0, -1, &none, 0.1);
+    host.summary().save(directory / "case.sum");
+    EXPECT_EQ(content(directory / "case.sum"), "summary 1\nword \"a\\\"\\\\\"\nreal 0.1\n");
+    const auto reason = refusal([&] { host.report().save(directory / "taken"); });
+    EXPECT_TRUE(contains(reason, "taken: cannot be written: ")) << reason;
+    const auto entries = std::distance(fs::directory_iterator(directory), fs::directory_iterator());
+    EXPECT_EQ(entries, 3) << "no temporary file stays behind";
+    fs::remove_all(directory);
+    EXPECT_TRUE(contains(refusal([&] { host.report().save(directory / "case.rpt"); }), "No such file"));
+}
+
+}  // namespace
+}  // namespace minihost

@@ -1,0 +1,127 @@
+// Averages over rows of a segment-count matrix: properties, chain weights and polydispersity.
+#include <cmath>
+
+#include "mixture/asked_once.h"
+#include "polyprops/polyprops.h"
+#include "support/world.h"
+
+using namespace support;
+
+namespace {
+
+using Values = std::vector<double>;
+
+// Of five components 4 and 2 are segments, in this order.
+constexpr Int ld = 5, segments[] = {4, 2}, flags[] = {1, 0, 2, 0, 0}, row = 1;
+constexpr double weights[] = {1, 50, 1, 100, 1};
+
+// Row 1 of a matrix with the counts of components 4 and 2; other elements must not count.
+Values matrix(double of_4, double of_2)
+{
+    Values scm(25, 77.0);
+    scm[15] = of_4;
+    scm[5] = of_2;
+    return scm;
+}
+
+TEST(SegmentAverages, ByNumberAndByMass)
+{
+    World world;
+    world.host();  // sets the bounds
+    const double above = std::nextafter(zero_bound, 1.0), below = std::nextafter(missing, 0.0);
+    const struct {
+        const char* name;
+        double of_4, of_2, own;
+        Int nseg;
+        double total, number, listed, mass, own_or_mass;
+    } cases[] = {
+        {"both segments", 3, 1, 0, 2, 50, 12.5, 12.5, 4000.0 / 350, 4000.0 / 350},
+        {"own value given", 3, 1, 5, 2, 50, 12.5, 12.5, 4000.0 / 350, 5},
+        {"own value at the zero bound", 3, 0, zero_bound, 2, 30, 10, 10, 10, 10},
+        {"own value above it", 3, 0, above, 2, 30, 10, 10, 10, above},
+        {"own value missing", 3, 0, missing, 2, 30, 10, 10, 10, 10},
+        {"own value below missing", 3, 0, below, 2, 30, 10, 10, 10, below},
+        {"no segments", 3, 1, -7, 0, 0, 0, -7, 0, 0},
+        {"row sum at the zero bound", zero_bound, 0, -7, 2, 10 * zero_bound, 10, -7, 10, 10},
+        {"row sum above it", above, 0, -7, 2, 10 * above, 10, 10, 10, 10},
+        {"row sum of exactly 0", 1, -1, -7, 2, -10, -10, -7, 0, 0},
+        {"weighted sum of exactly 0", 1, -2, -7, 2, -30, 30, -7, -1000, -1000},
+    };
+    const Int list[] = {3, 1}, n = 2;
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        const Values scm = matrix(c.of_4, c.of_2), q{c.own, 20, 33, 10, 0};
+        double each[2], number, twin, mass, own_or_mass, by_component[] = {-1, -1, -1}, by_position[2];
+        POLY_GETMAVG(&ld, q.data(), &c.nseg, segments, scm.data(), &n, list, each, flags);
+        POLY_GETFAVG(&ld, &c.nseg, segments, scm.data(), &row, q.data(), &number);
+        POLY_GETFAVGT(&ld, &c.nseg, segments, scm.data(), &row, q.data(), &twin);
+        POLY_GETSAVG(&ld, weights, &c.nseg, segments, scm.data(), &row, q.data(), &mass);
+        POLY_GETPOLQ(&ld, weights, &c.nseg, segments, scm.data(), &row, q.data(), &own_or_mass);
+        POLY_GETMWS(&n, list, &ld, q.data(), &c.nseg, segments, flags, scm.data(), by_component);
+        POLY_GETMWP(&n, list, &ld, q.data(), &c.nseg, segments, flags, scm.data(), by_position);
+        const double seen[] = {
+            each[0],         each[1],         number,          twin,           mass,          own_or_mass,
+            by_component[0], by_component[1], by_component[2], by_position[0], by_position[1]};
+        // A flag of 2 is no flag: component 3 has its own 33.
+        const double expected[] = {33,       c.listed, c.number, c.number, c.mass, c.own_or_mass,
+                                   c.number, -1,       33,       33,       c.total};
+        for (std::size_t k = 0; k < std::size(seen); ++k) EXPECT_DOUBLE_EQ(seen[k], expected[k]) << k;
+    }
+    double out[2];
+    POLY_GETMAVG(&ld, weights, &n, segments, matrix(std::nan(""), 1).data(), &n, list, out, flags);
+    EXPECT_EQ(out[1], 1) << "a row sum that is not a number";
+}
+
+World homopolymer(const Attributes& attributes)
+{
+    auto world = World{}.segments({{"A", 1}}).polymer("P", attributes, 1000).conventional("W", 18);
+    return world.parameter("P", Parameter::pdi, 0.5).parameter("W", Parameter::pdi, 1.5);
+}
+
+TEST(Polydispersity, OfAMixtureIsNeverBelowOneWhereMomentsGiveIt)
+{
+    const Attribute z{"ZMOM", 1}, flow{"SFLOW", 100};
+    const struct {
+        const char* name;
+        Attributes attributes;
+        double expected;
+    } cases[] = {
+        {"from moments", {z, flow, {"SMOM", 20000}}, 2},
+        {"raised to 1", {z, flow, {"SMOM", 5000}}, 1},
+        {"second moment missing", {z, flow, {"SMOM", missing}}, 1},
+        {"second moment at the zero bound", {{"ZMOM", 1e30}, flow, {"SMOM", zero_bound}}, 1},
+        {"no second moment", {z, flow}, 0.5},
+        {"chains not carried", {flow, {"SMOM", 20000}}, 0.5},
+        {"chains at the zero bound", {{"ZMOM", zero_bound}, flow, {"SMOM", 1e30}}, 0.5},
+        {"chains missing", {{"ZMOM", missing}, flow, {"SMOM", 20000}}, 0.5},
+        {"flows below the zero bound", {z, {"SFLOW", zero_bound / 2}, {"SMOM", 1}}, 0.5},
+        {"flows not carried", {z, {"SMOM", 1}}, 0.5},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        EXPECT_EQ(homopolymer(c.attributes).ask(POLY_GETPOLI, {"W", "P"}), (Values{1.5, c.expected}));
+        EXPECT_EQ(homopolymer(c.attributes).pdi_mode(100).ask(POLY_GETPOLI, "P"), 0.5);
+    }
+    const Attributes at_zero_bound{z, {"SFLOW", zero_bound}, {"SMOM", 20000}};
+    EXPECT_GT(homopolymer(at_zero_bound).ask(POLY_GETPOLI, "P"), 1);
+    EXPECT_EQ(homopolymer(at_zero_bound).without_polymer_block().ask(POLY_GETPOLI, "P"), 0.5);
+    // A zero bound of 0 lets flows of 0 pass; they are not divided by.
+    EXPECT_EQ(homopolymer({z, {"SFLOW", 0.0}, {"SMOM", 1}}).bounds(missing, 0).ask(POLY_GETPOLI, "P"), 0.5);
+    EXPECT_EQ(homopolymer({}).without(Parameter::pdi).ask(POLY_GETPOLI, {"P", "W"}), (Values{1, 1}));
+}
+
+TEST(Polydispersity, TimesChainWeightIsTheWeightAverage)
+{
+    auto world = homopolymer({{"ZMOM", 1}, {"SFLOW", 100}, {"SMOM", 20000}});
+    world.host();
+    const auto list = world.indices({"W", "P"});
+    const auto mw = world.molecular_weights();
+    const Int nc = 4, one = 1, n = 2, segment = 2, polymer_flags[] = {0, 0, 1, 0};
+    const Values scm(16, 60.0);
+    Values out(2);
+    const AskedOnce once;
+    POLY_GETWWP(&n, list.data(), &nc, mw.data(), &one, &segment, polymer_flags, scm.data(), out.data());
+    EXPECT_EQ(out, (Values{27, 120}));
+}
+
+}  // namespace

@@ -1,0 +1,173 @@
+// Segment counts straight from attributes: POLY_GETPOL and POLY_GETPALL side by side.
+#include <cmath>
+
+#include "mixture/asked_once.h"
+#include "polyprops/polyprops.h"
+#include "support/world.h"
+
+using namespace support;
+
+namespace {
+
+using Values = std::vector<double>;
+using Ints = std::vector<Int>;
+
+const double nan = std::nan("");
+constexpr Int kept = -5;
+
+// Outputs of both routines, kept where untouched.
+struct Counts {
+    Counts(World world, const std::vector<std::string>& ids) : nc(world.component_count())
+    {
+        world.host();
+        const auto weights = world.molecular_weights();
+        const auto list = world.indices(ids);
+        const Int n = std::ssize(list), selector = 1;
+        {
+            const AskedOnce once;
+            POLY_GETPOL(&selector, &nc, weights.data(), &nseg, iseg.data(), &n, list.data(), pol.data());
+        }
+        const AskedOnce once;
+        POLY_GETPALL(&selector, &n, list.data(), &nc, &nseg_all, iseg_all.data(), &npol, flags.data(),
+                     all.data(), dpn.data());
+    }
+    // Elements of row j for the segments, components 2 and 3.
+    Values row(const Values& matrix, Int j) const
+    {
+        return {matrix.at(nc + j - 1), matrix.at(2 * nc + j - 1)};
+    }
+
+    Int nc, nseg = kept, nseg_all = kept, npol = kept;
+    Values pol = Values(nc * nc, kept), all = pol, dpn = Values(nc, kept);
+    Ints iseg = Ints(nc, kept), iseg_all = iseg, flags = iseg;
+};
+
+// Components: 2 and 3 are the segments, 4 is the polymer.
+World copolymer(const Attributes& attributes)
+{
+    return World{}.segments({{"A", 100}, {"B", 50}}).polymer("P", attributes);
+}
+
+TEST(SegmentCounts, OfAPolymerFollowTheOrderOfPreference)
+{
+    const Attribute z{"ZMOM", 0.5}, flow{"SFLOW", {3, 1}}, five{"DPN", 4};
+    const double above = std::nextafter(zero_bound, 1.0), below = std::nextafter(missing, 0.0);
+    const struct {
+        const char* name;
+        Attributes attributes;
+        Values pol, all;
+    } cases[] = {
+        {"flows over chains", {z, flow}, {6, 2}, {6, 2}},
+        {"fractions given, length from flows", {z, flow, {"SFRAC", {1, 3}}}, {2, 6}, {2, 6}},
+        {"own length", {five, {"MWN", 875}, z, flow}, {3, 1}, {3, 1}},
+        {"length below 1", {{"DPN", 0.5}, z, flow}, {6, 2}, {6, 2}},
+        {"length of exactly 1", {{"DPN", 1.0}, z, flow}, {0.75, 0.25}, {6, 2}},
+        {"length missing", {{"DPN", missing}, z, flow}, {0.75 * missing, 0.25 * missing}, {6, 2}},
+        {"own weight", {{"MWN", 875}, z, flow}, {7.5, 2.5}, {6, 2}},
+        {"weight of one segment", {{"MWN", 87.5}, z, flow}, {0.75, 0.25}, {6, 2}},
+        {"weight below it", {{"MWN", std::nextafter(87.5, 0)}, z, flow}, {6, 2}, {6, 2}},
+        {"first moment equal to chains", {{"FMOM", 0.5}, z, flow}, {0.75, 0.25}, {0.75, 0.25}},
+        {"first moment below chains", {{"FMOM", 0.25}, z, flow}, {6, 2}, {0.75, 0.25}},
+        {"chains at the zero bound", {{"ZMOM", zero_bound}, flow}, {0.75, 0.25}, {0.75, 0.25}},
+        {"chains above it", {{"ZMOM", above}, {"SFLOW", {4 * above, 0}}}, {4, 0}, {4, 0}},
+        {"flows at it", {{"ZMOM", 2 * above}, {"SFLOW", {zero_bound, 0}}}, {0.5, 0.5}, {0.5, 0.5}},
+        {"fraction missing", {five, {"SFRAC", {missing, 2}}}, {4, 8 / missing}, {0, 4}},
+        {"fraction below missing", {five, {"SFRAC", {below, 2}}}, {4, 8 / below}, {4, 8 / below}},
+        {"all fractions 0", {five, flow, {"SFRAC", {0, 0}}}, {2, 2}, {2, 2}},
+        {"nothing carried", {}, {0.5, 0.5}, {0.5, 0.5}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        const Counts counts(copolymer(c.attributes), {"P"});
+        EXPECT_EQ(counts.row(counts.pol, 4), c.pol);
+        EXPECT_EQ(counts.row(counts.all, 4), c.all);
+        EXPECT_DOUBLE_EQ(counts.dpn[0], c.all[0] + c.all[1]);
+    }
+}
+
+TEST(SegmentCounts, OfAPolymerWithHiddenFractionsWeightlessSegmentsOrEndSegments)
+{
+    const Attribute z{"ZMOM", 0.5}, flow{"SFLOW", {3, 1}};
+    const auto hidden = copolymer({{"DPN", 4}, flow, {"SFRAC", {1, 3}}}).hidden_attribute("P", "SFRAC", -1);
+    const auto weightless =
+        World{}.segments({{"A", 0}, "B"}).polymer("P", {{"MWN", 9}, z, {"SFLOW", {1, 0}}});
+    const auto ends = World{}.segments({{"E", 15, SegmentType::end}, "R"}).polymer("P", {{"SFLOW", {4, 12}}});
+    const std::pair<World, Values> cases[] = {{hidden, {3, 1}}, {weightless, {2, 0}}, {ends, {2, 6}}};
+    for (const auto& [world, row] : cases) {
+        const Counts counts(world, {"P"});
+        EXPECT_EQ(counts.row(counts.pol, 4), row);
+        EXPECT_EQ(counts.row(counts.all, 4), row);
+    }
+}
+
+TEST(SegmentCounts, OfAnOligomer)
+{
+    const struct {
+        const char* name;
+        double a, b, parameter;
+        Values pol, all;
+        double length;
+    } cases[] = {
+        {"make-up", 2, 1, 1, {2, 1}, {2, 1}, 3},
+        {"one kind", 3, 0, 1, {3, 0}, {3, 0}, 3},
+        {"one kind, real parameter", 3, 0, 5, {5, 0}, {5, 0}, 5},
+        {"two kinds, real parameter", 2, 1, 6, {2, 1}, {4, 2}, 6},
+        {"within the tolerance", 2, 2, 1 + 0.9e-10, {2, 2}, {2, 2}, 4},
+        {"parameter below 1", 3, 0, 0.5, {3, 0}, {0.5, 0}, 0.5},
+        {"negative count", -1, 3, 1, {0, 3}, {-1, 3}, 2},
+        {"counts sum to 0", 1, -1, 1, {1, 0}, {1, -1}, 1},
+        {"parameter not a number", 2, 0, nan, {2, 0}, {2, 0}, 2},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        auto world = copolymer({}).oligomer("O", {{"A", c.a}, {"B", c.b}});
+        const Counts counts(world.parameter("O", Parameter::dpn, c.parameter), {"O"});
+        EXPECT_EQ(counts.row(counts.pol, 5), c.pol);
+        EXPECT_EQ(counts.row(counts.all, 5), c.all);
+        EXPECT_EQ(counts.dpn[0], c.length);
+    }
+    // O in both columns of the table, Q in none.
+    auto world = World{}.segments({"A", "B"}).oligomer("O", {{"A", 3}}).oligomer("Q", {{"B", 1}});
+    auto& store = world.parameter("O", Parameter::dpn, 5).host().store();
+    store.set_integer(store.integer(world.host().polymer_block(), 6), 3, world.index("O"));
+    const Counts counts(world, {"O", "Q"});
+    EXPECT_EQ(counts.row(counts.pol, 4), (Values{5, 5}));
+    EXPECT_EQ(counts.row(counts.all, 4), (Values{0, 1.25}));
+    EXPECT_EQ(counts.row(counts.pol, 5), (Values{0, 0}));
+}
+
+TEST(SegmentCounts, OfOtherComponentsStandInColumnOne)
+{
+    auto world = copolymer({{"DPN", 4}}).conventional("W").conventional("V").conventional("N");
+    world.parameter("W", Parameter::dpn, 0.5)
+        .parameter("V", Parameter::dpn, 7)
+        .parameter("N", Parameter::dpn, nan);
+    const Counts counts(world, {"W", "V", "P", "N"});
+    EXPECT_EQ(Values(counts.pol.begin(), counts.pol.begin() + 7), (Values{0, 0, 0, 0, 1, 7, 1}));
+    EXPECT_EQ(Values(counts.all.begin(), counts.all.begin() + 7), (Values{0, 0, 0, 0, 1, 1, 1}));
+    EXPECT_EQ(counts.dpn, (Values{1, 7, 4, 1, 0, 0, 0}));
+    EXPECT_EQ(counts.flags, (Ints{0, 0, 0, 1, 0, 0, 0}));
+    EXPECT_EQ(counts.iseg_all, (Ints{2, 3, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(counts.iseg, (Ints{2, 3, kept, kept, kept, kept, kept}));
+    EXPECT_EQ(counts.npol, 1);
+}
+
+TEST(SegmentCounts, LeaveUntouchedWhatTheListDoesNotReach)
+{
+    const Counts counts(copolymer({}).conventional("W").without(Parameter::dpn), {"W"});
+    EXPECT_EQ(std::tuple(counts.nseg, counts.nseg_all, counts.npol), std::tuple(2, kept, 0));
+    EXPECT_EQ(counts.pol[4], 1);
+    for (const auto& untouched : {counts.iseg, counts.iseg_all, counts.flags})
+        EXPECT_EQ(untouched, Ints(5, kept));
+    EXPECT_EQ(counts.all, Values(25, kept));
+    EXPECT_EQ(counts.dpn, Values(5, kept));
+
+    const Counts none(copolymer({{"ZMOM", 2}, {"FMOM", 8}}).without_polymer_block(), {"UNNAMED", "P"});
+    EXPECT_EQ(std::tuple(none.nseg, none.nseg_all, none.npol), std::tuple(kept, 0, 1));
+    EXPECT_EQ(none.iseg, Ints(4, kept));
+    EXPECT_EQ(none.pol, Values(16, 0));
+    EXPECT_EQ(none.dpn, (Values{1, 4, 0, 0}));
+    EXPECT_EQ(none.row(none.all, 4), (Values{0, 0}));
+}
+
+}  // namespace

@@ -1,0 +1,93 @@
+// The tokens that the library writes to the summary file, in sequence.
+#include <gtest/gtest.h>
+#include <polyprops/host.h>
+#include <polyprops/polyprops.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "support/world.h"
+
+namespace {
+
+using support::World;
+using Int = std::int64_t;
+using Reals = std::vector<double>;
+
+void plot(World& world, const Reals& x, const Reals& y, Int sections, Int scale_switch)
+{
+    const auto n = static_cast<Int>(x.size());
+    const Int gpc = 0;
+    const double scale = 100;
+    POLY_CSDPLOT(world.host().summary().context("R101"), nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                 nullptr, nullptr, nullptr, &n, x.data(), y.data(), &sections, &scale, &scale_switch, &gpc);
+}
+
+void write_site_results(World& world, Int sites)
+{
+    const Reals r[] = {{11, 12}, {21, 22}, {31, 32}, {41, 42}, {51, 52}, {61, 62}, {71, 72}};
+    POLY_WRTPOLSUM(world.host().summary().context("PRODUCT"), &sites, r[0].data(), r[1].data(), r[2].data(),
+                   r[3].data(), r[4].data(), r[5].data(), r[6].data());
+}
+
+std::string stored(const std::string& name)
+{
+    std::stringstream content;
+    content << std::ifstream(std::filesystem::path(__FILE__).parent_path() / name).rdbuf();
+    return content.str();
+}
+
+// Words 2 to 4: current block, next data set, next block.
+std::vector<Int> counters()
+{
+    return {ST_SUMGLOBAL[1], ST_SUMGLOBAL[2], ST_SUMGLOBAL[3]};
+}
+
+TEST(DistributionSummary, TiesEveryBlockToItsAxesAndGoesOnNumbering)
+{
+    World world;
+    auto& summary = world.host().summary();
+    ST_SUMGLOBAL[2] = 7;
+    ST_SUMGLOBAL[3] = 30;
+    plot(world, {2, 4}, {0.25, 0.5, 1, 2, 3, 4}, 2, 1);
+    plot(world, {3}, {1}, 0, 2);  // lengths are scaled by a switch of 1 alone
+    plot(world, {}, {}, 0, 0);
+    EXPECT_EQ(summary.text(), stored("distribution_tokens.txt"));
+    EXPECT_EQ(counters(), (std::vector<Int>{38, 22, 39}));
+}
+
+TEST(SiteSummary, WritesSeparatorsAfterTheFirstResultOnly)
+{
+    auto world = World{}.polymer_count(1);
+    auto& summary = world.host().summary();
+    ST_SUMGLOBAL[3] = 5;
+    for (const Int sites : {2, 0, -1}) write_site_results(world, sites);
+    EXPECT_EQ(summary.text(), stored("site_tokens.txt"));
+    EXPECT_EQ(counters(), (std::vector<Int>{7, 1, 8}));
+}
+
+TEST(Summary, IsWrittenWhenTheRunWantsIt)
+{
+    const struct {
+        Int report_switch, polymers;
+        bool distribution, sites;
+    } cases[] = {{0, 1, false, false}, {1, 1, true, true},    {2, 1, true, true},
+                 {3, 1, false, false}, {-1, 1, false, false}, {1, 0, true, false}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << "switch " << c.report_switch << ", polymers " << c.polymers);
+        auto world = World{}.polymer_count(c.polymers);
+        auto& summary = world.host().summary();
+        summary.set_report_switch(c.report_switch);
+        write_site_results(world, 2);
+        EXPECT_EQ(!summary.tokens().empty(), c.sites);
+        const auto written = summary.tokens().size();
+        plot(world, {1, 2}, {1, 1}, 0, 0);
+        EXPECT_EQ(summary.tokens().size() > written, c.distribution);
+        EXPECT_EQ(counters()[2] > 1, c.distribution || c.sites);
+        EXPECT_NE(world.host().report().text().find("Area = "), std::string::npos)
+            << "the report has its own way";
+    }
+}
+
+}  // namespace
