@@ -96,15 +96,35 @@ struct AttributeValue {
     std::vector<Reference> segments;  // empty: elements are given by position
 };
 
-struct Flow {
+struct ComponentValue {
     Reference component;
-    double value = 0;  // kmol/h, apparent basis
+    double value = 0;
 };
+using Flow = ComponentValue;  // kmol/h, apparent basis
 
 struct Stream {
     Reference name;
     std::vector<Flow> flows;
     std::vector<AttributeValue> attributes;
+};
+
+enum class Averaging { number, mass, weight_factors };
+
+// A property of polymers and oligomers that follows from those of their segments.
+struct Property {
+    Reference name;
+    std::string unit = "1";
+    Averaging averaging = Averaging::number;
+    std::vector<ComponentValue> segment_values;
+    std::vector<ComponentValue> weight_factors;  // of the segments
+    std::vector<ComponentValue> own_values;      // of polymers and oligomers, preferred to the average
+};
+
+// The polymer that the outlet stream holds beyond the inlet stream is of interest.
+struct Reactor {
+    Reference name;
+    Reference inlet;
+    Reference outlet;
 };
 
 struct Settings {
@@ -122,6 +142,8 @@ struct Case {
     std::optional<Paragraph> paragraph;
     std::vector<ScalingEntry> catalyst_scaling;
     std::vector<Stream> streams;
+    std::vector<Property> properties;
+    std::vector<Reactor> reactors;
 
     const Component* find(std::string_view id) const;
     std::vector<std::string_view> ids() const;

@@ -88,6 +88,8 @@ Case read_root(TableReader root, const std::string& file)
     input.catalyst_scaling = read_catalyst_scaling(root.array("catalyst_scaling"), root.diagnostics());
     if (const auto streams = section(root, "streams", "a table with at least one stream"))
         input.streams = read_streams(*streams);
+    if (const auto properties = root.table("properties")) input.properties = read_properties(*properties);
+    if (const auto reactors = root.table("reactors")) input.reactors = read_reactors(*reactors);
     root.finish();
     return input;
 }
@@ -125,6 +127,8 @@ Case parse_case(std::string_view text, const std::string& file, Diagnostics& dia
     check_paragraph(input, diagnostics);
     check_catalyst_scaling(input, diagnostics);
     check_streams(input, diagnostics);
+    check_properties(input, diagnostics);
+    check_reactors(input, diagnostics);
     return input;
 }
 

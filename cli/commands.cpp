@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <optional>
 #include <stdexcept>
 
@@ -64,30 +65,65 @@ int check_case(const std::filesystem::path& file, Format format, std::FILE* out,
     return is_good ? exit_success : exit_case_error;
 }
 
+int print(const Report& report, const Checked& read, Format format, std::FILE* out, std::FILE* errors)
+{
+    write(formatted(report, format), out);
+    const auto unusable = not_finite(report);
+    for (const auto& line : unusable) fmt::print(errors, "{}: {}\n", report.file, line);
+    return read.checked.messages.empty() && unusable.empty() ? exit_success : exit_case_error;
+}
+
+// Lays the streams into the host; false when the case cannot go on.
+bool add_streams(const Checked& read, std::FILE* errors)
+{
+    const auto unfit = add_streams(read.input, read.checked);
+    print(unfit.lines(read.input.file), errors);
+    // Values need not fit what is left of a paragraph in error; those of a good one are themselves in error.
+    return unfit.empty() || !read.checked.messages.empty();
+}
+
 int run_case(const std::filesystem::path& file, Format format, std::FILE* out, std::FILE* errors)
 {
     const auto read = read_and_check(file, errors);
-    if (!read) return exit_case_error;
+    if (!read || !add_streams(*read, errors)) return exit_case_error;
     const auto& [input, checked] = *read;
-    const auto unfit = add_streams(input, checked);
-    print(unfit.lines(input.file), errors);
-    const bool is_good = checked.messages.empty();
-    // Values need not fit what is left of a paragraph in error; those of a good one are themselves in error.
-    if (is_good && !unfit.empty()) return exit_case_error;
-    const auto report = make_report(input, checked, evaluate(input, *checked.host));
-    write(formatted(report, format), out);
-    const auto unusable = not_finite(report);
-    for (const auto& line : unusable) fmt::print(errors, "{}: {}\n", input.file, line);
-    return is_good && unusable.empty() ? exit_success : exit_case_error;
+    return print(make_report(input, checked, evaluate(input, *checked.host)), *read, format, out, errors);
 }
 
-using Command = int(const std::filesystem::path&, Format, std::FILE*, std::FILE*);
+// Why the case has no such stream; empty when it has.
+std::string unknown_stream(const std::string& stream, const Case& input)
+{
+    std::vector<std::string_view> streams;
+    for (const auto& known : input.streams) streams.push_back(known.name.id);
+    if (std::ranges::find(streams, stream) != streams.end()) return {};
+    return fmt::format("{} has no stream \"{}\"{}", input.file, stream, suggestion(stream, streams));
+}
 
-int guarded(Command& command, const std::filesystem::path& file, Format format, std::FILE* out,
-            std::FILE* errors)
+int refuse(const std::string& why, std::FILE* errors)
+{
+    fmt::print(errors, "polyprops: {}\n", why);
+    return exit_usage;
+}
+
+int convert_case(const std::filesystem::path& file, const Conversion& conversion, Format format,
+                 std::FILE* out, std::FILE* errors)
+{
+    if (const auto why = impossible(conversion); !why.empty()) return refuse(why, errors);
+    const auto read = read_and_check(file, errors);
+    if (!read) return exit_case_error;
+    const auto& [input, checked] = *read;
+    const auto& [stream, from, to] = conversion;
+    if (const auto why = unknown_stream(stream, input); !why.empty()) return refuse(why, errors);
+    if (!add_streams(*read, errors)) return exit_case_error;
+    const auto found = convert(stream, from, to, *checked.host);
+    return print(make_conversion_report(input, checked, stream, found), *read, format, out, errors);
+}
+
+template <typename Command>
+int guarded(const Command& command, std::FILE* errors)
 {
     try {
-        return command(file, format, out, errors);
+        return command();
     } catch (const std::exception& error) {
         fmt::print(errors, "polyprops: {}\n", error.what());
         return exit_case_error;
@@ -98,12 +134,28 @@ int guarded(Command& command, const std::filesystem::path& file, Format format, 
 
 int run(const std::filesystem::path& file, Format format, std::FILE* out, std::FILE* errors)
 {
-    return guarded(run_case, file, format, out, errors);
+    return guarded([&] { return run_case(file, format, out, errors); }, errors);
 }
 
 int check(const std::filesystem::path& file, Format format, std::FILE* out, std::FILE* errors)
 {
-    return guarded(check_case, file, format, out, errors);
+    return guarded([&] { return check_case(file, format, out, errors); }, errors);
+}
+
+std::string impossible(const Conversion& conversion)
+{
+    const auto [stream, from, to] = conversion;
+    if (from == to) return fmt::format("--from and --to are both \"{}\"; expected two bases", text(from));
+    if (from == Basis::segment)
+        return "--from is \"segment\"; expected \"apparent\" or \"true\", since segments do not tell which "
+               "chains they stood in";
+    return {};
+}
+
+int convert(const std::filesystem::path& file, const Conversion& conversion, Format format, std::FILE* out,
+            std::FILE* errors)
+{
+    return guarded([&] { return convert_case(file, conversion, format, out, errors); }, errors);
 }
 
 }  // namespace cli

@@ -17,11 +17,28 @@ std::string field(const std::string& text)
     return quoted + "\"";
 }
 
+bool is_named(const Column& column)
+{
+    return column.key == "component" || column.key == "segment";
+}
+
 // The text of the named column, empty in a table without it.
 std::string text_of(const Table& table, const std::vector<Cell>& row, std::string_view key)
 {
     for (std::size_t i = 0; i < row.size(); ++i)
-        if (table.columns[i].key == key) return field(std::get<std::string>(row[i]));
+        if (const auto* text = std::get_if<std::string>(&row[i]); text && table.columns[i].key == key)
+            return field(*text);
+    return {};
+}
+
+// What else tells the rows of a table apart: a basis, an average, a site type. The class of a component does
+// not.
+std::string item_of(const Table& table, const std::vector<Cell>& row)
+{
+    for (std::size_t i = 0; i < row.size(); ++i)
+        if (const auto* text = std::get_if<std::string>(&row[i]);
+            text && !is_named(table.columns[i]) && table.columns[i].key != "class")
+            return field(*text);
     return {};
 }
 
@@ -39,8 +56,8 @@ void write_row(const std::string& place, const std::vector<std::string>& keys, c
     for (const auto& key : keys) lead += text_of(table, row, key) + ",";
     for (std::size_t i = 0; i < row.size(); ++i)
         if (!std::holds_alternative<std::string>(row[i]))
-            csv += fmt::format("{}{},{},{}\n", lead, table.columns[i].key, number_of(row[i]),
-                               table.columns[i].unit);
+            csv += fmt::format("{}{},{},{}\n", lead, field(table.columns[i].key), number_of(row[i]),
+                               field(table.columns[i].unit));
 }
 
 std::string input_csv(const std::vector<Table>& tables)
@@ -57,13 +74,14 @@ std::string input_csv(const std::vector<Table>& tables)
 
 std::string format_csv(const Report& report)
 {
-    if (report.streams.empty()) return input_csv(report.input);
-    std::string csv = "stream,table,component,segment,quantity,value,unit\n";
-    for (const auto& stream : report.streams)
-        for (const auto& table : stream.tables)
+    if (report.sections.empty()) return input_csv(report.input);
+    std::string csv = "section,name,table,item,component,segment,quantity,value,unit\n";
+    for (const auto& section : report.sections)
+        for (const auto& table : section.tables)
             for (const auto& row : table.rows)
-                write_row(fmt::format("{},{},", field(stream.stream), table.key), {"component", "segment"},
-                          table, row, csv);
+                write_row(fmt::format("{},{},{},{},", section.kind, field(section.name), table.key,
+                                      item_of(table, row)),
+                          {"component", "segment"}, table, row, csv);
     return csv;
 }
 

@@ -19,13 +19,18 @@ Json row_object(const Table& table, const std::vector<Cell>& row)
     return object;
 }
 
+void add_units(const std::vector<Table>& tables, Json& units)
+{
+    for (const auto& table : tables)
+        for (const auto& column : table.columns)
+            if (!column.unit.empty()) units[table.key][column.key] = column.unit;
+}
+
 Json units(const Report& report)
 {
     auto units = Json::object();
-    for (const auto& stream : report.streams)
-        for (const auto& table : stream.tables)
-            for (const auto& column : table.columns)
-                if (!column.unit.empty()) units[table.key][column.key] = column.unit;
+    add_units(report.input, units);
+    for (const auto& section : report.sections) add_units(section.tables, units);
     return units;
 }
 
@@ -35,6 +40,14 @@ void add_tables(const std::vector<Table>& tables, Json& object)
         object[table.key] = Json::array();
         for (const auto& row : table.rows) object[table.key].push_back(row_object(table, row));
     }
+}
+
+Json section_object(const Section& section)
+{
+    Json object{{"name", section.name}};
+    for (const auto& [key, text] : section.facts) object[key] = text;
+    add_tables(section.tables, object);
+    return object;
 }
 
 Json message_object(const PlacedMessage& placed, const std::string& file)
@@ -58,11 +71,7 @@ std::string format_json(const Report& report)
     for (const auto& message : report.messages)
         json["messages"].push_back(message_object(message, report.file));
     if (!report.input.empty()) add_tables(report.input, json["input"]);
-    for (const auto& stream : report.streams) {
-        Json object{{"name", stream.stream}};
-        add_tables(stream.tables, object);
-        json["streams"].push_back(std::move(object));
-    }
+    for (const auto& section : report.sections) json[section.kind + "s"].push_back(section_object(section));
     return json.dump(2) + "\n";
 }
 

@@ -86,9 +86,10 @@ std::string format_text(const Report& report)
 {
     std::string text = report.title.empty() ? "" : fmt::format("{}\n", report.title);
     add_tables(report.input, text);
-    for (const auto& stream : report.streams) {
-        add_block(fmt::format("Stream {}\n", stream.stream), text);
-        if (!add_tables(stream.tables, text)) add_block("Nothing flows in this stream.\n", text);
+    for (const auto& section : report.sections) {
+        add_block(section.heading + "\n", text);
+        if (!add_tables(section.tables, text))
+            add_block(fmt::format("Nothing flows in this {}.\n", section.kind), text);
     }
     return text;
 }

@@ -26,8 +26,12 @@ struct Table {
     std::vector<std::vector<Cell>> rows;
 };
 
-struct StreamReport {
-    std::string stream;
+// The tables of one stream or reactor.
+struct Section {
+    std::string kind;  // "stream", "reactor"
+    std::string name;
+    std::string heading;                                     // as text shows it
+    std::vector<std::pair<std::string, std::string>> facts;  // keys and texts that tell more of it
     std::vector<Table> tables;
 };
 
@@ -36,13 +40,17 @@ struct Report {
     std::string file;
     std::vector<PlacedMessage> messages;  // shown by JSON alone: in the other formats they go elsewhere
     std::vector<Table> input;             // what was built from the polymer paragraph
-    std::vector<StreamReport> streams;
+    std::vector<Section> sections;
 };
 
-Report make_report(const Case& input, const CheckedInput& checked, const std::vector<StreamResults>& results);
+Report make_report(const Case& input, const CheckedInput& checked, const Results& results);
 
 // What was built, and nothing but the messages when there is one.
 Report make_input_report(const Case& input, const CheckedInput& checked);
+
+// The composition of one stream on the basis `from` and on the basis `to`.
+Report make_conversion_report(const Case& input, const CheckedInput& checked, const std::string& stream,
+                              const std::vector<Composition>& compositions);
 
 // One line for each number of the report that is not finite.
 std::vector<std::string> not_finite(const Report& report);

@@ -31,7 +31,7 @@ struct Outcome {
 };
 
 template <typename Command>
-Outcome capture(Command* command, const std::filesystem::path& file, cli::Format format)
+Outcome capture(const Command& command, const std::filesystem::path& file, cli::Format format)
 {
     Capture out;
     Capture errors;
