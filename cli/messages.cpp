@@ -29,7 +29,7 @@ std::vector<std::string> names_in(const minihost::Message& message)
 {
     std::vector<std::string> names;
     for (const auto& line : message.lines)
-        for (auto open = line.find('"'); open != line.npos; open = line.find('"', open)) {
+        for (auto open = line.find('"'); open != std::string::npos; open = line.find('"', open)) {
             const auto close = std::min(line.find('"', open + 1), line.size());
             auto name = line.substr(open + 1, close - open - 1);
             name.erase(name.find_last_not_of(' ') + 1);
@@ -60,7 +60,9 @@ public:
 
     const Item* repeated(std::string_view id)
     {
-        const auto* first = &*std::ranges::find_if(items_, [&](const Item& item) { return item.is(id); });
+        const Item* first = nullptr;
+        for (const Item& item : items_)
+            if (!first && item.is(id)) first = &item;
         return next([&](const Item& item) { return item.is(id) && &item != first; });
     }
 
@@ -83,6 +85,7 @@ template <typename List, typename ToItem>
 Walk walk(const List& list, ToItem to_item)
 {
     std::vector<Item> items;
+    items.reserve(list.size());
     for (const auto& entry : list) items.push_back(to_item(entry));
     return Walk{std::move(items)};
 }
@@ -211,6 +214,7 @@ std::vector<PlacedMessage> place(const std::vector<minihost::Message>& messages,
     const Paragraph none;
     Places places{input.paragraph ? *input.paragraph : none, input.catalyst_scaling};
     std::vector<PlacedMessage> placed;
+    placed.reserve(messages.size());
     for (const auto& message : messages)
         placed.push_back({places.of(message), hint(message, input), message});
     return placed;

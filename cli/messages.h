@@ -19,6 +19,6 @@ struct PlacedMessage {
 std::vector<PlacedMessage> place(const std::vector<minihost::Message>& messages, const Case& input);
 
 // "FILE:LINE:COLUMN: ROUTINE message NUMBER, severity SEVERITY" and the lines of the message as they are.
-std::vector<std::string> lines(const PlacedMessage& message, std::string_view file);
+std::vector<std::string> lines(const PlacedMessage& placed, std::string_view file);
 
 }  // namespace cli

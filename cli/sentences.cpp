@@ -9,6 +9,7 @@ namespace {
 std::vector<std::string> ids(const std::vector<Reference>& references)
 {
     std::vector<std::string> ids;
+    ids.reserve(references.size());
     for (const auto& reference : references) ids.push_back(reference.id);
     return ids;
 }
