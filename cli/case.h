@@ -1,6 +1,7 @@
 // A case as its file states it: plain values, every name with the place where it stands.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,6 +12,7 @@
 namespace cli {
 
 using minihost::ComponentClass;
+using minihost::Int;
 std::string_view text(ComponentClass kind);
 
 // How many neighbours a segment is bonded to; the values are the segment types of the polymer paragraph.
@@ -36,6 +38,28 @@ struct OligomerPart {
     Reference oligomer;
     Reference segment;
     double count = 0;
+    bool is_continued = false;  // belongs to the oligomer of the part before, whose reference it repeats
+};
+
+struct Catalyst {
+    Reference component;
+    double value = 0;
+};
+
+// Numbers that the host carries without reading them.
+using FurtherIntegers = std::array<Int, 3>;
+
+struct Sites {
+    Int count = 0;  // catalyst site types
+    FurtherIntegers integers = {};
+    double real = 0;
+};
+
+struct DistributionRequest {
+    Reference polymer;
+    Int type = 1;
+    FurtherIntegers integers = {};
+    double real = 0;
 };
 
 // The attributes that a component carries in every stream.
@@ -50,6 +74,18 @@ struct Paragraph {
     std::vector<Segment> segments;
     std::vector<OligomerPart> oligomers;
     std::vector<AttributeList> attributes;
+    std::vector<Catalyst> catalysts;
+    std::vector<Reference> initiators;
+    std::optional<Sites> sites;
+    std::vector<DistributionRequest> distributions;
+};
+
+// Two values for every element of an attribute; the one that is absent changes nothing.
+struct ScalingEntry {
+    Reference component;
+    Reference attribute;
+    std::optional<double> first;
+    std::optional<double> second;
 };
 
 // Element values in the order of the file, or each with the segment that it belongs to.
@@ -60,10 +96,11 @@ struct AttributeValue {
     std::vector<Reference> segments;  // empty: elements are given by position
 };
 
-struct Flow {
+struct ComponentValue {
     Reference component;
-    double value = 0;  // kmol/h, apparent basis
+    double value = 0;
 };
+using Flow = ComponentValue;  // kmol/h, apparent basis
 
 struct Stream {
     Reference name;
@@ -71,10 +108,30 @@ struct Stream {
     std::vector<AttributeValue> attributes;
 };
 
+enum class Averaging { number, mass, weight_factors };
+
+// A property of polymers and oligomers that follows from those of their segments.
+struct Property {
+    Reference name;
+    std::string unit = "1";
+    Averaging averaging = Averaging::number;
+    std::vector<ComponentValue> segment_values;
+    std::vector<ComponentValue> weight_factors;  // of the segments
+    std::vector<ComponentValue> own_values;      // of polymers and oligomers, preferred to the average
+};
+
+// The polymer that the outlet stream holds beyond the inlet stream is of interest.
+struct Reactor {
+    Reference name;
+    Reference inlet;
+    Reference outlet;
+};
+
 struct Settings {
     double zero_bound = 1e-15;
     double missing_value_bound = 1e35;
     bool pdi_from_parameters = false;
+    Int message_level = 2;  // severity up to which messages are printed
 };
 
 struct Case {
@@ -83,15 +140,13 @@ struct Case {
     Settings settings;
     std::vector<Component> components;  // in the order of the file
     std::optional<Paragraph> paragraph;
+    std::vector<ScalingEntry> catalyst_scaling;
     std::vector<Stream> streams;
+    std::vector<Property> properties;
+    std::vector<Reactor> reactors;
 
     const Component* find(std::string_view id) const;
     std::vector<std::string_view> ids() const;
-    // Segments of the polymer paragraph in segment-list order, which is the order of the components.
-    std::vector<std::string_view> segment_ids() const;
-    // End segments in the order in which the paragraph lists them.
-    std::vector<std::string_view> end_segment_ids() const;
-    const AttributeList* attributes_of(std::string_view component) const;
 };
 
 }  // namespace cli

@@ -35,6 +35,7 @@ Settings read_settings(TableReader table)
     if (const auto source = table.entry("pdi_from"))
         settings.pdi_from_parameters =
             read_word(*source, pdi_sources, table.diagnostics()).value_or(settings.pdi_from_parameters);
+    settings.message_level = table.whole_number("message_level", {0, 2}).value_or(settings.message_level);
     table.finish();
     return settings;
 }
@@ -84,8 +85,11 @@ Case read_root(TableReader root, const std::string& file)
     if (const auto components = section(root, "components", "a table with at least one component"))
         input.components = read_components(*components);
     if (const auto polymers = root.table("polymers")) input.paragraph = read_paragraph(*polymers);
+    input.catalyst_scaling = read_catalyst_scaling(root.array("catalyst_scaling"), root.diagnostics());
     if (const auto streams = section(root, "streams", "a table with at least one stream"))
         input.streams = read_streams(*streams);
+    if (const auto properties = root.table("properties")) input.properties = read_properties(*properties);
+    if (const auto reactors = root.table("reactors")) input.reactors = read_reactors(*reactors);
     root.finish();
     return input;
 }
@@ -121,7 +125,10 @@ Case parse_case(std::string_view text, const std::string& file, Diagnostics& dia
     auto input = read_root(TableReader{root, "", {}, diagnostics}, file);
     check_components(input, diagnostics);
     check_paragraph(input, diagnostics);
+    check_catalyst_scaling(input, diagnostics);
     check_streams(input, diagnostics);
+    check_properties(input, diagnostics);
+    check_reactors(input, diagnostics);
     return input;
 }
 

@@ -5,15 +5,6 @@ namespace cli {
 
 namespace {
 
-std::vector<Flow> read_flows(TableReader table)
-{
-    std::vector<Flow> flows;
-    for (const auto& entry : table.entries())
-        if (const auto value = read_number(entry, Range::not_negative, table.diagnostics()))
-            flows.push_back({{entry.key, entry.source}, *value});
-    return flows;
-}
-
 // A number, an array by segment-list position, or a table by segment ID.
 void read_elements(const Entry& entry, AttributeValue& attribute, Diagnostics& diagnostics)
 {
@@ -53,7 +44,7 @@ Stream read_stream(const Entry& entry, TableReader table)
 {
     Stream stream{{entry.key, entry.source}, {}, {}};
     if (const auto flows = table.table("flows"))
-        stream.flows = read_flows(*flows);
+        stream.flows = read_component_values(*flows, Range::not_negative);
     else
         table.missing("flows", "a table of component IDs and their mole flows");
     if (const auto attributes = table.table("attributes"))
@@ -63,6 +54,16 @@ Stream read_stream(const Entry& entry, TableReader table)
 }
 
 }  // namespace
+
+std::vector<ComponentValue> read_component_values(TableReader table, Range range)
+{
+    std::vector<ComponentValue> values;
+    // An unusable value keeps its place: it is not missing as well.
+    for (const auto& entry : table.entries())
+        values.push_back(
+            {{entry.key, entry.source}, read_number(entry, range, table.diagnostics()).value_or(0)});
+    return values;
+}
 
 std::vector<Stream> read_streams(TableReader table)
 {

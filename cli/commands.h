@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "cli/bases.h"
+
 namespace cli {
 
 enum class Format { text, csv, json };
@@ -12,8 +14,25 @@ inline constexpr int exit_success = 0;
 inline constexpr int exit_case_error = 1;
 inline constexpr int exit_usage = 2;
 
-// Loads the case and prints its results to `out`. What is wrong with the case goes to `errors`, one line
-// each.
+// Checks the case and prints the results of its streams to `out`. What is wrong with it goes to `errors`: one
+// line for each error of the file, which end the command, and the messages of the library's input checks,
+// which drop what they name and let the rest of the case run. With either of them the exit status tells so.
 int run(const std::filesystem::path& file, Format format, std::FILE* out, std::FILE* errors);
+
+struct Conversion {
+    std::string stream;
+    Basis from;
+    Basis to;
+};
+
+// Why there is no such conversion; empty when there is one.
+std::string impossible(const Conversion& conversion);
+
+// Prints one stream of the case on two bases. A stream that the case does not have is an error of usage.
+int convert(const std::filesystem::path& file, const Conversion& conversion, Format format, std::FILE* out,
+            std::FILE* errors);
+
+// Stops after the input checks and prints what was built, unless one of them had something to report.
+int check(const std::filesystem::path& file, Format format, std::FILE* out, std::FILE* errors);
 
 }  // namespace cli

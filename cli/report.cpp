@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+#include "cli/report_tables.h"
+
 namespace cli {
 
 namespace {
@@ -41,26 +43,60 @@ Table segment_fractions(const std::vector<SegmentShare>& shares)
     return table;
 }
 
+Section stream_section(const std::string& name, std::vector<Table> tables)
+{
+    return {"stream", name, "Stream " + name, {}, std::move(tables)};
+}
+
+Section stream_section(const StreamResults& results, const Case& input)
+{
+    std::vector<Table> tables{chain_averages(results.averages), segment_fractions(results.shares)};
+    for (const auto& composition : results.compositions) tables.push_back(composition_table(composition));
+    tables.push_back(closure_table(results.compositions));
+    tables.push_back(segment_count_table(results.segment_counts));
+    tables.push_back(chain_weight_table(results.chain_weights));
+    if (!input.properties.empty()) tables.push_back(property_table(input.properties, results.properties));
+    return stream_section(results.stream, std::move(tables));
+}
+
+Section reactor_section(const ReactorResults& results)
+{
+    return {"reactor",
+            results.reactor,
+            fmt::format("Reactor {}, from {} to {}", results.reactor, results.inlet, results.outlet),
+            {{"inlet", results.inlet}, {"outlet", results.outlet}},
+            {polymer_made_table(results.made)}};
+}
+
 }  // namespace
 
-Report make_report(const Case& input, const std::vector<StreamResults>& results)
+Report make_report(const Case& input, const CheckedInput& checked, const Results& results)
 {
-    Report report{input.title, {}};
-    for (const auto& r : results)
-        report.streams.push_back({r.stream, {chain_averages(r.averages), segment_fractions(r.shares)}});
+    Report report{input.title, input.file, checked.messages, {}, {}};
+    for (const auto& stream : results.streams) report.sections.push_back(stream_section(stream, input));
+    for (const auto& reactor : results.reactors) report.sections.push_back(reactor_section(reactor));
     return report;
+}
+
+Report make_conversion_report(const Case& input, const CheckedInput& checked, const std::string& stream,
+                              const std::vector<Composition>& compositions)
+{
+    std::vector<Table> tables;
+    for (const auto& composition : compositions) tables.push_back(composition_table(composition));
+    tables.push_back(closure_table(compositions));
+    return {input.title, input.file, checked.messages, {}, {stream_section(stream, std::move(tables))}};
 }
 
 std::vector<std::string> not_finite(const Report& report)
 {
     std::vector<std::string> found;
-    for (const auto& stream : report.streams)
-        for (const auto& table : stream.tables)
+    for (const auto& section : report.sections)
+        for (const auto& table : section.tables)
             for (const auto& row : table.rows)
                 for (std::size_t i = 0; i < row.size(); ++i)
                     if (const auto* value = std::get_if<double>(&row[i]); value && !std::isfinite(*value))
-                        found.push_back(fmt::format("streams.{}: {} of {} is {}; expected a finite result",
-                                                    stream.stream, table.columns[i].key,
+                        found.push_back(fmt::format("{}s.{}: {} of {} is {}; expected a finite result",
+                                                    section.kind, section.name, table.columns[i].key,
                                                     std::get<std::string>(row.front()), *value));
     return found;
 }

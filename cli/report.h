@@ -6,17 +6,17 @@
 #include <variant>
 #include <vector>
 
-#include "cli/case.h"
+#include "cli/load.h"
 #include "cli/results.h"
 
 namespace cli {
 
-using Cell = std::variant<std::string, double>;
+using Cell = std::variant<std::string, double, Int>;
 
 struct Column {
     std::string key;      // stable name in CSV and JSON
     std::string heading;  // as text shows it
-    std::string unit;     // of a number; "1" for a ratio, empty for a text
+    std::string unit;     // "1" for a ratio; empty for texts, counts and codes
 };
 
 struct Table {
@@ -26,17 +26,31 @@ struct Table {
     std::vector<std::vector<Cell>> rows;
 };
 
-struct StreamReport {
-    std::string stream;
+// The tables of one stream or reactor.
+struct Section {
+    std::string kind;  // "stream", "reactor"
+    std::string name;
+    std::string heading;                                     // as text shows it
+    std::vector<std::pair<std::string, std::string>> facts;  // keys and texts that tell more of it
     std::vector<Table> tables;
 };
 
 struct Report {
     std::string title;
-    std::vector<StreamReport> streams;
+    std::string file;
+    std::vector<PlacedMessage> messages;  // shown by JSON alone: in the other formats they go elsewhere
+    std::vector<Table> input;             // what was built from the polymer paragraph
+    std::vector<Section> sections;
 };
 
-Report make_report(const Case& input, const std::vector<StreamResults>& results);
+Report make_report(const Case& input, const CheckedInput& checked, const Results& results);
+
+// What was built, and nothing but the messages when there is one.
+Report make_input_report(const Case& input, const CheckedInput& checked);
+
+// The composition of one stream on the basis `from` and on the basis `to`.
+Report make_conversion_report(const Case& input, const CheckedInput& checked, const std::string& stream,
+                              const std::vector<Composition>& compositions);
 
 // One line for each number of the report that is not finite.
 std::vector<std::string> not_finite(const Report& report);

@@ -4,8 +4,10 @@
 #include <string>
 #include <vector>
 
-#include "cli/case.h"
-#include "minihost/host.h"
+#include "cli/bases.h"
+#include "cli/chain_weights.h"
+#include "cli/reactors.h"
+#include "cli/segment_properties.h"
 
 namespace cli {
 
@@ -33,9 +35,18 @@ struct StreamResults {
     std::string stream;
     std::vector<ChainAverages> averages;
     std::vector<SegmentShare> shares;
+    std::vector<Composition> compositions;
+    SegmentCountMatrix segment_counts;
+    std::vector<WeightComparison> chain_weights;
+    std::vector<ChainProperties> properties;
+};
+
+struct Results {
+    std::vector<StreamResults> streams;
+    std::vector<ReactorResults> reactors;
 };
 
 // Selects the streams of the case one after another and asks the library's routines about each.
-std::vector<StreamResults> evaluate(const Case& input, minihost::Host& host);
+Results evaluate(const Case& input, minihost::Host& host);
 
 }  // namespace cli

@@ -1,0 +1,34 @@
+// The polymer that is made between two streams.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/case.h"
+#include "minihost/host.h"
+
+namespace cli {
+
+// What the outlet holds beyond the inlet, of one site type or in total.
+struct PolymerMade {
+    std::string site;            // "1", "2", …, "total"
+    double mass_flow;            // kg/h
+    double mean_segment_weight;  // g/mol
+    double mn;                   // g/mol
+    double mw;                   // g/mol
+    double dpn;
+    double dpw;
+    double pdi;
+};
+
+struct ReactorResults {
+    std::string reactor;
+    std::string inlet;
+    std::string outlet;
+    std::vector<PolymerMade> made;
+};
+
+// Site types are told apart when every polymer of the case carries their moments and segment flows.
+std::vector<ReactorResults> evaluate_reactors(const Case& input, minihost::Host& host);
+
+}  // namespace cli

@@ -1,0 +1,120 @@
+#include "cli/report_tables.h"
+
+#include <fmt/format.h>
+
+namespace cli {
+
+namespace {
+
+std::string heading(Basis basis)
+{
+    switch (basis) {
+        case Basis::apparent:
+            return "Composition on the apparent basis";
+        case Basis::true_chains:
+            return "Composition on the true basis: polymers by their chains";
+        case Basis::segment:
+            return "Composition on the segment basis: chains by their segments";
+    }
+    return {};
+}
+
+}  // namespace
+
+Table composition_table(const Composition& composition)
+{
+    Table table{fmt::format("{}_composition", text(composition.basis)),
+                heading(composition.basis),
+                {{"component", "Component", ""},
+                 {"class", "Class", ""},
+                 {"mole_flow", "Mole flow", "kmol/h"},
+                 {"mass_flow", "Mass flow", "kg/h"},
+                 {"mole_fraction", "Mole fraction", "1"},
+                 {"mass_fraction", "Mass fraction", "1"}},
+                {}};
+    for (const auto& a : composition.amounts)
+        table.rows.push_back({a.component, std::string{text(a.kind)}, a.mole_flow, a.mass_flow,
+                              a.mole_fraction, a.mass_fraction});
+    return table;
+}
+
+Table closure_table(const std::vector<Composition>& compositions)
+{
+    Table table{"closures",
+                "Sums, and the mass flow against that of the first basis",
+                {{"basis", "Basis", ""},
+                 {"mole_fraction_sum", "Mole fractions", "1"},
+                 {"mass_fraction_sum", "Mass fractions", "1"},
+                 {"mole_flow", "Mole flow", "kmol/h"},
+                 {"mass_flow", "Mass flow", "kg/h"},
+                 {"mass_difference", "Relative difference", "1"}},
+                {}};
+    if (compositions.empty() || compositions.front().amounts.empty()) return table;
+    for (const auto& c : closures(compositions))
+        table.rows.push_back({std::string{text(c.basis)}, c.mole_fraction_sum, c.mass_fraction_sum,
+                              c.mole_flow, c.mass_flow, c.mass_difference});
+    return table;
+}
+
+Table segment_count_table(const SegmentCountMatrix& matrix)
+{
+    Table table{"segment_counts", "Segments per chain", {{"component", "Component", ""}}, {}};
+    for (const auto& segment : matrix.segments) table.columns.push_back({segment, segment, "1"});
+    for (const auto& chain : matrix.chains) {
+        std::vector<Cell> row{chain.component};
+        row.insert(row.end(), chain.counts.begin(), chain.counts.end());
+        table.rows.push_back(std::move(row));
+    }
+    return table;
+}
+
+Table chain_weight_table(const std::vector<WeightComparison>& weights)
+{
+    Table table{"chain_weights",
+                "Chain weights from segments per chain and from attributes",
+                {{"component", "Component", ""},
+                 {"average", "Average", ""},
+                 {"from_counts", "From segments", "g/mol"},
+                 {"from_attributes", "From attributes", "g/mol"},
+                 {"difference", "Relative difference", "1"}},
+                {}};
+    for (const auto& w : weights)
+        table.rows.push_back({w.component, w.average, w.from_counts, w.from_attributes, w.difference});
+    return table;
+}
+
+Table property_table(const std::vector<Property>& properties, const std::vector<ChainProperties>& values)
+{
+    Table table{"properties",
+                "Properties of chains by their segments",
+                {{"component", "Component", ""}, {"class", "Class", ""}},
+                {}};
+    for (const auto& property : properties)
+        table.columns.push_back({property.name.id, property.name.id, property.unit});
+    for (const auto& chain : values) {
+        std::vector<Cell> row{chain.component, std::string{text(chain.kind)}};
+        row.insert(row.end(), chain.values.begin(), chain.values.end());
+        table.rows.push_back(std::move(row));
+    }
+    return table;
+}
+
+Table polymer_made_table(const std::vector<PolymerMade>& made)
+{
+    Table table{"polymer_made",
+                "Polymer made",
+                {{"site", "Site type", ""},
+                 {"mass_flow", "Mass flow", "kg/h"},
+                 {"mean_segment_weight", "Mean segment weight", "g/mol"},
+                 {"mn", "Mn", "g/mol"},
+                 {"mw", "Mw", "g/mol"},
+                 {"dpn", "DPN", "1"},
+                 {"dpw", "DPW", "1"},
+                 {"pdi", "PDI", "1"}},
+                {}};
+    for (const auto& m : made)
+        table.rows.push_back({m.site, m.mass_flow, m.mean_segment_weight, m.mn, m.mw, m.dpn, m.dpw, m.pdi});
+    return table;
+}
+
+}  // namespace cli
