@@ -3,10 +3,7 @@
 #include <polyprops/host.h>
 #include <polyprops/polyprops.h>
 
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-
+#include "support/stored.h"
 #include "support/world.h"
 
 namespace {
@@ -31,13 +28,6 @@ void write_site_results(World& world, Int sites)
                    r[3].data(), r[4].data(), r[5].data(), r[6].data());
 }
 
-std::string stored(const std::string& name)
-{
-    std::stringstream content;
-    content << std::ifstream(std::filesystem::path(__FILE__).parent_path() / name).rdbuf();
-    return content.str();
-}
-
 // Words 2 to 4: current block, next data set, next block.
 std::vector<Int> counters()
 {
@@ -53,7 +43,7 @@ TEST(DistributionSummary, TiesEveryBlockToItsAxesAndGoesOnNumbering)
     plot(world, {2, 4}, {0.25, 0.5, 1, 2, 3, 4}, 2, 1);
     plot(world, {3}, {1}, 0, 2);  // lengths are scaled by a switch of 1 alone
     plot(world, {}, {}, 0, 0);
-    EXPECT_EQ(summary.text(), stored("distribution_tokens.txt"));
+    EXPECT_EQ(summary.text(), support::stored(__FILE__, "distribution_tokens.txt"));
     EXPECT_EQ(counters(), (std::vector<Int>{38, 22, 39}));
 }
 
@@ -63,7 +53,7 @@ TEST(SiteSummary, WritesSeparatorsAfterTheFirstResultOnly)
     auto& summary = world.host().summary();
     ST_SUMGLOBAL[3] = 5;
     for (const Int sites : {2, 0, -1}) write_site_results(world, sites);
-    EXPECT_EQ(summary.text(), stored("site_tokens.txt"));
+    EXPECT_EQ(summary.text(), support::stored(__FILE__, "site_tokens.txt"));
     EXPECT_EQ(counters(), (std::vector<Int>{7, 1, 8}));
 }
 
