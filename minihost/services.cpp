@@ -204,7 +204,7 @@ void ST_PRINT_ERROR(const int64_t* line_count)
 void RP_RESERVE_LINES(const int64_t* lines, const int64_t* new_page, const int64_t* three,
                       const int64_t* rptglobal2)
 {
-    note("RP_RESERVE_LINES", *lines);
+    note("RP_RESERVE_LINES", *lines, nullptr, *new_page);
     expect("RP_RESERVE_LINES", "argument 3", *three, 3);
     expect("RP_RESERVE_LINES", "argument 4", *rptglobal2, ST_RPTGLOBAL[2 - 1]);
     Host::active().report().reserve(*lines, *new_page == 1);

@@ -399,6 +399,7 @@ POLYPROPS_API void POLY_POLYRESULTS(const double* sv1, const double* sv2, const 
  * - A chain length of exactly 0 counts as 1.0.
  * - The estimate of Z without "ZMOM" takes SFLOW at the entry numbers of the end-segment list: it is half the
  *   flow of the end segments when these lead the segment list.
+ * - An attribute that the polymer does not carry counts as 0.
  */
 POLYPROPS_API void POLY_GETRAT(const int64_t* sel, const int64_t* n, const int64_t* idx, const double* x,
                                double* rat);
@@ -440,7 +441,8 @@ POLYPROPS_API void POLY_GETCRY(const void* unused1, const int64_t* n, const int6
  *
  *   N              in      number of listed components
  *   IDX(N)         in      component index of each entry
- *   MW(component)  in      molecular weights of the apparent basis [g/mol]
+ *   MW(component)  in      molecular weights of the apparent basis; read for polymers and oligomers only
+ *                          [g/mol]
  *   XA(N)          in      apparent mole fractions, by position [1]
  *   XT(N)          out     true mole fractions, by position [1]
  *
@@ -560,11 +562,12 @@ POLYPROPS_API void POLY_XTTOWT(const int64_t* n, const double* xt, const double*
  *   SEL      in      attribute selector, passed on to the host's attribute search
  *   J        in      component index
  *   NSEG     out     number of segments found
- *   ISEG(*)  out     component index of each, in segment-list order; at least the length of the segment list
+ *   ISEG(*)  out     component index of each, in segment-list order, column after column; room for the
+ *                    segment list, times the columns of an oligomer that stands in several
  *   CNT(*)   out     segments per molecule of J; as long as ISEG [1]
  *
- * - Without a polymer block, or with neither polymers nor oligomers in the run, nothing is written, NSEG
- *   included.
+ * - Without a polymer block, or with a polymer list and an oligomer list that are both empty, nothing is
+ *   written, NSEG included.
  * - A polymer without "ZMOM", or whose "ZMOM" is not above 0, counts 1.0 of each segment. "SFLOW" not carried
  *   counts as 0; missing values are not left out.
  * - An oligomer is found by the oligomer list alone; standing there more than once it gives the segments of
@@ -597,11 +600,13 @@ POLYPROPS_API void POLY_GETSEG(const int64_t* sel, const int64_t* j, int64_t* ns
  *   with fraction 1; without any segment component it is treated as a conventional one. One that is not
  *   listed has -1 in KSEG(j, 1).
  * - DPN is 1.0, and every polymer or oligomer is made of the first segment component, without a polymer block
- *   or with neither polymers nor oligomers in the run.
+ *   or with a polymer list and an oligomer list that are both empty.
  * - A conventional component is appended without looking for it first, and its later position stays in IPOS;
  *   a segment is appended once. The output list never exceeds NC entries.
  * - An oligomer in several columns of the oligomer table takes the last with a count above 0, beside the
  *   amounts of earlier ones. A component listed twice is scaled twice.
+ * - N < 1: the matrices and lists are cleared all the same, every polymer and oligomer keeps the mark -1,
+ *   NOUT is 0.
  */
 POLYPROPS_API void POLY_GETPSEG(const int64_t* n, const int64_t* idx, const int64_t* nc, const double* fac,
                                 double* dpn, int64_t* kseg, double* fseg, int64_t* nout, int64_t* idxout,
@@ -618,7 +623,7 @@ POLYPROPS_API void POLY_GETPSEG(const int64_t* n, const int64_t* idx, const int6
  *   SCM(LD,*)   in      segments of component k per molecule of j [1]
  *   SF(LD)      out     mole fraction of each segment in J, by component index [1]
  *
- * - SF is 0 for every component that is not in ISEG; a sum of exactly 0 leaves the products undivided.
+ * - SF is 0 for every component that is not in ISEG; a sum of exactly 0 leaves the counts undivided.
  * - Reads nothing but its arguments.
  */
 POLYPROPS_API void POLY_GETMFS(const int64_t* ld, const int64_t* j, const int64_t* nseg, const int64_t* iseg,
@@ -684,7 +689,7 @@ POLYPROPS_API void POLY_XPTOXS(const int64_t* n, const int64_t* idx, const doubl
  *   ISEG(NSEG)        in      component index of each segment
  *   NOUT              out     length of the output list
  *   IDXOUT(*)         out     component index of each output entry; room for N entries and one per segment
- *   XOUT(*)           out     amount of each output entry; as long as IDXOUT [mol]
+ *   XOUT(*)           out     mole fraction of each output entry; as long as IDXOUT [1]
  *
  * - Entries stand in the order of first appearance. A conventional entry is appended without looking for an
  *   earlier one; the amount of a segment goes to every entry that holds its component, and a segment that
@@ -748,6 +753,7 @@ POLYPROPS_API void POLY_PFTOSF(const int64_t* n, const int64_t* idx, const doubl
  * - A weight sum of exactly 0 leaves the numerator: 0 for a target that nothing reaches.
  * - An unflagged entry replaces what earlier entries gave its target; later ones add to it.
  * - Reads nothing but its arguments. NOUT < 1: nothing is written.
+ * - N < 1: POUT and WSUM are 0 over NOUT entries.
  */
 POLYPROPS_API void POLY_PTTOPS(const int64_t* n, const int64_t* idx, const int64_t* iflag, const double* p,
                                const int64_t* ld, const double* scm, const int64_t* nseg, const int64_t* iseg,
@@ -755,7 +761,7 @@ POLYPROPS_API void POLY_PTTOPS(const int64_t* n, const int64_t* idx, const int64
 
 /* A property of listed components as the mean over their segments.
  *
- *   Q(i) = Σ_m w(m) QS(m) / Σ SFLOW for a polymer, w = SFLOW
+ *   Q(i) = Σ_m (w(m) QS(m) / T) for a polymer, w = SFLOW, T = Σ SFLOW
  *   Q(i) = Σ_m (count(m) / Σ count) QS(m) for a component in the oligomer list, QS otherwise
  *
  *   N              in      number of listed components
@@ -770,6 +776,8 @@ POLYPROPS_API void POLY_PTTOPS(const int64_t* n, const int64_t* idx, const int64
  * - Σ SFLOW not above the zero bound: the plain mean over the segment list. The counts of an oligomer are not
  *   tested before their sum divides.
  * - N < 1: nothing is written.
+ * - An oligomer whose counts add up to 0 gives a NaN: plain arithmetic stands; in a run without segments it
+ *   gets 0.
  */
 POLYPROPS_API void POLY_QSGTOQ(const int64_t* n, const int64_t* idx, const double* qs, double* q);
 
@@ -791,6 +799,7 @@ POLYPROPS_API void POLY_QSGTOQ(const int64_t* n, const int64_t* idx, const doubl
  *   that is not carried counts as 0.
  * - Neither the counts of an oligomer nor the sum of the weights are tested before they divide.
  * - N < 1: nothing is written.
+ * - An oligomer whose counts, or whose weighted counts, add up to 0 gives a NaN: plain arithmetic stands.
  */
 POLYPROPS_API void POLY_QSTOQA(const double* ws, const int64_t* n, const int64_t* idx, const double* qs,
                                double* q);
@@ -996,6 +1005,8 @@ POLYPROPS_API void POLY_GETPOL3(const int64_t* n, const int64_t* idx, const int6
  *   that stands more than once in the oligomer list is taken column by column. One that is not in the list
  *   has a row of 0.
  * - Without the DPN parameter vector a DPN parameter is 1.0; so is one that is not a number.
+ * - A sum of fractions that is not a number gives equal shares.
+ * - N < 1: SCM is cleared and NSEG is written.
  */
 POLYPROPS_API void POLY_GETPOL(const int64_t* sel, const int64_t* nc, const double* mw, int64_t* nseg,
                                int64_t* iseg, const int64_t* n, const int64_t* idx, double* scm);
@@ -1034,6 +1045,10 @@ POLYPROPS_API void POLY_GETPOL(const int64_t* sel, const int64_t* nc, const doub
  * - Without the DPN parameter vector a DPN parameter is 1.0; so is one that is not a number.
  * - Without a polymer block NSEG is 0 and the rows of polymers and oligomers are 0; polymers still take
  *   DPN(i) from their attributes, the estimate of Z and Σ SFLOW being 0.
+ * - An oligomer that is not in the oligomer list has a row of zeros; its DPN is its parameter, 1.0 when that
+ *   was left at 1.
+ * - With a polymer or oligomer listed, DPN beyond N, ISEG beyond NSEG and all other elements of SCM are 0.
+ * - A sum of fractions that is not a number gives equal shares.
  */
 POLYPROPS_API void POLY_GETPALL(const int64_t* sel, const int64_t* n, const int64_t* idx, const int64_t* nc,
                                 int64_t* nseg, int64_t* iseg, int64_t* npol, int64_t* iflag, double* scm,

@@ -14,7 +14,6 @@ namespace polyprops::basis {
 
 namespace {
 
-constexpr unsigned list_make_up_parts = segment_make_up_parts | chain::degree_of_polymerization_parts;
 constexpr Int unresolved = -1;
 
 // Segments by component: column 1 of a row holds their number, the columns behind it their indices.
@@ -37,13 +36,22 @@ public:
 
     Int index()
     {
-        while (next_ <= component_count_ && (CC_IS_SEGMENT(&next_) & 1) == 0) ++next_;
-        return next_ <= component_count_ ? next_ : 0;
+        if (index_ == unasked) index_ = find();
+        return index_;
     }
 
 private:
+    static constexpr Int unasked = -1;
+
+    Int find() const
+    {
+        for (Int j = 1; j <= component_count_; ++j)
+            if ((CC_IS_SEGMENT(&j) & 1) != 0) return j;
+        return 0;
+    }
+
     Int component_count_;
-    Int next_ = 1;
+    Int index_ = unasked;
 };
 
 template <class T>
@@ -117,7 +125,8 @@ void settle_row(const MakeUp& make_up, const PolymerData& data, const Species& s
 void settle_listed(const MakeUp& make_up, const ComponentList& components, Int component_count,
                    Vector<Real> dpn, ByComponent<Int> listed_at)
 {
-    const auto data = PolymerData::locate(list_make_up_parts);
+    auto data = PolymerData::locate(segment_make_up_parts);
+    if (data.lists_chains()) data.ensure(chain::degree_of_polymerization_parts);
     FirstSegment first_segment{component_count};
     for (Int i = 1; i <= components.count(); ++i) {
         const Species species{own_selector, components(i)};

@@ -100,6 +100,7 @@ void POLY_GETXSUB(const void* /*UNUSED1*/, const Real* X, const Int* N, const In
 
 void POLY_WRKPOINT(Int* LAST, const Int* N, const Int* LEN, Int* PTR)
 {
+    if (*N < 1) return;
     *LAST = basis::lay_out(*LAST, *N, Vector{LEN, *N}, Vector{PTR, *N});
 }
 

@@ -30,10 +30,11 @@ Real write_values(Vector<Real> out, Int n, Value value)
     return total;
 }
 
-Real chain_amount(const PolymerData& data, Component c, ByComponent<const Real> weights, Real amount)
+Real chain_amount(PolymerData& data, Component c, ByComponent<const Real> weights, Real amount)
 {
     const Species species{own_selector, c};
     if (!species.has_chains()) return amount;
+    data.ensure(chain::molecular_weight_parts);
     const Real chain_weight = chain::number_average_weight(data, species);
     return chain_weight == 0.0 ? amount : weights(c) * amount / chain_weight;
 }
@@ -41,7 +42,7 @@ Real chain_amount(const PolymerData& data, Component c, ByComponent<const Real> 
 void fractions_from_attributes(const ComponentList& components, ByComponent<const Real> weights,
                                Vector<const Real> apparent, Vector<Real> out)
 {
-    const auto data = PolymerData::locate(chain::molecular_weight_parts);
+    auto data = PolymerData::locate(0);
     const Int n = components.count();
     const Real total = write_values(out, n, [&](Int i) {
         return data.exists() ? chain_amount(data, components(i), weights, apparent(i)) : apparent(i);

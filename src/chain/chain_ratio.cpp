@@ -28,9 +28,9 @@ Real oligomer_chain_length(const PolymerData& data, Component oligomer)
 
 Real chain_length(const PolymerData& data, const Species& species)
 {
-    if (species.is_polymer()) return polymer_chain_length(data, species);
-    if (!species.is_oligomer()) return 1.0;
-    const Real length = oligomer_chain_length(data, species.component());
+    if (!species.has_chains()) return 1.0;
+    const Real length = species.is_polymer() ? polymer_chain_length(data, species)
+                                             : oligomer_chain_length(data, species.component());
     return length == 0.0 ? 1.0 : length;
 }
 

@@ -56,9 +56,10 @@ std::optional<PolydispersityMoments> polydispersity_moments(const PolymerData& d
 {
     if (!data.exists() || keeps_polydispersity_parameter() || data.polymers().count() < 1) return {};
     if (!species.is_polymer()) return {};
-    const Attribute zeroth_moment = species.attribute(AttributeName::zmom);
     const Attribute second_moment = species.attribute(AttributeName::smom);
-    if (!second_moment.is_present() || !zeroth_moment.is_present()) return {};
+    if (!second_moment.is_present()) return {};
+    const Attribute zeroth_moment = species.attribute(AttributeName::zmom);
+    if (!zeroth_moment.is_present()) return {};
     const Real chains = zeroth_moment.value();
     if (!is_between_bounds(chains)) return {};
     const Attribute flows = species.attribute(AttributeName::sflow);

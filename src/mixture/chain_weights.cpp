@@ -76,6 +76,7 @@ void POLY_GETWWP(const Int* N, const Int* IDX, const Int* LD, const Real* MW, co
                  const Int* ISEG, const Int* IFLAG, const Real* SCM, Real* OUT)
 {
     const ComponentList components{*N, IDX};
+    if (components.count() < 1) return;
     const auto data = mixture::locate_for_polydispersity(components);
     const mixture::WeighedCounts chains{ByComponent{MW}, {*NSEG, ISEG}, FlagArray{IFLAG}, {SCM, *LD}};
     const Vector out{OUT, *N};

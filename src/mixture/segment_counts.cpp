@@ -129,8 +129,12 @@ Real write_scaled_polymer(const PolymerData& data, const Species& polymer, Segme
     const ComponentList& segments = data.segments();
     const Real length = length_within_bounds(data, polymer);
     const Attribute values = fraction_values(polymer);
-    write_row(data, counts, j, [&](Int m) { return is_missing(values(m)) ? 0.0 : values(m); });
-    const Real total = counts.row_sum(j, segments);
+    Real total = 0.0;
+    write_row(data, counts, j, [&](Int m) {
+        const Real value = is_missing(values(m)) ? 0.0 : values(m);
+        total += value;
+        return value;
+    });
     write_row(data, counts, j, [&](Int m) {
         return total > zero_bound() ? counts(j, segments(m)) * length / total
                                     : length / static_cast<Real>(segments.count());
@@ -144,10 +148,8 @@ Real write_scaled_oligomer(const PolymerData& data, Component j, SegmentCountMat
     Real total = 0.0;
     visit_columns(data, j, [&](Int e) {
         total += chain::oligomer_length(data, e);
-        write_row(data, counts, j, [&](Int m) {
-            const Real count = data.oligomers().segments(m, e);
-            return total != 0.0 ? count / total : count;
-        });
+        write_row(data, counts, j, [&](Int m) { return data.oligomers().segments(m, e); });
+        if (total != 0.0) write_row(data, counts, j, [&](Int m) { return counts(j, segments(m)) / total; });
     });
     const Real parameter = default_length(j);
     const bool left_at_one = std::abs(parameter - 1.0) <= 1e-10;

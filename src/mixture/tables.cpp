@@ -17,9 +17,6 @@ namespace polyprops::mixture {
 
 namespace {
 
-constexpr unsigned table_parts =
-    chain::degree_of_polymerization_parts | chain::mean_segment_weight_parts | chain::segment_fraction_parts;
-
 // The arrays that the tables are written to, all of the caller.
 struct Tables {
     Int component_count;

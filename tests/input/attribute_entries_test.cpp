@@ -91,11 +91,14 @@ TEST(AttributeEntries, CoverEveryPolymerAndCatalystWhetherAcceptedOrNot)
 TEST(AttributeEntries, OfOneComponentAreAllForwarded)
 {
     CheckedParagraph world;
-    const BlockId paragraph_before = ST_TABLES[1];
     check(world, {{"Q", {"ZMOM", "SFLOW"}},
                   {"P", {"ZMOM", "SFLOW", "CPSFLOW", "CVSFLOW"}},
                   {"Q", {"SFLOW", "ZMOM", "DPN"}}});
     EXPECT_EQ(world.forwarded(), "Q:ZMOM,SFLOW P:ZMOM,SFLOW,CPSFLOW,CVSFLOW Q:SFLOW,ZMOM,DPN");
-    EXPECT_NE(ST_TABLES[1], paragraph_before);
     EXPECT_EQ(world.integers(ST_TABLES[1], 3, 1), (Ints{4})) << "the current paragraph is current again";
+
+    const BlockId copy = world.block(word::attribute_sentence);
+    check(world, {{"W", {"DPN"}}});
+    EXPECT_NE(world.block(word::attribute_sentence), copy)
+        << "the block names the copy of the latest sentence";
 }

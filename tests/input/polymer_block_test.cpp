@@ -15,11 +15,11 @@ const AttributeSentence attributes{{{"P", {"ZMOM", "SFLOW"}}, {"Q", {"ZMOM", "SF
 
 }  // namespace
 
-TEST(PolymerParagraph, ListsSegmentsByIndexAndTypesByOrderOfInput)
+TEST(PolymerParagraph, ListsSegmentsByIndexAndTheRestByOrderOfInput)
 {
     CheckedParagraph world;
     world.check(
-        {polymer,
+        {PolymerSentence{{"Q", "X", "P", "Q"}},
          SegmentSentence{{{"E", 1}, {"B", 4}, {"A", 1}, {"D", 3}, {"X", 1}, {"C", 9}, {"B", 2}, {"W", 2}}},
          attributes});
     EXPECT_EQ(world.list(word::segments), "W A B C D E");
@@ -28,15 +28,8 @@ TEST(PolymerParagraph, ListsSegmentsByIndexAndTypesByOrderOfInput)
     EXPECT_EQ(world.list(word::type_2), "W");
     EXPECT_EQ(world.list(word::type_3), "D");
     EXPECT_EQ(world.list(word::type_4), "B");
-    EXPECT_EQ(world.message_numbers(), (Ints{6, 11}));
-}
-
-TEST(PolymerParagraph, ListsPolymersInOrderOfInputEachOnce)
-{
-    CheckedParagraph world;
-    world.check({PolymerSentence{{"Q", "X", "P", "Q"}}, SegmentSentence{{{"A", 2}}}, attributes});
     EXPECT_EQ(world.list(word::polymers), "Q P");
-    EXPECT_EQ(world.message_numbers(), (Ints{4, 5}));
+    EXPECT_EQ(world.message_numbers(), (Ints{4, 5, 6, 11}));
 }
 
 TEST(PolymerParagraph, LaysOligomersByIndexWithTheLaterOfTwoCounts)
@@ -152,6 +145,9 @@ TEST(PolymerParagraph, AcceptsOneThatNamesNeitherChainsNorSegments)
                            word::end_segments, word::type_2, word::type_3, word::type_4})
         EXPECT_EQ(world.list(list), "") << "word " << list;
     EXPECT_EQ(world.host.paragraph().times_ended(), 1);
+    world.host.paragraph().handle()[0] = 0;
+    world.check({InitiatorSentence{{"I"}}});
+    EXPECT_EQ(world.host.paragraph().times_ended(), 1) << "only a paragraph that asks for it is ended";
 }
 
 TEST(PolymerParagraph, BuildsNothingWhenItEndsEarly)
@@ -183,12 +179,4 @@ TEST(PolymerParagraph, BuildsNothingWhenItEndsEarly)
         EXPECT_LE(world.host.polymer_block(), 0);
         EXPECT_EQ(world.host.paragraph().times_ended(), 0);
     }
-}
-
-TEST(PolymerParagraph, TellsTheHostOfItsEndWhenAsked)
-{
-    CheckedParagraph world;
-    world.host.paragraph().handle()[0] = 0;
-    world.check({polymer, SegmentSentence{{{"A", 2}}}, attributes});
-    EXPECT_EQ(world.host.paragraph().times_ended(), 0);
 }

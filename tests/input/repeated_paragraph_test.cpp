@@ -80,16 +80,3 @@ TEST(RepeatedParagraph, KeepsOligomersOnlyWhileTheirTableFitsTheSegments)
     EXPECT_EQ(world.list(word::oligomers), "R");
     EXPECT_EQ(world.reals(world.block(word::oligomers), 2), (Reals{0, 3}));
 }
-
-TEST(RepeatedParagraph, ReadsAttributeEntriesFromTheLatestCopy)
-{
-    CheckedParagraph world;
-    world.check(
-        {PolymerSentence{{"P"}}, SegmentSentence{{{"A", 2}}}, AttributeSentence{{{"P", {"ZMOM", "SFLOW"}}}}});
-    const BlockId first = world.block(word::attribute_sentence);
-    world.check(
-        {PolymerSentence{{"Q"}}, SegmentSentence{{{"A", 2}}}, AttributeSentence{{{"Q", {"ZMOM", "SFLOW"}}}}});
-    EXPECT_NE(world.block(word::attribute_sentence), first);
-    EXPECT_EQ(world.forwarded(), "Q:ZMOM,SFLOW");
-    EXPECT_TRUE(world.host.messages().printed().empty());
-}

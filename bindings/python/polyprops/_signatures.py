@@ -362,6 +362,7 @@ SIGNATURES = {
             'An oligomer: its DPN parameter (1.0 without the parameter vector); within 1e-10 of 1 its segment count from the oligomer list, if it is in that list. A conventional component: 1.0.',
             'A chain length of exactly 0 counts as 1.0.',
             'The estimate of Z without "ZMOM" takes SFLOW at the entry numbers of the end-segment list: it is half the flow of the end segments when these lead the segment list.',
+            'An attribute that the polymer does not carry counts as 0.',
         ),
     ),
     'POLY_GETISP': Signature(
@@ -401,7 +402,7 @@ SIGNATURES = {
         (
             Argument('N', 'int', 'in', '', 'number of listed components', ''),
             Argument('IDX', 'int', 'in', 'N', 'component index of each entry', ''),
-            Argument('MW', 'real', 'in', 'component', 'molecular weights of the apparent basis', 'g/mol'),
+            Argument('MW', 'real', 'in', 'component', 'molecular weights of the apparent basis; read for polymers and oligomers only', 'g/mol'),
             Argument('XA', 'real', 'in', 'N', 'apparent mole fractions, by position', '1'),
             Argument('XT', 'real', 'out', 'N', 'true mole fractions, by position', '1'),
         ),
@@ -512,11 +513,11 @@ SIGNATURES = {
             Argument('SEL', 'int', 'in', '', "attribute selector, passed on to the host's attribute search", ''),
             Argument('J', 'int', 'in', '', 'component index', ''),
             Argument('NSEG', 'int', 'out', '', 'number of segments found', ''),
-            Argument('ISEG', 'int', 'out', '*', 'component index of each, in segment-list order; at least the length of the segment list', ''),
+            Argument('ISEG', 'int', 'out', '*', 'component index of each, in segment-list order, column after column; room for the segment list, times the columns of an oligomer that stands in several', ''),
             Argument('CNT', 'real', 'out', '*', 'segments per molecule of J; as long as ISEG', '1'),
         ),
         (
-            'Without a polymer block, or with neither polymers nor oligomers in the run, nothing is written, NSEG included.',
+            'Without a polymer block, or with a polymer list and an oligomer list that are both empty, nothing is written, NSEG included.',
             'A polymer without "ZMOM", or whose "ZMOM" is not above 0, counts 1.0 of each segment. "SFLOW" not carried counts as 0; missing values are not left out.',
             'An oligomer is found by the oligomer list alone; standing there more than once it gives the segments of each column in turn.',
             'NSEG = 0 for a conventional component. ISEG is set to 0 over the length of the segment list; CNT beyond NSEG stays untouched.',
@@ -541,9 +542,10 @@ SIGNATURES = {
         (
             'A value counts when it is above 0 and below the missing-value bound. F is SFLOW only when the offset of "SFRAC" is exactly 0; an attribute that is not carried counts as 0.',
             'A listed polymer or oligomer without such a value is made of the first segment component of the host, with fraction 1; without any segment component it is treated as a conventional one. One that is not listed has -1 in KSEG(j, 1).',
-            'DPN is 1.0, and every polymer or oligomer is made of the first segment component, without a polymer block or with neither polymers nor oligomers in the run.',
+            'DPN is 1.0, and every polymer or oligomer is made of the first segment component, without a polymer block or with a polymer list and an oligomer list that are both empty.',
             'A conventional component is appended without looking for it first, and its later position stays in IPOS; a segment is appended once. The output list never exceeds NC entries.',
             'An oligomer in several columns of the oligomer table takes the last with a count above 0, beside the amounts of earlier ones. A component listed twice is scaled twice.',
+            'N < 1: the matrices and lists are cleared all the same, every polymer and oligomer keeps the mark -1, NOUT is 0.',
         ),
     ),
     'POLY_GETMFS': Signature(
@@ -559,7 +561,7 @@ SIGNATURES = {
             Argument('SF', 'real', 'out', 'LD', 'mole fraction of each segment in J, by component index', '1'),
         ),
         (
-            'SF is 0 for every component that is not in ISEG; a sum of exactly 0 leaves the products undivided.',
+            'SF is 0 for every component that is not in ISEG; a sum of exactly 0 leaves the counts undivided.',
             'Reads nothing but its arguments.',
         ),
     ),
@@ -619,7 +621,7 @@ SIGNATURES = {
             Argument('ISEG', 'int', 'in', 'NSEG', 'component index of each segment', ''),
             Argument('NOUT', 'int', 'out', '', 'length of the output list', ''),
             Argument('IDXOUT', 'int', 'out', '*', 'component index of each output entry; room for N entries and one per segment', ''),
-            Argument('XOUT', 'real', 'out', '*', 'amount of each output entry; as long as IDXOUT', 'mol'),
+            Argument('XOUT', 'real', 'out', '*', 'mole fraction of each output entry; as long as IDXOUT', '1'),
         ),
         (
             'Entries stand in the order of first appearance. A conventional entry is appended without looking for an earlier one; the amount of a segment goes to every entry that holds its component, and a segment that none holds is appended.',
@@ -675,12 +677,13 @@ SIGNATURES = {
             'A weight sum of exactly 0 leaves the numerator: 0 for a target that nothing reaches.',
             'An unflagged entry replaces what earlier entries gave its target; later ones add to it.',
             'Reads nothing but its arguments. NOUT < 1: nothing is written.',
+            'N < 1: POUT and WSUM are 0 over NOUT entries.',
         ),
     ),
     'POLY_QSGTOQ': Signature(
         'basis',
         'A property of listed components as the mean over their segments.',
-        'Q(i) = Σ_m w(m) QS(m) / Σ SFLOW for a polymer, w = SFLOW\nQ(i) = Σ_m (count(m) / Σ count) QS(m) for a component in the oligomer list, QS otherwise',
+        'Q(i) = Σ_m (w(m) QS(m) / T) for a polymer, w = SFLOW, T = Σ SFLOW\nQ(i) = Σ_m (count(m) / Σ count) QS(m) for a component in the oligomer list, QS otherwise',
         (
             Argument('N', 'int', 'in', '', 'number of listed components', ''),
             Argument('IDX', 'int', 'in', 'N', 'component index of each entry', ''),
@@ -692,6 +695,7 @@ SIGNATURES = {
             'A flow at or above the missing-value bound counts as 0 in Σ SFLOW and as 1/NSEG in w; "SFLOW" not carried counts as 0.',
             'Σ SFLOW not above the zero bound: the plain mean over the segment list. The counts of an oligomer are not tested before their sum divides.',
             'N < 1: nothing is written.',
+            'An oligomer whose counts add up to 0 gives a NaN: plain arithmetic stands; in a run without segments it gets 0.',
         ),
     ),
     'POLY_QSTOQA': Signature(
@@ -710,6 +714,7 @@ SIGNATURES = {
             'A flow at or above the missing-value bound counts as 1/NSEG. SFLOW is taken when its sum is above the zero bound, SFRAC when its sum is above the zero bound and below the missing-value bound. An attribute that is not carried counts as 0.',
             'Neither the counts of an oligomer nor the sum of the weights are tested before they divide.',
             'N < 1: nothing is written.',
+            'An oligomer whose counts, or whose weighted counts, add up to 0 gives a NaN: plain arithmetic stands.',
         ),
     ),
     'POLY_IDXSPLIT': Signature(
@@ -889,6 +894,8 @@ SIGNATURES = {
             'The estimate of Z without "ZMOM" takes SFLOW at the entry numbers of the end-segment list: it is half the flow of the end segments when these lead the segment list. An attribute that is not carried counts as 0.',
             'An oligomer with one positive count and a DPN parameter above 1.0: that count is the DPN parameter. One that stands more than once in the oligomer list is taken column by column. One that is not in the list has a row of 0.',
             'Without the DPN parameter vector a DPN parameter is 1.0; so is one that is not a number.',
+            'A sum of fractions that is not a number gives equal shares.',
+            'N < 1: SCM is cleared and NSEG is written.',
         ),
     ),
     'POLY_GETPALL': Signature(
@@ -915,6 +922,9 @@ SIGNATURES = {
             'An oligomer whose DPN parameter is within 1e-10 of 1 has DPN(i) = max(1, V); any other has its DPN parameter. V of exactly 0 is not divided by. One that stands more than once in the oligomer list takes its last column, V adding up from column to column.',
             'Without the DPN parameter vector a DPN parameter is 1.0; so is one that is not a number.',
             'Without a polymer block NSEG is 0 and the rows of polymers and oligomers are 0; polymers still take DPN(i) from their attributes, the estimate of Z and Σ SFLOW being 0.',
+            'An oligomer that is not in the oligomer list has a row of zeros; its DPN is its parameter, 1.0 when that was left at 1.',
+            'With a polymer or oligomer listed, DPN beyond N, ISEG beyond NSEG and all other elements of SCM are 0.',
+            'A sum of fractions that is not a number gives equal shares.',
         ),
     ),
     'POLY_GETPMIX': Signature(

@@ -1,0 +1,64 @@
+// Calls a routine with its arguments by address: call(POLY_GETRAT, 1, 2, ids, fractions, ratio).
+#ifndef TESTS_SUPPORT_ARGUMENTS_H
+#define TESTS_SUPPORT_ARGUMENTS_H
+
+#include "support/guarded.h"
+
+namespace support {
+
+using Ints = std::vector<std::int64_t>;
+using Values = std::vector<double>;
+
+/// A segment-count matrix of n components, 0 where nothing is set.
+struct CountMatrix {
+    explicit CountMatrix(std::int64_t components) : n(components), elements(static_cast<std::size_t>(n * n))
+    {
+    }
+    double& at(std::int64_t row, std::int64_t column)
+    {
+        return elements.at(static_cast<std::size_t>((column - 1) * n + row - 1));
+    }
+
+    const double* data() const { return elements.data(); }
+
+    std::int64_t n;
+    Values elements;
+};
+
+// Integers and reals stand for themselves, vectors for their elements, nullptr for an argument that is not
+// read.
+inline std::int64_t* address(std::int64_t& value)
+{
+    return &value;
+}
+inline const std::int64_t* address(const std::int64_t& value)
+{
+    return &value;
+}
+inline double* address(double& value)
+{
+    return &value;
+}
+inline std::nullptr_t address(std::nullptr_t)
+{
+    return nullptr;
+}
+inline const double* address(const double* values)
+{
+    return values;
+}
+template <typename Array>
+auto address(Array& values) -> decltype(values.data())
+{
+    return values.data();
+}
+
+template <typename Routine, typename... Arguments>
+void call(Routine* routine, Arguments&&... arguments)
+{
+    routine(address(arguments)...);
+}
+
+}  // namespace support
+
+#endif
