@@ -14,6 +14,7 @@ constexpr std::size_t gap = 2;
 std::string shown(const Cell& cell)
 {
     if (const auto* value = std::get_if<double>(&cell)) return fmt::format("{:.6g}", *value);
+    if (const auto* value = std::get_if<Int>(&cell)) return fmt::format("{}", *value);
     return std::get<std::string>(cell);
 }
 
@@ -69,7 +70,7 @@ std::string format_text(const Report& report)
         if (std::ranges::all_of(section.tables, [](const Table& t) { return t.rows.empty(); }))
             text += fmt::format("\nNothing flows in this {}.\n", section.kind);
         for (const auto& table : section.tables)
-            if (!table.rows.empty()) text += fmt::format("\n{}\n{}", table.heading, aligned(table));
+            if (!table.rows.empty() && !table.is_long) text += fmt::format("\n{}\n{}", table.heading, aligned(table));
     }
     return text;
 }

@@ -51,6 +51,13 @@ std::string_view expectation(Range range)
     return {};
 }
 
+std::string expectation(WholeRange range)
+{
+    const WholeRange any;
+    if (range.least == any.least && range.greatest == any.greatest) return "a whole number";
+    return fmt::format("a whole number from {} to {}", range.least, range.greatest);
+}
+
 bool fits(double value, Range range)
 {
     if (!std::isfinite(value)) return false;
@@ -69,6 +76,14 @@ std::optional<double> read_number(const Entry& entry, Range range, Diagnostics& 
 {
     const auto value = entry.node->is_number() ? entry.node->value<double>() : std::nullopt;
     if (value && fits(*value, range)) return value;
+    report(entry, expectation(range), diagnostics);
+    return {};
+}
+
+std::optional<std::int64_t> read_whole_number(const Entry& entry, WholeRange range, Diagnostics& diagnostics)
+{
+    const auto* value = entry.node->as_integer();
+    if (value && value->get() >= range.least && value->get() <= range.greatest) return value->get();
     report(entry, expectation(range), diagnostics);
     return {};
 }
@@ -122,6 +137,12 @@ std::optional<double> TableReader::number(std::string_view key, Range range)
     return found ? read_number(*found, range, *diagnostics_) : std::nullopt;
 }
 
+std::optional<std::int64_t> TableReader::whole_number(std::string_view key, WholeRange range)
+{
+    const auto found = entry(key);
+    return found ? read_whole_number(*found, range, *diagnostics_) : std::nullopt;
+}
+
 std::optional<std::string> TableReader::text(std::string_view key)
 {
     const auto found = entry(key);
@@ -149,6 +170,13 @@ void TableReader::missing(std::string_view key, std::string_view expected)
 std::optional<double> TableReader::required_number(std::string_view key, Range range)
 {
     const auto value = number(key, range);
+    if (!value) missing(key, expectation(range));
+    return value;
+}
+
+std::optional<std::int64_t> TableReader::required_whole_number(std::string_view key, WholeRange range)
+{
+    const auto value = whole_number(key, range);
     if (!value) missing(key, expectation(range));
     return value;
 }

@@ -6,6 +6,8 @@
 
 #include <toml++/toml.h>
 
+#include <cstdint>
+#include <limits>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,6 +18,12 @@ namespace cli {
 
 // What a number has to be besides finite.
 enum class Range { any, not_negative, positive };
+
+// Whole numbers from `least` to `greatest`.
+struct WholeRange {
+    std::int64_t least = std::numeric_limits<std::int64_t>::min();
+    std::int64_t greatest = std::numeric_limits<std::int64_t>::max();
+};
 
 // A value of the file with its key path and its place.
 struct Entry {
@@ -31,6 +39,7 @@ public:
 
     // Absent: empty and no diagnostic.
     std::optional<double> number(std::string_view key, Range range);
+    std::optional<std::int64_t> whole_number(std::string_view key, WholeRange range);
     std::optional<std::string> text(std::string_view key);
     std::optional<TableReader> table(std::string_view key);
     std::vector<Entry> array(std::string_view key);
@@ -38,6 +47,7 @@ public:
 
     // Absent: a diagnostic that says what was expected.
     std::optional<double> required_number(std::string_view key, Range range);
+    std::optional<std::int64_t> required_whole_number(std::string_view key, WholeRange range);
     std::optional<std::string> required_text(std::string_view key);
 
     // Every key of a table whose keys are free, in the order of the file.
@@ -62,6 +72,7 @@ private:
 
 // The same for an entry that is already at hand.
 std::optional<double> read_number(const Entry& entry, Range range, Diagnostics& diagnostics);
+std::optional<std::int64_t> read_whole_number(const Entry& entry, WholeRange range, Diagnostics& diagnostics);
 std::optional<std::string> read_text(const Entry& entry, Diagnostics& diagnostics);
 std::optional<TableReader> read_table(const Entry& entry, Diagnostics& diagnostics);
 std::vector<Entry> read_array(const Entry& entry, Diagnostics& diagnostics);

@@ -1,0 +1,31 @@
+// Every number of a report with what leads to it.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/report.h"
+
+namespace cli {
+
+struct Number {
+    const Section* section;
+    const Table* table;
+    std::string item;  // what else tells the rows of a table apart: a basis, a curve, a temperature
+    std::string component;
+    std::string segment;
+    const Column* quantity;
+    Cell value;  // double or Int
+
+    // The path that a sweep heads a column with.
+    std::string key() const;
+    std::string text() const;
+};
+
+// In the order of the report, which has to outlive them.
+std::vector<Number> numbers(const Report& report);
+
+// A field with a comma, a quote or a line end stands in quotes, its own quotes doubled.
+std::string csv_field(const std::string& text);
+
+}  // namespace cli
