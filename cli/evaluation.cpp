@@ -42,17 +42,40 @@ const DistributionResults& Evaluation::distribution(const std::string& name) con
                                                         suggestion(name, names))};
 }
 
+namespace {
+
+// False when the case cannot go on.
+bool prepare(Evaluation& e)
+{
+    e.checked = check_input(e.input);
+    for (const auto& message : e.checked.messages)
+        for (const auto& line : lines(message, e.input.file)) e.errors.push_back(line);
+    const auto unfit = add_streams(e.input, e.checked);
+    for (const auto& line : unfit.lines(e.input.file)) e.errors.push_back(line);
+    // Values need not fit what is left of a paragraph in error; those of a good one are themselves in error.
+    return unfit.empty() || !e.checked.messages.empty();
+}
+
+void add(const std::vector<std::string>& lines, const std::string& file, std::vector<std::string>& all)
+{
+    for (const auto& line : lines) all.push_back(fmt::format("{}: {}", file, line));
+}
+
+}  // namespace
+
 Evaluation evaluate_case(Case input, const MeasuredCurve* measured)
 {
     Evaluation e;
     e.input = std::move(input);
-    e.host = load(e.input);
-    e.report = make_report(e.input, evaluate(e.input, *e.host));
-    e.distributions = evaluate_distributions(e.input, *e.host);
+    e.has_results = prepare(e);
+    if (!e.has_results) return e;
+    auto& host = *e.checked.host;
+    e.report = make_report(e.input, e.checked, evaluate(e.input, host));
+    e.distributions = evaluate_distributions(e.input, host);
     add_distributions(e, measured);
     for (const auto& results : evaluate_parameters(e.input)) e.report.sections.push_back(parameter_section(results));
-    e.errors = not_finite(e.report);
-    e.notes = disagreements(e.distributions);
+    add(not_finite(e.report), e.input.file, e.errors);
+    add(disagreements(e.distributions), e.input.file, e.notes);
     return e;
 }
 

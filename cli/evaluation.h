@@ -1,7 +1,6 @@
 // A case evaluated: from its text to its report.
 #pragma once
 
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -19,17 +18,18 @@ struct MeasuredCurve {
 
 struct Evaluation {
     Case input;
-    std::unique_ptr<minihost::Host> host;
+    CheckedInput checked;
+    bool has_results = false;
     std::vector<DistributionResults> distributions;
     Report report;
-    std::vector<std::string> errors;  // lines without the name of the case; the results are incomplete
-    std::vector<std::string> notes;   // the same; the results stand
+    std::vector<std::string> errors;  // lines to print: what was dropped, refused or did not come out finite
+    std::vector<std::string> notes;   // the same, of results that stand
 
     // The named distribution, the only one for an empty name. Throws std::runtime_error.
     const DistributionResults& distribution(const std::string& name) const;
 };
 
-// The case must be free of errors. `measured` may be null.
+// The case must be free of errors in its file. Only one evaluation exists at a time. `measured` may be null.
 Evaluation evaluate_case(Case input, const MeasuredCurve* measured = nullptr);
 
 }  // namespace cli

@@ -54,7 +54,7 @@ void summarize(const std::string& stream, Host& host)
 
 void publish_all(Evaluation& e)
 {
-    auto& host = *e.host;
+    auto& host = *e.checked.host;
     host.report().set_title(page_title(e.input.title));
     host.report().set_lines_per_page(e.input.settings.lines_per_page);
     write_pages(format_text(e.report), host);
@@ -110,8 +110,8 @@ void check_unique(const std::vector<OutputFile>& files)
 std::vector<OutputFile> output_files(const std::string& name, Evaluation& e)
 {
     publish_all(e);
-    std::vector<OutputFile> files{{name + ".rpt", e.host->report().text()},
-                                  {name + ".sum", e.host->summary().text()},
+    std::vector<OutputFile> files{{name + ".rpt", e.checked.host->report().text()},
+                                  {name + ".sum", e.checked.host->summary().text()},
                                   {name + ".csv", format_csv(e.report)},
                                   {name + ".json", format_json(e.report)},
                                   {name + ".html", format_html(e)}};

@@ -14,7 +14,7 @@ namespace {
 
 [[noreturn]] void refuse(const std::string& key, std::string_view why)
 {
-    throw std::runtime_error{fmt::format("the key \"{}\" {}", key, why)};
+    throw std::invalid_argument{fmt::format("the key \"{}\" {}", key, why)};
 }
 
 // Takes the key part by part: names, and numbers of array elements.

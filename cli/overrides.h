@@ -14,7 +14,7 @@ struct Override {
     double value = 0;
 };
 
-// Throws std::runtime_error for a key that leads to no number of the case.
+// Throws std::invalid_argument for a key that leads to no number of the case.
 void apply(const Override& change, toml::table& root);
 
 }  // namespace cli
