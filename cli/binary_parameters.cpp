@@ -13,7 +13,8 @@ constexpr double default_reference_temperature = 298.15;  // K
 
 std::size_t place(const ParameterSet& set, const std::string& id)
 {
-    return static_cast<std::size_t>(std::ranges::find(set.components, id, &Reference::id) - set.components.begin());
+    return static_cast<std::size_t>(std::ranges::find(set.components, id, &Reference::id) -
+                                    set.components.begin());
 }
 
 void give(const ParameterSet& set, ParameterResults& results)
@@ -33,13 +34,15 @@ void complete(const ParameterSet& set, ParameterResults& results)
     POLY_TBPARI(&set.positions, &components, results.coefficients.data(), &set.leading_positions, &mode);
     if (set.reference_position < 1) return;
     for (std::size_t at = 0; at < results.is_given.size(); ++at) {
-        auto& reference = results.coefficients[at * results.positions +
-                                               static_cast<std::size_t>(set.reference_position - 1)];
+        auto& reference =
+            results
+                .coefficients[at * results.positions + static_cast<std::size_t>(set.reference_position - 1)];
         if (reference == 0) reference = default_reference_temperature;
     }
 }
 
-ParametersAtTemperature evaluate(const ParameterSet& set, const std::vector<double>& coefficients, double temperature)
+ParametersAtTemperature evaluate(const ParameterSet& set, const std::vector<double>& coefficients,
+                                 double temperature)
 {
     const Int m = std::ssize(set.components);
     const auto pairs = set.components.size() * set.components.size();

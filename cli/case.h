@@ -1,6 +1,7 @@
 // A case as its file states it: plain values, every name with the place where it stands.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -32,6 +33,28 @@ struct OligomerPart {
     Reference oligomer;
     Reference segment;
     double count = 0;
+    bool is_continued = false;  // belongs to the oligomer of the part before, whose reference it repeats
+};
+
+struct Catalyst {
+    Reference component;
+    double value = 0;
+};
+
+// Numbers that the host carries without reading them.
+using FurtherIntegers = std::array<Int, 3>;
+
+struct Sites {
+    Int count = 0;  // catalyst site types
+    FurtherIntegers integers = {};
+    double real = 0;
+};
+
+struct DistributionRequest {
+    Reference polymer;
+    Int type = 1;
+    FurtherIntegers integers = {};
+    double real = 0;
 };
 
 // The attributes that a component carries in every stream.
@@ -46,6 +69,18 @@ struct Paragraph {
     std::vector<Segment> segments;
     std::vector<OligomerPart> oligomers;
     std::vector<AttributeList> attributes;
+    std::vector<Catalyst> catalysts;
+    std::vector<Reference> initiators;
+    std::optional<Sites> sites;
+    std::vector<DistributionRequest> distributions;
+};
+
+// Two values for every element of an attribute; the one that is absent changes nothing.
+struct ScalingEntry {
+    Reference component;
+    Reference attribute;
+    std::optional<double> first;
+    std::optional<double> second;
 };
 
 // Element values in the order of the file, or each with the segment that it belongs to.
@@ -91,6 +126,7 @@ struct Settings {
     double zero_bound = 1e-15;
     double missing_value_bound = 1e35;
     bool pdi_from_parameters = false;
+    Int message_level = 2;             // severity up to which messages are printed
     std::int64_t lines_per_page = 60;  // of the report file, without the heading
 };
 
@@ -100,6 +136,7 @@ struct Case {
     Settings settings;
     std::vector<Component> components;  // in the order of the file
     std::optional<Paragraph> paragraph;
+    std::vector<ScalingEntry> catalyst_scaling;
     std::vector<Stream> streams;
     std::vector<Property> properties;
     std::vector<Reactor> reactors;
@@ -108,11 +145,6 @@ struct Case {
 
     const Component* find(std::string_view id) const;
     std::vector<std::string_view> ids() const;
-    // Segments of the polymer paragraph in segment-list order, which is the order of the components.
-    std::vector<std::string_view> segment_ids() const;
-    // End segments in the order in which the paragraph lists them.
-    std::vector<std::string_view> end_segment_ids() const;
-    const AttributeList* attributes_of(std::string_view component) const;
 };
 
 }  // namespace cli

@@ -33,43 +33,22 @@ void check_text(std::string_view what, std::string_view text, std::size_t longes
                                     what, text, longest));
 }
 
-// Follows the IDs of one list of the paragraph to components of one class.
-class ListCheck {
-public:
-    ListCheck(const Case& input, std::string_view path, Diagnostics& diagnostics)
-        : input_(input), path_(path), diagnostics_(diagnostics)
-    {
+// A name of the paragraph, which travels in the same fixed words as an ID, and the class of the component
+// that it leads to. Whether it leads to one at all is for the paragraph check to say.
+void check_reference(const Case& input, std::string_view path, const Reference& seen,
+                     std::optional<ComponentClass> expected, Diagnostics& diagnostics)
+{
+    const auto* component = input.find(seen.id);
+    if (!component) {
+        check_text(fmt::format("{}: ID", path), seen.id, longest_id, seen.source, diagnostics);
+    } else if (expected && component->component_class != *expected) {
+        diagnostics.add(
+            seen.source,
+            fmt::format("{} names \"{}\", which is of class \"{}\"; expected a component of class "
+                        "\"{}\"",
+                        path, seen.id, text(component->component_class), text(*expected)));
     }
-
-    void reference(const Reference& seen, std::optional<ComponentClass> expected)
-    {
-        const auto* component = input_.find(seen.id);
-        if (!component) {
-            diagnostics_.add(seen.source, fmt::format("{} names \"{}\", which is not a component{}", path_,
-                                                      seen.id, suggestion(seen.id, input_.ids())));
-        } else if (expected && component->component_class != *expected) {
-            diagnostics_.add(
-                seen.source,
-                fmt::format("{} names \"{}\", which is of class \"{}\"; expected a component of class "
-                            "\"{}\"",
-                            path_, seen.id, text(component->component_class), text(*expected)));
-        }
-    }
-
-    void once(const Reference& seen, std::optional<ComponentClass> expected)
-    {
-        if (!ids_.insert(seen.id).second)
-            diagnostics_.add(seen.source, fmt::format("{} names \"{}\" twice", path_, seen.id));
-        else
-            reference(seen, expected);
-    }
-
-private:
-    const Case& input_;
-    std::string_view path_;
-    Diagnostics& diagnostics_;
-    std::set<std::string, std::less<>> ids_;
-};
+}
 
 // Where a component of a class has to be listed; empty for a conventional one.
 std::string_view list_of(ComponentClass kind)
@@ -87,37 +66,20 @@ std::string_view list_of(ComponentClass kind)
     return {};
 }
 
+// A polymer or oligomer in no list would pass for a conventional component.
 bool is_listed(const Component& component, const std::optional<Paragraph>& paragraph)
 {
+    if (component.component_class == ComponentClass::conventional) return true;
     if (!paragraph) return false;
-    const auto any = [&](const auto& list, auto projection) {
-        return std::ranges::any_of(list,
-                                   [&](const auto& entry) { return projection(entry).id == component.id; });
-    };
-    switch (component.component_class) {
-        case ComponentClass::polymer:
-            return any(paragraph->polymers, [](const auto& r) { return r; });
-        case ComponentClass::oligomer:
-            return any(paragraph->oligomers, [](const auto& o) { return o.oligomer; });
-        case ComponentClass::segment:
-            return any(paragraph->segments, [](const auto& s) { return s.component; });
-        case ComponentClass::conventional:
-            break;
-    }
-    return true;
-}
-
-void check_oligomers(const Case& input, Diagnostics& diagnostics)
-{
-    ListCheck oligomers{input, "polymers.oligomers", diagnostics};
-    ListCheck parts{input, "polymers.oligomers", diagnostics};
-    const Source* previous = nullptr;
-    for (const auto& part : input.paragraph->oligomers) {
-        if (!previous || *previous != part.oligomer.source)
-            oligomers.once(part.oligomer, ComponentClass::oligomer);
-        previous = &part.oligomer.source;
-        parts.reference(part.segment, ComponentClass::segment);
-    }
+    const auto& polymers = paragraph->polymers;
+    const auto& oligomers = paragraph->oligomers;
+    // Segments alone are a paragraph that its check reports and ignores.
+    if (polymers.empty() && oligomers.empty() && !paragraph->segments.empty()) return true;
+    const auto oligomer_id = [](const OligomerPart& part) -> std::string_view { return part.oligomer.id; };
+    if (component.component_class == ComponentClass::polymer)
+        return std::ranges::find(polymers, component.id, &Reference::id) != polymers.end();
+    return component.component_class == ComponentClass::segment ||
+           std::ranges::find(oligomers, component.id, oligomer_id) != oligomers.end();
 }
 
 std::vector<std::string_view> all_attribute_names()
@@ -161,18 +123,37 @@ void check_paragraph(const Case& input, Diagnostics& diagnostics)
 {
     if (!input.paragraph) return;
     const auto& paragraph = *input.paragraph;
-    if (paragraph.segments.empty() && !(paragraph.polymers.empty() && paragraph.oligomers.empty()))
-        diagnostics.add(paragraph.source, "polymers.segments names no segment; expected at least one");
-    ListCheck segments{input, "polymers.segments", diagnostics};
-    for (const auto& segment : input.paragraph->segments)
-        segments.once(segment.component, ComponentClass::segment);
-    ListCheck polymers{input, "polymers.polymers", diagnostics};
-    for (const auto& polymer : paragraph.polymers) polymers.once(polymer, ComponentClass::polymer);
-    check_oligomers(input, diagnostics);
-    ListCheck attributes{input, "polymers.attributes", diagnostics};
+    const auto check = [&](std::string_view list, const Reference& seen,
+                           std::optional<ComponentClass> expected = {}) {
+        check_reference(input, list, seen, expected, diagnostics);
+    };
+    for (const auto& segment : paragraph.segments)
+        check("polymers.segments", segment.component, ComponentClass::segment);
+    for (const auto& polymer : paragraph.polymers)
+        check("polymers.polymers", polymer, ComponentClass::polymer);
+    for (const auto& part : paragraph.oligomers) {
+        if (!part.is_continued) check("polymers.oligomers", part.oligomer, ComponentClass::oligomer);
+        check("polymers.oligomers", part.segment);
+    }
     for (const auto& list : paragraph.attributes) {
-        attributes.once(list.component, std::nullopt);
+        check("polymers.attributes", list.component);
         check_attribute_names(list, diagnostics);
+    }
+    for (const auto& catalyst : paragraph.catalysts) check("polymers.catalysts", catalyst.component);
+    for (const auto& initiator : paragraph.initiators) check("polymers.initiators", initiator);
+    for (const auto& request : paragraph.distributions)
+        check("polymers.distributions", request.polymer, ComponentClass::polymer);
+}
+
+// The entries name components by index, so that an unknown one cannot even be put.
+void check_catalyst_scaling(const Case& input, Diagnostics& diagnostics)
+{
+    for (const auto& [component, attribute, first, second] : input.catalyst_scaling) {
+        if (!input.find(component.id))
+            diagnostics.add(component.source,
+                            fmt::format("catalyst_scaling names \"{}\", which is not a component{}",
+                                        component.id, suggestion(component.id, input.ids())));
+        check_text("attribute", attribute.id, longest_id, attribute.source, diagnostics);
     }
 }
 

@@ -15,17 +15,11 @@ using Names = std::vector<std::string_view>;
 // Names of the columns that stand beside the properties.
 constexpr std::string_view taken_names[] = {"component", "class"};
 
-bool is_chain(const Component& component)
-{
-    return component.component_class == ComponentClass::polymer ||
-           component.component_class == ComponentClass::oligomer;
-}
-
-Names chain_ids(const Case& input)
+Names ids_of(const Case& input, std::initializer_list<ComponentClass> kinds)
 {
     Names ids;
     for (const auto& component : input.components)
-        if (is_chain(component)) ids.push_back(component.id);
+        if (std::ranges::find(kinds, component.component_class) != kinds.end()) ids.push_back(component.id);
     return ids;
 }
 
@@ -63,12 +57,13 @@ void check_property(const Property& property, const Case& input, Diagnostics& di
     if (property.unit.empty())
         diagnostics.add(source,
                         fmt::format("properties.{}.unit is empty; expected a unit, \"1\" for a ratio", id));
-    const auto segments = input.segment_ids();
+    const auto segments = ids_of(input, {ComponentClass::segment});
     check_segments(property.segment_values, property.name, "segments", segments, diagnostics);
     if (property.averaging == Averaging::weight_factors)
         check_segments(property.weight_factors, property.name, "weight_factors", segments, diagnostics);
-    check_ids(property.own_values, fmt::format("properties.{}.components", id), chain_ids(input),
-              "a polymer or oligomer", diagnostics);
+    check_ids(property.own_values, fmt::format("properties.{}.components", id),
+              ids_of(input, {ComponentClass::polymer, ComponentClass::oligomer}), "a polymer or oligomer",
+              diagnostics);
 }
 
 void check_stream(const Reference& stream, const Reactor& reactor, std::string_view key, const Case& input,

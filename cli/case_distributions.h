@@ -29,11 +29,11 @@ struct DistributionSection {
 struct Distribution {
     Reference name;
     std::int64_t points = 0;
-    double longest_chain = 0;  // segments
-    bool is_gpc = false;       // chain length times weight fraction
-    std::optional<double> segment_weight;  // g/mol
-    std::optional<Reference> stream;       // whose moments the distribution is held against
-    std::vector<DistributionSection> sections;         // mixed in proportion to what they make
+    double longest_chain = 0;                   // segments
+    bool is_gpc = false;                        // chain length times weight fraction
+    std::optional<double> segment_weight;       // g/mol
+    std::optional<Reference> stream;            // whose moments the distribution is held against
+    std::vector<DistributionSection> sections;  // mixed in proportion to what they make
 };
 
 struct ParameterPair {
@@ -52,7 +52,8 @@ struct ParameterSet {
     std::vector<Reference> components;
     std::int64_t positions = 0;
     std::int64_t reference_position = 0;  // 0: every pair refers to 298.15 K
-    std::int64_t leading_positions = 0;   // positions 1 to this one have the symmetry below, the others are symmetric
+    std::int64_t leading_positions =
+        0;  // positions 1 to this one have the symmetry below, the others are symmetric
     bool is_antisymmetric = false;
     std::vector<ParameterPair> pairs;
     std::vector<double> temperatures;  // K

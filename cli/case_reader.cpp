@@ -33,7 +33,9 @@ Settings read_settings(TableReader table)
     if (const auto source = table.entry("pdi_from"))
         settings.pdi_from_parameters =
             read_word(*source, pdi_sources, table.diagnostics()).value_or(settings.pdi_from_parameters);
-    settings.lines_per_page = table.whole_number("lines_per_page", page_lengths).value_or(settings.lines_per_page);
+    settings.message_level = table.whole_number("message_level", {0, 2}).value_or(settings.message_level);
+    settings.lines_per_page =
+        table.whole_number("lines_per_page", page_lengths).value_or(settings.lines_per_page);
     table.finish();
     return settings;
 }
@@ -100,6 +102,7 @@ Case read_root(TableReader root, const std::string& file)
     if (const auto components = section(root, "components", "a table with at least one component"))
         input.components = read_components(*components);
     if (const auto polymers = root.table("polymers")) input.paragraph = read_paragraph(*polymers);
+    input.catalyst_scaling = read_catalyst_scaling(root.array("catalyst_scaling"), root.diagnostics());
     read_curves(root, input);
     read_streams(root, input);
     if (const auto properties = root.table("properties")) input.properties = read_properties(*properties);
@@ -127,6 +130,7 @@ Case parse_case(std::string_view text, const std::string& file, Diagnostics& dia
     auto input = read_root(TableReader{root, "", {}, diagnostics}, file);
     check_components(input, diagnostics);
     check_paragraph(input, diagnostics);
+    check_catalyst_scaling(input, diagnostics);
     check_streams(input, diagnostics);
     check_properties(input, diagnostics);
     check_reactors(input, diagnostics);

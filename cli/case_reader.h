@@ -19,6 +19,7 @@ Case parse_case(std::string_view text, const std::string& file, Diagnostics& dia
 
 // The parts of the reader, one file each.
 Paragraph read_paragraph(TableReader table);
+std::vector<ScalingEntry> read_catalyst_scaling(const std::vector<Entry>& entries, Diagnostics& diagnostics);
 std::vector<Stream> read_streams(TableReader table);
 std::vector<Property> read_properties(TableReader table);
 std::vector<Reactor> read_reactors(TableReader table);
@@ -29,9 +30,12 @@ std::vector<ParameterSet> read_parameter_sets(TableReader table);
 // Component IDs and numbers.
 std::vector<ComponentValue> read_component_values(TableReader table, Range range);
 
-// What can only be told from the whole case: names that lead nowhere, repeats, lengths.
+// What can only be told from the whole case: names that lead nowhere, classes. What the library's check of
+// the paragraph reports, such as an unknown or repeated ID in a list, is left to it, and whether the values
+// of the streams fit can be told only after it.
 void check_components(const Case& input, Diagnostics& diagnostics);
 void check_paragraph(const Case& input, Diagnostics& diagnostics);
+void check_catalyst_scaling(const Case& input, Diagnostics& diagnostics);
 void check_streams(const Case& input, Diagnostics& diagnostics);
 void check_properties(const Case& input, Diagnostics& diagnostics);
 void check_reactors(const Case& input, Diagnostics& diagnostics);

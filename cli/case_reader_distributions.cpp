@@ -29,9 +29,8 @@ SiteIncrement read_site(TableReader table, const SiteIncrement* previous, std::o
     site.beta = parameter("beta", previous ? std::optional{previous->beta} : std::nullopt);
     if (!is_given && !previous) table.missing("tau", "a finite number, 0 or greater");
     if (is_given && !(site.tau + site.beta > 0))
-        table.diagnostics().add(table.source(),
-                                fmt::format("{}: tau + beta is {}; expected greater than 0", table.path(),
-                                            site.tau + site.beta));
+        table.diagnostics().add(table.source(), fmt::format("{}: tau + beta is {}; expected greater than 0",
+                                                            table.path(), site.tau + site.beta));
     site.amount = table.required_number("amount", Range::not_negative).value_or(0);
     if (!previous) name = table.text("name");
     table.finish();
@@ -61,8 +60,8 @@ void read_increment(const Entry& entry, DistributionSection& section, Diagnostic
     if (elements.empty() && entry.node->is_array())
         diagnostics.add(entry.source, fmt::format("{} is empty; expected at least one site", entry.path));
     if (previous && increment.size() != previous->size())
-        diagnostics.add(entry.source, fmt::format("{} has {} sites; the increment before it has {}", entry.path,
-                                                  increment.size(), previous->size()));
+        diagnostics.add(entry.source, fmt::format("{} has {} sites; the increment before it has {}",
+                                                  entry.path, increment.size(), previous->size()));
     section.increments.push_back(std::move(increment));
 }
 
@@ -72,16 +71,17 @@ void read_increments(TableReader& table, DistributionSection& section)
     const auto increments = table.entry("increments");
     if (sites.has_value() == increments.has_value()) {
         table.diagnostics().add(sites ? increments->source : table.source(),
-                                fmt::format("{} has {} sites and increments; expected one of them", table.path(),
-                                            sites ? "both" : "neither"));
+                                fmt::format("{} has {} sites and increments; expected one of them",
+                                            table.path(), sites ? "both" : "neither"));
         return;
     }
     if (sites) return read_increment(*sites, section, table.diagnostics());
     for (const auto& entry : read_array(*increments, table.diagnostics()))
         read_increment(entry, section, table.diagnostics());
     if (section.increments.empty() && increments->node->is_array())
-        table.diagnostics().add(increments->source,
-                                fmt::format("{} is empty; expected at least one increment", increments->path));
+        table.diagnostics().add(
+            increments->source,
+            fmt::format("{} is empty; expected at least one increment", increments->path));
 }
 
 DistributionSection read_section(TableReader table)
@@ -158,15 +158,16 @@ void check_unique(const std::vector<Reference>& names, std::string_view path, Di
 }
 
 // What the host takes for nothing cannot be averaged.
-void check_amounts(const DistributionSection& section, std::string_view path, double zero_bound, Diagnostics& diagnostics)
+void check_amounts(const DistributionSection& section, std::string_view path, double zero_bound,
+                   Diagnostics& diagnostics)
 {
     double total = 0;
     for (const auto& increment : section.increments)
         for (const auto& site : increment) total += site.amount;
     if (!section.increments.empty() && !(total > zero_bound))
         diagnostics.add(section.name.source,
-                        fmt::format("{} makes {} in total; expected more than the zero bound, {}", path, total,
-                                    zero_bound));
+                        fmt::format("{} makes {} in total; expected more than the zero bound, {}", path,
+                                    total, zero_bound));
 }
 
 }  // namespace
@@ -187,9 +188,10 @@ void check_distributions(const Case& input, Diagnostics& diagnostics)
     for (const auto& distribution : input.distributions) {
         const auto path = "distributions." + distribution.name.id;
         if (distribution.stream && std::ranges::find(streams, distribution.stream->id) == streams.end())
-            diagnostics.add(distribution.stream->source,
-                            fmt::format("{}.stream names \"{}\", which is not a stream{}", path,
-                                        distribution.stream->id, suggestion(distribution.stream->id, streams)));
+            diagnostics.add(
+                distribution.stream->source,
+                fmt::format("{}.stream names \"{}\", which is not a stream{}", path, distribution.stream->id,
+                            suggestion(distribution.stream->id, streams)));
         std::vector<Reference> names;
         for (const auto& section : distribution.sections) {
             if (distribution.sections.size() > 1 || !section.name.id.empty()) names.push_back(section.name);

@@ -81,7 +81,8 @@ std::vector<double> read_temperatures(const Entry& entry, Diagnostics& diagnosti
     table.finish();
     if (!from || !to || !count) return {1};
     for (std::int64_t k = 0; k < *count; ++k)
-        temperatures.push_back(*from + (*to - *from) * static_cast<double>(k) / static_cast<double>(*count - 1));
+        temperatures.push_back(*from +
+                               (*to - *from) * static_cast<double>(k) / static_cast<double>(*count - 1));
     return temperatures;
 }
 
@@ -108,9 +109,9 @@ ParameterPair read_pair(TableReader table, const ParameterSet& set)
         pair.first = ids[0];
         pair.second = ids[1];
     } else if (const auto entry = table.entry("components"); !entry || entry->node->is_array()) {
-        table.diagnostics().add(
-            entry ? entry->source : table.source(),
-            fmt::format("{}.components has {} entries; expected two component IDs", table.path(), ids.size()));
+        table.diagnostics().add(entry ? entry->source : table.source(),
+                                fmt::format("{}.components has {} entries; expected two component IDs",
+                                            table.path(), ids.size()));
     }
     read_values(table, set, pair);
     table.finish();
@@ -161,8 +162,8 @@ public:
         std::set<std::string> seen;
         for (const auto& component : set_.components) {
             if (!input_.find(component.id))
-                report(component, "{}.components names \"{}\", which is not a component{}", path_, component.id,
-                       suggestion(component.id, input_.ids()));
+                report(component, "{}.components names \"{}\", which is not a component{}", path_,
+                       component.id, suggestion(component.id, input_.ids()));
             else if (!seen.insert(component.id).second)
                 report(component, "{}.components names \"{}\" twice", path_, component.id);
         }
@@ -176,8 +177,8 @@ private:
     {
         for (const auto& end : {pair.first, pair.second})
             if (std::ranges::find(ids_, end.id) == ids_.end())
-                return report(end, "{}.pairs names \"{}\", which is not in {}.components{}", path_, end.id, path_,
-                              suggestion(end.id, ids_));
+                return report(end, "{}.pairs names \"{}\", which is not in {}.components{}", path_, end.id,
+                              path_, suggestion(end.id, ids_));
         if (pair.first.id == pair.second.id)
             report(pair.second, "{}.pairs pairs \"{}\" with itself", path_, pair.first.id);
         if (!given.insert({pair.first.id, pair.second.id}).second)
@@ -191,9 +192,10 @@ private:
         if (set_.reference_position < 1) return;
         const double reference = pair.values[static_cast<std::size_t>(set_.reference_position - 1)];
         if (!(reference > 0))
-            report(pair.first,
-                   "{}.pairs: the reference temperature of {}, {} at position {} is {}; expected greater than 0",
-                   path_, pair.first.id, pair.second.id, set_.reference_position, reference);
+            report(
+                pair.first,
+                "{}.pairs: the reference temperature of {}, {} at position {} is {}; expected greater than 0",
+                path_, pair.first.id, pair.second.id, set_.reference_position, reference);
     }
 
     template <typename... Arguments>

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <optional>
 #include <stdexcept>
 
 #include "cli/case_reader.h"
@@ -10,8 +11,6 @@
 #include "cli/report.h"
 
 namespace cli {
-
-namespace {
 
 std::string formatted(const Report& report, Format format)
 {
@@ -26,60 +25,90 @@ std::string formatted(const Report& report, Format format)
     return {};
 }
 
-int write(const std::string& text, std::FILE* out)
+void write(const std::string& text, std::FILE* out)
 {
     if (std::fwrite(text.data(), 1, text.size(), out) != text.size() || std::fflush(out) != 0)
         throw std::runtime_error{"the results cannot be written"};
-    return exit_success;
 }
 
-// The case, of use only when no error of it was printed.
-Case read_case(const std::filesystem::path& file, bool& is_good, std::FILE* errors)
+namespace {
+
+void print(const std::vector<std::string>& lines, std::FILE* errors)
+{
+    for (const auto& line : lines) fmt::print(errors, "{}\n", line);
+}
+
+// The case as far as it can be read, and what the library's input checks made of it; empty, with all errors
+// printed, when it cannot be.
+struct Checked {
+    Case input;
+    CheckedInput checked;
+};
+std::optional<Checked> read_and_check(const std::filesystem::path& file, std::FILE* errors)
 {
     Diagnostics diagnostics;
     auto input = read_case(file, diagnostics);
-    for (const auto& line : diagnostics.lines(input.file)) fmt::print(errors, "{}\n", line);
-    is_good = diagnostics.empty();
-    return input;
+    print(diagnostics.lines(input.file), errors);
+    if (!diagnostics.empty()) return {};
+    auto checked = check_input(input);
+    for (const auto& message : checked.messages) print(lines(message, input.file), errors);
+    return Checked{std::move(input), std::move(checked)};
 }
 
-int print(const Report& report, const Case& input, Format format, std::FILE* out, std::FILE* errors)
+int check_case(const std::filesystem::path& file, Format format, std::FILE* out, std::FILE* errors)
+{
+    const auto read = read_and_check(file, errors);
+    if (!read) return exit_case_error;
+    const bool is_good = read->checked.messages.empty();
+    if (is_good || format == Format::json)
+        write(formatted(make_input_report(read->input, read->checked), format), out);
+    return is_good ? exit_success : exit_case_error;
+}
+
+int print(const Report& report, const Checked& read, Format format, std::FILE* out, std::FILE* errors)
 {
     write(formatted(report, format), out);
     const auto unusable = not_finite(report);
-    for (const auto& line : unusable) fmt::print(errors, "{}: {}\n", input.file, line);
-    return unusable.empty() ? exit_success : exit_case_error;
+    for (const auto& line : unusable) fmt::print(errors, "{}: {}\n", report.file, line);
+    return read.checked.messages.empty() && unusable.empty() ? exit_success : exit_case_error;
 }
 
-int run_case(const std::filesystem::path& file, Format format, std::FILE* out, std::FILE* errors)
+// Lays the streams into the host; false when the case cannot go on.
+bool add_streams(const Checked& read, std::FILE* errors)
 {
-    bool is_good = false;
-    const auto input = read_case(file, is_good, errors);
-    if (!is_good) return exit_case_error;
-    const auto host = load(input);
-    return print(make_report(input, evaluate(input, *host)), input, format, out, errors);
+    const auto unfit = add_streams(read.input, read.checked);
+    print(unfit.lines(read.input.file), errors);
+    // Values need not fit what is left of a paragraph in error; those of a good one are themselves in error.
+    return unfit.empty() || !read.checked.messages.empty();
+}
+
+// Why the case has no such stream; empty when it has.
+std::string unknown_stream(const std::string& stream, const Case& input)
+{
+    std::vector<std::string_view> streams;
+    for (const auto& known : input.streams) streams.push_back(known.name.id);
+    if (std::ranges::find(streams, stream) != streams.end()) return {};
+    return fmt::format("{} has no stream \"{}\"{}", input.file, stream, suggestion(stream, streams));
+}
+
+int refuse(const std::string& why, std::FILE* errors)
+{
+    fmt::print(errors, "polyprops: {}\n", why);
+    return exit_usage;
 }
 
 int convert_case(const std::filesystem::path& file, const Conversion& conversion, Format format,
                  std::FILE* out, std::FILE* errors)
 {
-    if (const auto why = impossible(conversion); !why.empty()) {
-        fmt::print(errors, "polyprops: {}\n", why);
-        return exit_usage;
-    }
-    bool is_good = false;
-    const auto input = read_case(file, is_good, errors);
-    if (!is_good) return exit_case_error;
-    std::vector<std::string_view> streams;
-    for (const auto& stream : input.streams) streams.push_back(stream.name.id);
-    if (std::ranges::find(streams, conversion.stream) == streams.end()) {
-        fmt::print(errors, "polyprops: {} has no stream \"{}\"{}\n", input.file, conversion.stream,
-                   suggestion(conversion.stream, streams));
-        return exit_usage;
-    }
-    const auto host = load(input);
-    const auto compositions = convert(conversion.stream, conversion.from, conversion.to, *host);
-    return print(make_conversion_report(input, conversion.stream, compositions), input, format, out, errors);
+    if (const auto why = impossible(conversion); !why.empty()) return refuse(why, errors);
+    const auto read = read_and_check(file, errors);
+    if (!read) return exit_case_error;
+    const auto& [input, checked] = *read;
+    const auto& [stream, from, to] = conversion;
+    if (const auto why = unknown_stream(stream, input); !why.empty()) return refuse(why, errors);
+    if (!add_streams(*read, errors)) return exit_case_error;
+    const auto found = convert(stream, from, to, *checked.host);
+    return print(make_conversion_report(input, checked, stream, found), *read, format, out, errors);
 }
 
 template <typename Command>
@@ -95,9 +124,9 @@ int guarded(const Command& command, std::FILE* errors)
 
 }  // namespace
 
-int run(const std::filesystem::path& file, Format format, std::FILE* out, std::FILE* errors)
+int check(const std::filesystem::path& file, Format format, std::FILE* out, std::FILE* errors)
 {
-    return guarded([&] { return run_case(file, format, out, errors); }, errors);
+    return guarded([&] { return check_case(file, format, out, errors); }, errors);
 }
 
 std::string impossible(const Conversion& conversion)
@@ -106,8 +135,7 @@ std::string impossible(const Conversion& conversion)
     if (from == to) return fmt::format("--from and --to are both \"{}\"; expected two bases", text(from));
     if (from == Basis::segment)
         return "--from is \"segment\"; expected \"apparent\" or \"true\", since segments do not tell which "
-               "chains they "
-               "stood in";
+               "chains they stood in";
     return {};
 }
 

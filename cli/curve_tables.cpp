@@ -24,7 +24,8 @@ Table averages(const DistributionResults& results)
     }
     for (const auto& curve : results.curves) {
         const auto& a = curve.averages;
-        auto& row = table.rows.emplace_back(std::vector<Cell>{curve.name, curve.amount, a.area, a.pn, a.pw, a.pdi});
+        auto& row =
+            table.rows.emplace_back(std::vector<Cell>{curve.name, curve.amount, a.area, a.pn, a.pw, a.pdi});
         if (!results.segment_weight) continue;
         row.emplace_back(a.pn * *results.segment_weight);
         row.emplace_back(a.pw * *results.segment_weight);
@@ -79,8 +80,8 @@ Table fit(const GpcComparison& gpc)
              {"mn_calculated", "calculated", "g/mol"},
              {"mw_measured", "Mw measured", "g/mol"},
              {"mw_calculated", "calculated", "g/mol"}},
-            {{gpc.file, static_cast<Int>(gpc.measured.size()), gpc.residual, gpc.largest_difference, gpc.mn_measured,
-              gpc.mn_calculated, gpc.mw_measured, gpc.mw_calculated}}};
+            {{gpc.file, static_cast<Int>(gpc.measured.size()), gpc.residual, gpc.largest_difference,
+              gpc.mn_measured, gpc.mn_calculated, gpc.mw_measured, gpc.mw_calculated}}};
 }
 
 Table measured_curve(const GpcComparison& gpc)
@@ -95,8 +96,8 @@ Table measured_curve(const GpcComparison& gpc)
                 {},
                 true};
     for (std::size_t k = 0; k < gpc.measured.size(); ++k)
-        table.rows.push_back({gpc.molecular_weight[k], gpc.chain_length[k], gpc.measured[k], gpc.calculated[k],
-                              gpc.overlay[k]});
+        table.rows.push_back({gpc.molecular_weight[k], gpc.chain_length[k], gpc.measured[k],
+                              gpc.calculated[k], gpc.overlay[k]});
     return table;
 }
 
@@ -116,7 +117,8 @@ Table coefficients(const ParameterResults& results)
             const auto at = results.pair(i, j);
             const auto mirror = results.pair(j, i);
             if (!results.is_given[at] && !results.is_given[mirror]) continue;
-            auto& row = table.rows.emplace_back(std::vector<Cell>{results.components[i], results.components[j]});
+            auto& row =
+                table.rows.emplace_back(std::vector<Cell>{results.components[i], results.components[j]});
             for (std::size_t l = 0; l < results.positions; ++l)
                 row.emplace_back(results.coefficients[at * results.positions + l]);
             row.emplace_back(std::string{results.is_given[at] ? "given" : "completed"});
@@ -124,7 +126,8 @@ Table coefficients(const ParameterResults& results)
     return table;
 }
 
-// One square after the other: a row for each temperature and first component, a column for each second component.
+// One square after the other: a row for each temperature and first component, a column for each second
+// component.
 Table squares(const ParameterResults& results, std::string key, std::string heading, const std::string& unit,
               const PairMatrix& (*matrix)(const ParametersAtTemperature&))
 {
@@ -172,8 +175,9 @@ Section parameter_section(const ParameterResults& results)
                      squares(results, "binary_parameter_slopes", "Temperature times derivative", results.unit,
                              [](const auto& at) -> const PairMatrix& { return at.slopes; })}};
     if (!results.temperatures.empty() && results.temperatures.front().derivatives)
-        section.tables.push_back(squares(results, "binary_parameter_derivatives", "Derivatives", per_kelvin,
-                                         [](const auto& at) -> const PairMatrix& { return *at.derivatives; }));
+        section.tables.push_back(
+            squares(results, "binary_parameter_derivatives", "Derivatives", per_kelvin,
+                    [](const auto& at) -> const PairMatrix& { return *at.derivatives; }));
     return section;
 }
 

@@ -129,11 +129,12 @@ std::vector<std::string> disagreements(const std::vector<DistributionResults>& r
     for (const auto& distribution : results)
         for (const auto& check : distribution.checks)
             if (!check.agrees())
-                lines.push_back(fmt::format(
-                    "distributions.{}: {} has Pn {:.6g} and Pw {:.6g} on the grid; by its {} they are {:.6g} and "
-                    "{:.6g}: more points or a greater longest_chain may be needed",
-                    distribution.name, check.curve, check.averages.pn, check.averages.pw, check.source, check.pn,
-                    check.pw));
+                lines.push_back(
+                    fmt::format("distributions.{}: {} has Pn {:.6g} and Pw {:.6g} on the grid; by its {} "
+                                "they are {:.6g} and "
+                                "{:.6g}: more points or a greater longest_chain may be needed",
+                                distribution.name, check.curve, check.averages.pn, check.averages.pw,
+                                check.source, check.pn, check.pw));
     return lines;
 }
 

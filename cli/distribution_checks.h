@@ -4,8 +4,8 @@
 //
 //   1/Pn = τ + β/2      Pw = (2τ + 3β)/s²
 //
-// Polymer made in several increments or by several sites has the mass-weighted means of 1/Pn and Pw. By moments,
-// Pn = first/zeroth and Pw = second/first.
+// Polymer made in several increments or by several sites has the mass-weighted means of 1/Pn and Pw. By
+// moments, Pn = first/zeroth and Pw = second/first.
 #pragma once
 
 #include "cli/distributions.h"

@@ -25,7 +25,9 @@ struct Accumulated {
 class Grid {
 public:
     explicit Grid(const Distribution& distribution)
-        : points_(distribution.points), longest_(distribution.longest_chain), mode_(distribution.is_gpc ? 1 : 0)
+        : points_(distribution.points),
+          longest_(distribution.longest_chain),
+          mode_(distribution.is_gpc ? 1 : 0)
     {
         lengths_.resize(size());
     }
@@ -65,21 +67,26 @@ private:
     std::vector<double> lengths_;
 };
 
-void add_section(const DistributionSection& section, const Accumulated& a, std::size_t points, DistributionResults& results)
+void add_section(const DistributionSection& section, const Accumulated& a, std::size_t points,
+                 DistributionResults& results)
 {
     if (!section.name.id.empty())
-        results.curves.push_back({section_curve_name(section), Curve::Kind::section, a.weights.back(), a.composite, {}});
+        results.curves.push_back(
+            {section_curve_name(section), Curve::Kind::section, a.weights.back(), a.composite, {}});
     for (std::size_t j = 0; j < section.sites.size(); ++j) {
         const auto column = a.columns.begin() + static_cast<std::ptrdiff_t>(j * points);
-        results.curves.push_back({site_curve_name(section, j), Curve::Kind::site, a.weights[j],
-                                  {column, column + static_cast<std::ptrdiff_t>(points)}, {}});
+        results.curves.push_back({site_curve_name(section, j),
+                                  Curve::Kind::site,
+                                  a.weights[j],
+                                  {column, column + static_cast<std::ptrdiff_t>(points)},
+                                  {}});
     }
 }
 
 void mix_in(const Grid& grid, const Accumulated& a, Curve& composite)
 {
-    POLY_CSDADD(&grid.points(), composite.values.data(), &composite.amount, a.composite.data(), &a.weights.back(),
-                composite.values.data(), &composite.amount);
+    POLY_CSDADD(&grid.points(), composite.values.data(), &composite.amount, a.composite.data(),
+                &a.weights.back(), composite.values.data(), &composite.amount);
 }
 
 double segment_area(const DistributionResults& r, const Curve& curve, std::size_t k)
@@ -120,9 +127,11 @@ std::vector<double> cumulative(const DistributionResults& r)
 
 DistributionResults curves(const Distribution& distribution)
 {
-    DistributionResults results{distribution.name.id, distribution.is_gpc, distribution.segment_weight, {}, {}, {}, {}};
+    DistributionResults results{
+        distribution.name.id, distribution.is_gpc, distribution.segment_weight, {}, {}, {}, {}};
     Grid grid{distribution};
-    results.curves.push_back({"composite", Curve::Kind::composite, 0.0, std::vector<double>(grid.size()), {}});
+    results.curves.push_back(
+        {"composite", Curve::Kind::composite, 0.0, std::vector<double>(grid.size()), {}});
     for (const auto& section : distribution.sections) {
         const auto accumulated = grid.accumulate(section);
         mix_in(grid, accumulated, results.curves.front());
@@ -171,9 +180,9 @@ void publish(const DistributionResults& results, Host& host)
     const double scale = 1.0;
     const Int is_scaled = 0;
     const Int gpc = results.is_gpc ? 1 : 0;
-    POLY_CSDPLOT(host.summary().context(results.name), nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-                 nullptr, nullptr, &points, results.lengths.data(), values.data(), &sections, &scale, &is_scaled,
-                 &gpc);
+    POLY_CSDPLOT(host.summary().context(results.name), nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                 nullptr, nullptr, nullptr, &points, results.lengths.data(), values.data(), &sections, &scale,
+                 &is_scaled, &gpc);
 }
 
 }  // namespace cli

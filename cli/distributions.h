@@ -1,13 +1,13 @@
 // Chain-length distributions of a case: their curves, their averages, and what both are held against.
 //
-// Averages by the trapezoid rule of the library's report, with h the weight fraction per unit of chain length and
-// each segment weighted by the chain length at its right-hand end:
+// Averages by the trapezoid rule of the library's report, with h the weight fraction per unit of chain length
+// and each segment weighted by the chain length at its right-hand end:
 //
 //   a(k) = 0.5·(h(k) + h(k+1))·(x(k+1) − x(k))      area = Σ a(k)
 //   1/Pn = Σ a(k)/x(k+1)      Pw = Σ a(k)·x(k+1)      PDI = Pw/Pn
 //
-// A site's curve is its part of the composite: its area is its mass fraction, and its averages are divided by it.
-// So 1/Pn of the composite is the sum of area/Pn of the sites, and its Pw that of area·Pw, on any grid.
+// A site's curve is its part of the composite: its area is its mass fraction, and its averages are divided by
+// it. So 1/Pn of the composite is the sum of area/Pn of the sites, and its Pw that of area·Pw, on any grid.
 #pragma once
 
 #include <optional>
@@ -25,7 +25,8 @@ struct CurveAverages {
     double pw = 0;    // the same, weight average
     double pdi = 0;   // Pw/Pn
 
-    // What the grid leaves open: the relative distance to the average that weights by left-hand chain lengths.
+    // What the grid leaves open: the relative distance to the average that weights by left-hand chain
+    // lengths.
     double pn_spread = 0;
     double pw_spread = 0;
 };

@@ -34,12 +34,14 @@ const DistributionResults& Evaluation::distribution(const std::string& name) con
         if (results.name == name || (name.empty() && distributions.size() == 1)) return results;
         names.push_back(results.name);
     }
-    if (distributions.empty()) throw std::runtime_error{input.file + " has no distribution to compare or to export"};
-    throw std::runtime_error{name.empty() ? fmt::format("{} has {} distributions; expected the name of one with "
-                                                        "--distribution",
-                                                        input.file, distributions.size())
-                                          : fmt::format("{} has no distribution \"{}\"{}", input.file, name,
-                                                        suggestion(name, names))};
+    if (distributions.empty())
+        throw std::runtime_error{input.file + " has no distribution to compare or to export"};
+    throw std::runtime_error{
+        name.empty()
+            ? fmt::format("{} has {} distributions; expected the name of one with "
+                          "--distribution",
+                          input.file, distributions.size())
+            : fmt::format("{} has no distribution \"{}\"{}", input.file, name, suggestion(name, names))};
 }
 
 namespace {
@@ -73,7 +75,8 @@ Evaluation evaluate_case(Case input, const MeasuredCurve* measured)
     e.report = make_report(e.input, e.checked, evaluate(e.input, host));
     e.distributions = evaluate_distributions(e.input, host);
     add_distributions(e, measured);
-    for (const auto& results : evaluate_parameters(e.input)) e.report.sections.push_back(parameter_section(results));
+    for (const auto& results : evaluate_parameters(e.input))
+        e.report.sections.push_back(parameter_section(results));
     add(not_finite(e.report), e.input.file, e.errors);
     add(disagreements(e.distributions), e.input.file, e.notes);
     return e;

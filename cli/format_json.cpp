@@ -19,25 +19,47 @@ Json row_object(const Table& table, const std::vector<Cell>& row)
     return object;
 }
 
-Json section_object(const Section& section)
+void add_units(const std::vector<Table>& tables, Json& units)
 {
-    Json object{{"name", section.name}};
-    for (const auto& [key, text] : section.facts) object[key] = text;
-    for (const auto& table : section.tables) {
-        object[table.key] = Json::array();
-        for (const auto& row : table.rows) object[table.key].push_back(row_object(table, row));
-    }
-    return object;
+    for (const auto& table : tables)
+        for (const auto& column : table.columns)
+            if (!column.unit.empty()) units[table.key][column.key] = column.unit;
 }
 
 Json units(const Report& report)
 {
     auto units = Json::object();
-    for (const auto& section : report.sections)
-        for (const auto& table : section.tables)
-            for (const auto& column : table.columns)
-                if (!column.unit.empty()) units[table.key][column.key] = column.unit;
+    add_units(report.input, units);
+    for (const auto& section : report.sections) add_units(section.tables, units);
     return units;
+}
+
+void add_tables(const std::vector<Table>& tables, Json& object)
+{
+    for (const auto& table : tables) {
+        object[table.key] = Json::array();
+        for (const auto& row : table.rows) object[table.key].push_back(row_object(table, row));
+    }
+}
+
+Json section_object(const Section& section)
+{
+    Json object{{"name", section.name}};
+    for (const auto& [key, text] : section.facts) object[key] = text;
+    add_tables(section.tables, object);
+    return object;
+}
+
+Json message_object(const PlacedMessage& placed, const std::string& file)
+{
+    const auto& [source, hint, message] = placed;
+    return {{"file", file},
+            {"line", source.line},
+            {"column", source.column},
+            {"routine", message.routine},
+            {"number", message.number},
+            {"severity", message.severity},
+            {"lines", message.lines}};
 }
 
 }  // namespace
@@ -45,7 +67,10 @@ Json units(const Report& report)
 std::string format_json(const Report& report)
 {
     Json json{{"schema_version", schema_version}, {"title", report.title}, {"units", units(report)}};
-    json["streams"] = Json::array();
+    json["messages"] = Json::array();
+    for (const auto& message : report.messages)
+        json["messages"].push_back(message_object(message, report.file));
+    if (!report.input.empty()) add_tables(report.input, json["input"]);
     for (const auto& section : report.sections) json[section.kind + "s"].push_back(section_object(section));
     return json.dump(2) + "\n";
 }

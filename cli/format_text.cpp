@@ -30,12 +30,14 @@ std::string unit(const Column& column)
     return column.unit == "1" ? "-" : column.unit;
 }
 
+// Headings, units where a column has one, rows.
 std::vector<std::vector<std::string>> lines(const Table& table)
 {
-    std::vector<std::vector<std::string>> all(2);
-    for (const auto& column : table.columns) {
-        all[0].push_back(column.heading);
-        all[1].push_back(unit(column));
+    std::vector<std::vector<std::string>> all(1);
+    for (const auto& column : table.columns) all[0].push_back(column.heading);
+    if (std::ranges::any_of(table.columns, [](const Column& column) { return !column.unit.empty(); })) {
+        auto& units = all.emplace_back();
+        for (const auto& column : table.columns) units.push_back(unit(column));
     }
     for (const auto& row : table.rows) all.push_back(shown(row));
     return all;
@@ -51,7 +53,7 @@ std::string aligned(const Table& table)
     for (const auto& line : all) {
         std::string row;
         for (std::size_t i = 0; i < line.size(); ++i) {
-            const bool is_text = table.columns[i].unit.empty();
+            const bool is_text = std::holds_alternative<std::string>(table.rows.front()[i]);
             row += std::string(gap, ' ') + (is_text ? fmt::format("{:<{}}", line[i], widths[i])
                                                     : fmt::format("{:>{}}", line[i], widths[i]));
         }
@@ -60,17 +62,34 @@ std::string aligned(const Table& table)
     return text;
 }
 
+// An empty line stands between what a text holds already and what follows.
+void add_block(std::string_view block, std::string& text)
+{
+    text += fmt::format("{}{}", text.empty() ? "" : "\n", block);
+}
+
+// False when no table has a row to show.
+bool add_tables(const std::vector<Table>& tables, std::string& text)
+{
+    bool has_rows = false;
+    for (const auto& table : tables) {
+        if (table.rows.empty() || table.is_long) continue;
+        add_block(fmt::format("{}\n{}", table.heading, aligned(table)), text);
+        has_rows = true;
+    }
+    return has_rows;
+}
+
 }  // namespace
 
 std::string format_text(const Report& report)
 {
     std::string text = report.title.empty() ? "" : fmt::format("{}\n", report.title);
+    add_tables(report.input, text);
     for (const auto& section : report.sections) {
-        text += fmt::format("{}{}\n", text.empty() ? "" : "\n", section.heading);
-        if (std::ranges::all_of(section.tables, [](const Table& t) { return t.rows.empty(); }))
-            text += fmt::format("\nNothing flows in this {}.\n", section.kind);
-        for (const auto& table : section.tables)
-            if (!table.rows.empty() && !table.is_long) text += fmt::format("\n{}\n{}", table.heading, aligned(table));
+        add_block(section.heading + "\n", text);
+        if (!add_tables(section.tables, text))
+            add_block(fmt::format("Nothing flows in this {}.\n", section.kind), text);
     }
     return text;
 }

@@ -49,7 +49,8 @@ std::optional<Pair> read_pair(std::string_view line)
     return Pair{*weight, *signal};
 }
 
-[[noreturn]] void refuse(const std::string& file, std::size_t line, std::string_view seen, std::string_view expected)
+[[noreturn]] void refuse(const std::string& file, std::size_t line, std::string_view seen,
+                         std::string_view expected)
 {
     throw std::runtime_error{fmt::format("{}:{}: \"{}\"; expected {}", file, line, seen, expected)};
 }
@@ -80,9 +81,9 @@ void put_in_order(GpcCurve& curve, const std::string& file)
     }
     const auto fault = std::ranges::adjacent_find(m, std::greater_equal{});
     if (fault != m.end())
-        throw std::runtime_error{
-            fmt::format("{}: molecular weights {} and {} stand side by side; expected all of them to rise or all to fall",
-                        file, *fault, *(fault + 1))};
+        throw std::runtime_error{fmt::format(
+            "{}: molecular weights {} and {} stand side by side; expected all of them to rise or all to fall",
+            file, *fault, *(fault + 1))};
 }
 
 // Trapezoids over log10(M) of values that fit(k) scales.
@@ -113,8 +114,8 @@ void scale_to_area_one(const Values& m, Values& values, const std::string& what)
 {
     const double area = integral(m, [&](std::size_t k) { return values[k]; });
     if (!(area > 0) || !std::isfinite(area))
-        throw std::runtime_error{fmt::format("{} has area {} over log10 of molecular weight; expected more than 0",
-                                             what, area)};
+        throw std::runtime_error{
+            fmt::format("{} has area {} over log10 of molecular weight; expected more than 0", what, area)};
     for (auto& value : values) value /= area;
 }
 
@@ -174,7 +175,8 @@ GpcCurve read_gpc(const std::filesystem::path& file)
     return parse_gpc(file_contents(file), file.string());
 }
 
-GpcComparison compare(const GpcCurve& measured, const std::string& file, const DistributionResults& distribution)
+GpcComparison compare(const GpcCurve& measured, const std::string& file,
+                      const DistributionResults& distribution)
 {
     const double m0 = segment_weight(distribution);
     GpcComparison c;
@@ -191,7 +193,8 @@ GpcComparison compare(const GpcCurve& measured, const std::string& file, const D
                       fmt::format("distributions.{}: the composite in the measured range, {} to {} g/mol,",
                                   distribution.name, c.molecular_weight.front(), c.molecular_weight.back()));
     for (std::size_t k = 0; k < c.measured.size(); ++k)
-        c.overlay.push_back(c.measured[k] / std::numbers::ln10 / (distribution.is_gpc ? 1 : c.chain_length[k]));
+        c.overlay.push_back(c.measured[k] / std::numbers::ln10 /
+                            (distribution.is_gpc ? 1 : c.chain_length[k]));
     add_averages(c.molecular_weight, c.measured, c.mn_measured, c.mw_measured);
     add_averages(c.molecular_weight, c.calculated, c.mn_calculated, c.mw_calculated);
     add_residual(c);
@@ -201,10 +204,12 @@ GpcComparison compare(const GpcCurve& measured, const std::string& file, const D
 std::string format_gpc(const DistributionResults& distribution)
 {
     const double m0 = segment_weight(distribution);
-    auto text = fmt::format("# composite of the distribution {}, {} g/mol per segment\nmolecular_weight,signal\n",
-                            distribution.name, m0);
+    auto text =
+        fmt::format("# composite of the distribution {}, {} g/mol per segment\nmolecular_weight,signal\n",
+                    distribution.name, m0);
     for (std::size_t k = 0; k < distribution.lengths.size(); ++k)
-        text += fmt::format("{},{}\n", distribution.lengths[k] * m0, calculated(distribution, distribution.lengths[k]));
+        text += fmt::format("{},{}\n", distribution.lengths[k] * m0,
+                            calculated(distribution, distribution.lengths[k]));
     return text;
 }
 

@@ -52,8 +52,9 @@ std::string cell(const Cell& cell)
 
 std::string table(const Table& table)
 {
-    std::string html = fmt::format("<h3>{}</h3>\n<div class=\"scroll\"><table data-table=\"{}\">\n<thead><tr>",
-                                   html_text(table.heading), html_text(table.key));
+    std::string html =
+        fmt::format("<h3>{}</h3>\n<div class=\"scroll\"><table data-table=\"{}\">\n<thead><tr>",
+                    html_text(table.heading), html_text(table.key));
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
         const bool is_text = std::holds_alternative<std::string>(table.rows.front()[i]);
         html += fmt::format("<th scope=\"col\" data-key=\"{}\"{}>{}{}</th>", html_text(table.columns[i].key),
@@ -75,7 +76,8 @@ bool has_chart(const Section& section)
     if (section.kind != "parameter") return false;
     // One temperature is no curve.
     for (const auto& table : section.tables)
-        if (table.key == "binary_parameters") return !table.rows.empty() && table.rows.front()[0] != table.rows.back()[0];
+        if (table.key == "binary_parameters")
+            return !table.rows.empty() && table.rows.front()[0] != table.rows.back()[0];
     return false;
 }
 
@@ -84,7 +86,8 @@ std::string facts(const Section& section)
     std::string html;
     for (const auto& [key, text] : section.facts)
         if (!text.empty())
-            html += fmt::format("<p class=\"fact\"><span>{}</span> {}</p>\n", html_text(key), html_text(text));
+            html +=
+                fmt::format("<p class=\"fact\"><span>{}</span> {}</p>\n", html_text(key), html_text(text));
     return html;
 }
 

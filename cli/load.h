@@ -4,12 +4,22 @@
 #include <memory>
 
 #include "cli/case.h"
+#include "cli/messages.h"
 #include "minihost/host.h"
 
 namespace cli {
 
-// The case must be free of errors. Only one host exists at a time. Throws minihost::Error for what it
-// refuses.
-std::unique_ptr<minihost::Host> load(const Case& input);
+struct CheckedInput {
+    std::unique_ptr<minihost::Host> host;
+    std::vector<PlacedMessage> messages;
+};
+
+// Makes a host with the components of the case, hands the polymer paragraph and the catalyst scaling to the
+// library's checks, and says what they reported. The case must be free of errors. Only one host exists at a
+// time. Throws minihost::Error for what it refuses.
+CheckedInput check_input(const Case& input);
+
+// Lays the streams into the host, but for values that do not fit what the checks left; the answer names them.
+Diagnostics add_streams(const Case& input, const CheckedInput& checked);
 
 }  // namespace cli

@@ -6,38 +6,31 @@ namespace cli {
 
 namespace {
 
-std::string shown(const Cell& cell)
-{
-    return std::visit([](const auto& value) { return fmt::format("{}", value); }, cell);
-}
-
-// The text of the named column, empty in a table without it.
-std::string text_of(const Table& table, const std::vector<Cell>& row, std::string_view key)
-{
-    for (std::size_t i = 0; i < row.size(); ++i)
-        if (const auto* text = std::get_if<std::string>(&row[i]); text && table.columns[i].key == key) return *text;
-    return {};
-}
-
-// A number that leads its row, such as a chain length or a temperature, or else its first text that is neither a
-// component nor a segment. The class of a component tells no rows apart.
+// A number that leads its row, such as a chain length or a temperature, or else its first text that is
+// neither a component nor a segment. The class of a component tells no rows apart.
 std::string item_of(const Table& table, const std::vector<Cell>& row)
 {
-    if (!std::holds_alternative<std::string>(row.front())) return shown(row.front());
+    if (is_number(row.front())) return text(row.front());
     for (std::size_t i = 0; i < row.size(); ++i) {
         const auto& key = table.columns[i].key;
-        if (std::holds_alternative<std::string>(row[i]) && key != "component" && key != "segment" && key != "class")
+        if (!is_number(row[i]) && key != "component" && key != "segment" && key != "class")
             return std::get<std::string>(row[i]);
     }
     return {};
 }
 
-void add_row(const Section& section, const Table& table, const std::vector<Cell>& row, std::vector<Number>& all)
+void add_row(const Section& section, const Table& table, const std::vector<Cell>& row,
+             std::vector<Number>& all)
 {
-    const Number lead{&section, &table, item_of(table, row), text_of(table, row, "component"),
-                      text_of(table, row, "segment"), nullptr, {}};
+    const Number lead{&section,
+                      &table,
+                      item_of(table, row),
+                      text_of(table, row, "component"),
+                      text_of(table, row, "segment"),
+                      nullptr,
+                      {}};
     for (std::size_t i = 0; i < row.size(); ++i) {
-        if (std::holds_alternative<std::string>(row[i])) continue;
+        if (!is_number(row[i])) continue;
         all.push_back(lead);
         all.back().quantity = &table.columns[i];
         all.back().value = row[i];
@@ -46,9 +39,22 @@ void add_row(const Section& section, const Table& table, const std::vector<Cell>
 
 }  // namespace
 
-std::string Number::text() const
+bool is_number(const Cell& cell)
 {
-    return shown(value);
+    return !std::holds_alternative<std::string>(cell);
+}
+
+std::string text(const Cell& cell)
+{
+    return std::visit([](const auto& value) { return fmt::format("{}", value); }, cell);
+}
+
+std::string text_of(const Table& table, const std::vector<Cell>& row, std::string_view key)
+{
+    for (std::size_t i = 0; i < row.size(); ++i)
+        if (const auto* text = std::get_if<std::string>(&row[i]); text && table.columns[i].key == key)
+            return *text;
+    return {};
 }
 
 std::string Number::key() const

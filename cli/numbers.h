@@ -19,8 +19,13 @@ struct Number {
 
     // The path that a sweep heads a column with.
     std::string key() const;
-    std::string text() const;
 };
+
+bool is_number(const Cell& cell);
+// With every digit.
+std::string text(const Cell& cell);
+// The text of the named column, empty in a table without it.
+std::string text_of(const Table& table, const std::vector<Cell>& row, std::string_view key);
 
 // In the order of the report, which has to outlive them.
 std::vector<Number> numbers(const Report& report);

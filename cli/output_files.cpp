@@ -33,7 +33,8 @@ void write_pages(const std::string& text, Host& host)
 // A page cannot hold the line ends of a title.
 std::string page_title(std::string title)
 {
-    std::ranges::replace_if(title, [](char c) { return c == '\n' || c == '\r' || c == '\f'; }, ' ');
+    std::ranges::replace_if(
+        title, [](char c) { return c == '\n' || c == '\r' || c == '\f'; }, ' ');
     return title;
 }
 
@@ -48,8 +49,8 @@ void summarize(const std::string& stream, Host& host)
     const auto r = polymer_results(stream, host);
     if (!has_polymer(r)) return;
     const auto sites = static_cast<Int>(std::max<std::size_t>(r.mass.size() - 1, 1));
-    POLY_WRTPOLSUM(host.summary().context(stream), &sites, r.mass.data(), r.segment_weight.data(), r.mn.data(),
-                   r.mw.data(), r.dpn.data(), r.dpw.data(), r.pdi.data());
+    POLY_WRTPOLSUM(host.summary().context(stream), &sites, r.mass.data(), r.segment_weight.data(),
+                   r.mn.data(), r.mw.data(), r.dpn.data(), r.dpw.data(), r.pdi.data());
 }
 
 void publish_all(Evaluation& e)
@@ -66,15 +67,14 @@ void publish_all(Evaluation& e)
 std::string file_part(std::string name)
 {
     std::ranges::replace_if(
-        name, [](char c) { return !std::isalnum(static_cast<unsigned char>(c)) && c != '-' && c != '_'; }, '_');
+        name, [](char c) { return !std::isalnum(static_cast<unsigned char>(c)) && c != '-' && c != '_'; },
+        '_');
     return name;
 }
 
 std::string wide_csv(const Table& table)
 {
-    const auto field = [](const Cell& cell) {
-        return fmt::format("{}", std::get<double>(cell));
-    };
+    const auto field = [](const Cell& cell) { return fmt::format("{}", std::get<double>(cell)); };
     std::string csv;
     for (const auto& column : table.columns)
         csv += fmt::format("{}{}", csv.empty() ? "" : ",", csv_field(column.key));
@@ -99,10 +99,10 @@ void check_unique(const std::vector<OutputFile>& files)
 {
     for (auto file = files.begin(); file != files.end(); ++file)
         if (std::find_if(files.begin(), file, [&](const auto& f) { return f.name == file->name; }) != file)
-            throw std::runtime_error{
-                fmt::format("two distributions would be written to {}; expected names that differ in more than "
-                            "punctuation",
-                            file->name)};
+            throw std::runtime_error{fmt::format(
+                "two distributions would be written to {}; expected names that differ in more than "
+                "punctuation",
+                file->name)};
 }
 
 }  // namespace
@@ -129,8 +129,8 @@ void write_files(const std::filesystem::path& directory, const std::vector<Outpu
         for (const auto& file : files) minihost::write_whole_file(staging / file.name, file.content);
         for (const auto& file : files)
             if (std::filesystem::is_directory(directory / file.name))
-                throw std::runtime_error{
-                    fmt::format("{}: cannot be written: it is a directory", (directory / file.name).string())};
+                throw std::runtime_error{fmt::format("{}: cannot be written: it is a directory",
+                                                     (directory / file.name).string())};
         for (const auto& file : files) std::filesystem::rename(staging / file.name, directory / file.name);
     } catch (...) {
         std::filesystem::remove_all(staging);

@@ -7,8 +7,8 @@
 
 namespace cli {
 
-// A key as diagnostics write it: `streams.FEED.attributes.PS.ZMOM`, `distributions.PE.sites[2].tau`, a part with
-// other characters than letters, digits, - and _ in quotes; elements of arrays count from 1.
+// A key as diagnostics write it: `streams.FEED.attributes.PS.ZMOM`, `distributions.PE.sites[2].tau`, a part
+// with other characters than letters, digits, - and _ in quotes; elements of arrays count from 1.
 struct Override {
     std::string key;
     double value = 0;

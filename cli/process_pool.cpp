@@ -121,7 +121,8 @@ void run_tasks(const std::vector<std::size_t>& tasks, const PoolOptions& options
     Pool pool{work};
     auto next = tasks.begin();
     for (;;) {
-        while (next != tasks.end() && pool.running() < options.processes && !options.is_stopped()) pool.start(*next++);
+        while (next != tasks.end() && pool.running() < options.processes && !options.is_stopped())
+            pool.start(*next++);
         if (pool.running() == 0) return;
         for (const auto& outcome : pool.wait()) done(outcome);
     }

@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include "cli/numbers.h"
 #include "cli/report_tables.h"
 
 namespace cli {
@@ -70,21 +71,21 @@ Section reactor_section(const ReactorResults& results)
 
 }  // namespace
 
-Report make_report(const Case& input, const Results& results)
+Report make_report(const Case& input, const CheckedInput& checked, const Results& results)
 {
-    Report report{input.title, {}};
+    Report report{input.title, input.file, checked.messages, {}, {}};
     for (const auto& stream : results.streams) report.sections.push_back(stream_section(stream, input));
     for (const auto& reactor : results.reactors) report.sections.push_back(reactor_section(reactor));
     return report;
 }
 
-Report make_conversion_report(const Case& input, const std::string& stream,
+Report make_conversion_report(const Case& input, const CheckedInput& checked, const std::string& stream,
                               const std::vector<Composition>& compositions)
 {
     std::vector<Table> tables;
     for (const auto& composition : compositions) tables.push_back(composition_table(composition));
     tables.push_back(closure_table(compositions));
-    return {input.title, {stream_section(stream, std::move(tables))}};
+    return {input.title, input.file, checked.messages, {}, {stream_section(stream, std::move(tables))}};
 }
 
 std::vector<std::string> not_finite(const Report& report)
@@ -97,7 +98,7 @@ std::vector<std::string> not_finite(const Report& report)
                     if (const auto* value = std::get_if<double>(&row[i]); value && !std::isfinite(*value))
                         found.push_back(fmt::format("{}s.{}: {} of {} is {}; expected a finite result",
                                                     section.kind, section.name, table.columns[i].key,
-                                                    std::get<std::string>(row.front()), *value));
+                                                    text(row.front()), *value));
     return found;
 }
 

@@ -6,7 +6,7 @@
 #include <variant>
 #include <vector>
 
-#include "cli/case.h"
+#include "cli/load.h"
 #include "cli/results.h"
 
 namespace cli {
@@ -16,7 +16,7 @@ using Cell = std::variant<std::string, double, Int>;
 struct Column {
     std::string key;      // stable name in CSV and JSON
     std::string heading;  // as text shows it
-    std::string unit;     // of a number; "1" for a ratio, empty for a text
+    std::string unit;     // "1" for a ratio; empty for texts, counts and codes
 };
 
 struct Table {
@@ -38,13 +38,19 @@ struct Section {
 
 struct Report {
     std::string title;
+    std::string file;
+    std::vector<PlacedMessage> messages;  // shown by JSON alone: in the other formats they go elsewhere
+    std::vector<Table> input;             // what was built from the polymer paragraph
     std::vector<Section> sections;
 };
 
-Report make_report(const Case& input, const Results& results);
+Report make_report(const Case& input, const CheckedInput& checked, const Results& results);
+
+// What was built, and nothing but the messages when there is one.
+Report make_input_report(const Case& input, const CheckedInput& checked);
 
 // The composition of one stream on the basis `from` and on the basis `to`.
-Report make_conversion_report(const Case& input, const std::string& stream,
+Report make_conversion_report(const Case& input, const CheckedInput& checked, const std::string& stream,
                               const std::vector<Composition>& compositions);
 
 // One line for each number of the report that is not finite.

@@ -102,7 +102,7 @@ Table property_table(const std::vector<Property>& properties, const std::vector<
 Table polymer_made_table(const std::vector<PolymerMade>& made)
 {
     Table table{"polymer_made",
-                "Polymer made by site type",
+                "Polymer made",
                 {{"site", "Site type", ""},
                  {"mass_flow", "Mass flow", "kg/h"},
                  {"mean_segment_weight", "Mean segment weight", "g/mol"},

@@ -2,6 +2,8 @@
 
 #include <polyprops/polyprops.h>
 
+#include "cli/built.h"
+
 namespace cli {
 
 namespace {
@@ -37,9 +39,10 @@ std::vector<ChainAverages> chain_averages(const StreamList& list, const Host& ho
     return averages;
 }
 
-std::vector<SegmentShare> segment_shares(const std::vector<Int>& chains, const Case& input, const Host& host)
+std::vector<SegmentShare> segment_shares(const std::vector<Int>& chains, Host& host)
 {
-    const auto segments = input.segment_ids();
+    const auto segments = segment_list(host);
+    if (segments.empty()) return {};
     const auto n = static_cast<Int>(chains.size());
     const auto rows = static_cast<Int>(segments.size());
     std::vector<double> mass(chains.size() * segments.size());
@@ -49,8 +52,8 @@ std::vector<SegmentShare> segment_shares(const std::vector<Int>& chains, const C
         std::vector<double> mole(segments.size());
         POLY_GETSMF(&selector, &chains[i], mole.data());
         for (std::size_t s = 0; s < segments.size(); ++s)
-            shares.push_back({host.components().at(chains[i]).id, std::string{segments[s]}, mole[s],
-                              mass[i * segments.size() + s]});
+            shares.push_back(
+                {host.components().at(chains[i]).id, segments[s], mole[s], mass[i * segments.size() + s]});
     }
     return shares;
 }
@@ -60,7 +63,7 @@ StreamResults evaluate(const std::string& name, const Case& input, Host& host)
     const auto list = list_stream(name, host);
     return {name,
             chain_averages(list, host),
-            segment_shares(list.chains(), input, host),
+            segment_shares(list.chains(), host),
             compositions(list, host),
             segment_counts(list, host),
             chain_weights(list, host),

@@ -1,4 +1,4 @@
-#include "cli/run.h"
+#include "cli/commands.h"
 
 #include <fmt/format.h>
 

@@ -1,10 +1,10 @@
 #include "cli/selfcheck.h"
 
-#include <CLI/Version.hpp>
 #include <fmt/format.h>
 #include <gnu/libc-version.h>
-#include <nlohmann/json.hpp>
 #include <sys/utsname.h>
+#include <CLI/Version.hpp>
+#include <nlohmann/json.hpp>
 
 #include <cmath>
 #include <optional>
@@ -20,8 +20,8 @@ namespace cli {
 
 namespace {
 
-// Equal masses of polystyrene of 10 000, 30 000 and 100 000 g/mol, each of one chain length; a site whose chains
-// end with the probability 0.1 on the grid 10, 100; a pair at its reference temperature.
+// Equal masses of polystyrene of 10 000, 30 000 and 100 000 g/mol, each of one chain length; a site whose
+// chains end with the probability 0.1 on the grid 10, 100; a pair at its reference temperature.
 constexpr std::string_view built_in_case = R"(
 title = "Built-in case"
 
@@ -122,10 +122,10 @@ void print_versions(std::FILE* out)
                POLYPROPS_BUILD_TYPE);
     fmt::print(out, "libraries toml++ {}.{}.{}, CLI11 {}, fmt {}.{}.{}, JSON {}.{}.{}, Chart.js {}\n",
                TOML_LIB_MAJOR, TOML_LIB_MINOR, TOML_LIB_PATCH, CLI11_VERSION, FMT_VERSION / 10000,
-               FMT_VERSION / 100 % 100, FMT_VERSION % 100, NLOHMANN_JSON_VERSION_MAJOR, NLOHMANN_JSON_VERSION_MINOR,
-               NLOHMANN_JSON_VERSION_PATCH, chart_version());
-    fmt::print(out, "system    {} {} {}, glibc {}, {} cores\n\n", system.sysname, system.release, system.machine,
-               ::gnu_get_libc_version(), std::thread::hardware_concurrency());
+               FMT_VERSION / 100 % 100, FMT_VERSION % 100, NLOHMANN_JSON_VERSION_MAJOR,
+               NLOHMANN_JSON_VERSION_MINOR, NLOHMANN_JSON_VERSION_PATCH, chart_version());
+    fmt::print(out, "system    {} {} {}, glibc {}, {} cores\n\n", system.sysname, system.release,
+               system.machine, ::gnu_get_libc_version(), std::thread::hardware_concurrency());
 }
 
 }  // namespace
@@ -139,7 +139,9 @@ int selfcheck(std::FILE* out)
     } catch (const std::exception& error) {
         fmt::print(out, "FAILED  {}\n", error.what());
     }
-    fmt::print(out, "\n{}\n", is_good ? "Everything agrees." : "This build gives wrong answers. Please report it with all of the above.");
+    fmt::print(out, "\n{}\n",
+               is_good ? "Everything agrees."
+                       : "This build gives wrong answers. Please report it with all of the above.");
     return is_good ? exit_success : exit_case_error;
 }
 

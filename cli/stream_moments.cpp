@@ -43,8 +43,9 @@ StreamMoments stream_moments(const std::string& stream, Host& host)
     const auto results = static_cast<Int>(n);
     const std::vector<double> none(n);
     StreamMoments moments{none, none, none, none};
-    POLY_GETMOMENTS(view.values, &substreams, view.first_flow.data(), view.types.data(), weights.data(), &results,
-                    moments.zeroth.data(), moments.first.data(), moments.second.data(), moments.mass.data());
+    POLY_GETMOMENTS(view.values, &substreams, view.first_flow.data(), view.types.data(), weights.data(),
+                    &results, moments.zeroth.data(), moments.first.data(), moments.second.data(),
+                    moments.mass.data());
     return moments;
 }
 
@@ -60,8 +61,8 @@ PolymerResults polymer_results(const std::string& stream, Host& host)
     const std::vector<double> none(n);
     PolymerResults r{none, none, none, none, none, none, none};
     POLY_POLYRESULTS(empty.data(), view.values, &substreams, view.first_flow.data(), view.types.data(),
-                     weights.data(), &results, r.mass.data(), r.segment_weight.data(), r.mn.data(), r.mw.data(),
-                     r.dpn.data(), r.dpw.data(), r.pdi.data());
+                     weights.data(), &results, r.mass.data(), r.segment_weight.data(), r.mn.data(),
+                     r.mw.data(), r.dpn.data(), r.dpw.data(), r.pdi.data());
     return r;
 }
 

@@ -8,7 +8,8 @@
 
 namespace cli {
 
-// One entry per site type and the total last; the total alone in a stream whose polymers carry no site moments.
+// One entry per site type and the total last; the total alone in a stream whose polymers carry no site
+// moments.
 struct StreamMoments {
     std::vector<double> zeroth, first, second;  // kmol/h
     std::vector<double> mass;                   // kg/h
@@ -18,10 +19,10 @@ struct StreamMoments {
 StreamMoments stream_moments(const std::string& stream, minihost::Host& host);
 
 struct PolymerResults {
-    std::vector<double> mass;                // kg/h
-    std::vector<double> segment_weight;      // g/mol
-    std::vector<double> mn, mw;              // g/mol
-    std::vector<double> dpn, dpw, pdi;       // 1
+    std::vector<double> mass;            // kg/h
+    std::vector<double> segment_weight;  // g/mol
+    std::vector<double> mn, mw;          // g/mol
+    std::vector<double> dpn, dpw, pdi;   // 1
 };
 PolymerResults polymer_results(const std::string& stream, minihost::Host& host);
 

@@ -52,7 +52,8 @@ private:
 std::string one_line(const std::vector<std::string>& lines)
 {
     auto text = fmt::format("{}", fmt::join(lines, "; "));
-    std::ranges::replace_if(text, [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    std::ranges::replace_if(
+        text, [](char c) { return c == '\n' || c == '\r'; }, ' ');
     return text;
 }
 
@@ -74,11 +75,13 @@ public:
     // Columns are those of the case as it stands, which therefore has to be sound.
     void learn_columns()
     {
-        run_tasks({0}, {}, [this](std::size_t) { return columns_of_case(); }, [this](const TaskOutcome& outcome) {
-            if (!outcome.result) throw std::runtime_error{options_.file.string() + ": " + outcome.why};
-            if (outcome.result->starts_with('!')) throw std::runtime_error{outcome.result->substr(1)};
-            add_columns(*outcome.result);
-        });
+        run_tasks(
+            {0}, {}, [this](std::size_t) { return columns_of_case(); },
+            [this](const TaskOutcome& outcome) {
+                if (!outcome.result) throw std::runtime_error{options_.file.string() + ": " + outcome.why};
+                if (outcome.result->starts_with('!')) throw std::runtime_error{outcome.result->substr(1)};
+                add_columns(*outcome.result);
+            });
         Diagnostics ignored;
         parse_case(text_, options_.file.string(), ignored, grid_.overrides(0));  // keys that lead nowhere
     }
@@ -91,19 +94,21 @@ public:
         for (std::size_t number = 1; number <= grid_.size(); ++number)
             if (!journal.rows().contains(number)) missing.push_back(number);
         const Interruption interruption;
-        run_tasks(missing, {processes(), [] { return is_interrupted != 0; }},
-                  [this](std::size_t number) { return row(number); }, [&](const TaskOutcome& outcome) {
-                      journal.add(outcome.task,
-                                  outcome.result.value_or(failed_row(outcome.task, outcome.why)));
-                      if (is_shown) show_progress(journal.rows().size(), errors);
-                  });
+        run_tasks(
+            missing, {processes(), [] { return is_interrupted != 0; }},
+            [this](std::size_t number) { return row(number); },
+            [&](const TaskOutcome& outcome) {
+                journal.add(outcome.task, outcome.result.value_or(failed_row(outcome.task, outcome.why)));
+                if (is_shown) show_progress(journal.rows().size(), errors);
+            });
         return conclude(journal, errors);
     }
 
 private:
     std::size_t processes() const
     {
-        return options_.processes > 0 ? options_.processes : std::max(1u, std::thread::hardware_concurrency());
+        return options_.processes > 0 ? options_.processes
+                                      : std::max(1u, std::thread::hardware_concurrency());
     }
 
     Evaluation evaluate(const std::vector<Override>& overrides) const
@@ -169,11 +174,12 @@ private:
                 if (place == places_.end())
                     ++unknown;
                 else
-                    values[place->second] = n.text();
+                    values[place->second] = text(n.value);
             }
             auto errors = evaluation.errors;
             if (unknown > 0)
-                errors.push_back(fmt::format("{} results have no column: the case as it stands lacks them", unknown));
+                errors.push_back(
+                    fmt::format("{} results have no column: the case as it stands lacks them", unknown));
             auto line = lead(number);
             for (const auto& value : values) line += "," + value;
             return line + "," + csv_field(one_line(errors));
@@ -202,8 +208,10 @@ private:
     {
         const auto done = journal.rows().size();
         if (done < grid_.size()) {
-            fmt::print(errors, "polyprops: interrupted after {} of {} cases; the same command goes on from there ({})\n",
-                       done, grid_.size(), journal.file().string());
+            fmt::print(
+                errors,
+                "polyprops: interrupted after {} of {} cases; the same command goes on from there ({})\n",
+                done, grid_.size(), journal.file().string());
             return exit_interrupted;
         }
         journal.finish();

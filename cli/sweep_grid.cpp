@@ -62,7 +62,8 @@ SweepGrid::SweepGrid(std::vector<SweepRange> ranges) : ranges_(std::move(ranges)
 {
     std::set<std::string> keys;
     for (const auto& range : ranges_) {
-        if (!keys.insert(range.key).second) throw std::invalid_argument{"--set names " + range.key + " twice"};
+        if (!keys.insert(range.key).second)
+            throw std::invalid_argument{"--set names " + range.key + " twice"};
         if (range.count > most_cases / size_)
             throw std::invalid_argument{fmt::format("the sweep has more than {} cases", most_cases)};
         size_ *= range.count;

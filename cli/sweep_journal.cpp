@@ -12,14 +12,16 @@
 
 namespace cli {
 
-SweepJournal::SweepJournal(const std::filesystem::path& result, const std::string& sweep, const std::string& header)
+SweepJournal::SweepJournal(const std::filesystem::path& result, const std::string& sweep,
+                           const std::string& header)
     : result_(result), file_(result.string() + ".partial"), header_(header)
 {
     const bool is_new = !std::filesystem::exists(file_);
     if (!is_new) take_up(sweep);
     stream_.reset(std::fopen(file_.c_str(), "ab"));
     if (!stream_)
-        throw std::runtime_error{fmt::format("{}: cannot be written: {}", file_.string(), std::strerror(errno))};
+        throw std::runtime_error{
+            fmt::format("{}: cannot be written: {}", file_.string(), std::strerror(errno))};
     if (is_new) append(sweep + "\n" + header_ + "\n");
 }
 
@@ -28,10 +30,10 @@ void SweepJournal::take_up(const std::string& sweep)
 {
     const auto text = file_contents(file_);
     if (!text.starts_with(sweep + "\n" + header_ + "\n"))
-        throw std::runtime_error{
-            fmt::format("{}: belongs to another sweep, or to another state of the case; expected one of this sweep, "
-                        "or none: remove it, or write elsewhere with --out",
-                        file_.string())};
+        throw std::runtime_error{fmt::format(
+            "{}: belongs to another sweep, or to another state of the case; expected one of this sweep, "
+            "or none: remove it, or write elsewhere with --out",
+            file_.string())};
     std::size_t at = sweep.size() + header_.size() + 2;
     for (auto end = text.find('\n', at); end != text.npos; at = end + 1, end = text.find('\n', at)) {
         std::size_t number = 0;
@@ -43,8 +45,10 @@ void SweepJournal::take_up(const std::string& sweep)
 
 void SweepJournal::append(const std::string& line)
 {
-    if (std::fwrite(line.data(), 1, line.size(), stream_.get()) != line.size() || std::fflush(stream_.get()) != 0)
-        throw std::runtime_error{fmt::format("{}: cannot be written: {}", file_.string(), std::strerror(errno))};
+    if (std::fwrite(line.data(), 1, line.size(), stream_.get()) != line.size() ||
+        std::fflush(stream_.get()) != 0)
+        throw std::runtime_error{
+            fmt::format("{}: cannot be written: {}", file_.string(), std::strerror(errno))};
 }
 
 void SweepJournal::add(std::size_t number, const std::string& row)

@@ -5,8 +5,9 @@
 // as minihost::Error, also through a routine of the library that called a service.
 //
 //   Host host{components};
-//   host.set_polymer_block(lay_polymer_block(host.store(), lists));
-//   host.attributes().carry(host.components().index("PS"), {"ZMOM", "SFLOW"});
+//   host.paragraph().set({PolymerSentence{{"PS"}}, SegmentSentence{{{"STY-R", 2}}},
+//                         AttributeSentence{{{"PS", {"ZMOM", "SFLOW"}}}}});
+//   POLY_POLSEM(&unused, &check, host.semantics_context(), host.paragraph().handle(), &unused, &status);
 //   host.add_stream({"FEED", {{.flows = {{"PS", 1.0}}, .attributes = {{"PS", {{"ZMOM", {0.1}}}}}}}});
 //   host.select_stream("FEED");
 #ifndef MINIHOST_HOST_H
@@ -23,7 +24,6 @@
 #include "minihost/keywords.h"
 #include "minihost/messages.h"
 #include "minihost/paragraph.h"
-#include "minihost/polymer_block.h"
 #include "minihost/property_sentences.h"
 #include "minihost/report_file.h"
 #include "minihost/store.h"

@@ -37,8 +37,8 @@ void PolymerData::ensure(unsigned parts)
     located_ |= parts;
     if (!exists() || wanted == 0) return;
 
-    const Position block = find_integers(id_);
-    const auto id_in = [&](Word word) { return integer_at(block + (static_cast<Int>(word) - 1)); };
+    if (block_ == nowhere) block_ = find_integers(id_);
+    const auto id_in = [&](Word word) { return integer_at(block_ + (static_cast<Int>(word) - 1)); };
     const auto list_in = [&](Word word) { return list_at(find_integers(id_in(word))); };
     if (wanted & segment_list) segments_ = list_in(Word::segments);
     if (wanted & polymer_list) polymers_ = list_in(Word::polymers);

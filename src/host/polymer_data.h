@@ -79,8 +79,11 @@ private:
         return list;
     }
 
+    static constexpr Position nowhere{0};
+
     bool asked_ = false;
     Int id_ = 0;
+    Position block_ = nowhere;
     unsigned located_ = 0;
     ComponentList segments_;
     ComponentList polymers_;

@@ -16,6 +16,9 @@ using Parameters = PairArray<const Real>;
 
 Coefficients coefficients(const Parameters& parameters, Int i, Int j)
 {
+    if (parameters.has_position(5))
+        return {parameters(1, i, j), parameters(2, i, j), parameters(3, i, j), parameters(4, i, j),
+                parameters(5, i, j)};
     return {parameters.value(1, i, j), parameters.value(2, i, j), parameters.value(3, i, j),
             parameters.value(4, i, j), parameters.value(5, i, j)};
 }

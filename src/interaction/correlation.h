@@ -26,14 +26,17 @@ struct Coefficients {
 // the pair before it costs no second division and no second logarithm.
 class ReducedTemperature {
 public:
-    explicit ReducedTemperature(Real temperature) : temperature_(temperature) {}
-    ReducedTemperature(Real temperature, Real reference) : temperature_(temperature) { refer_to(reference); }
+    // Against 1 K until it is referred to another temperature.
+    explicit ReducedTemperature(Real temperature) : temperature_(temperature), x_(temperature) {}
+    ReducedTemperature(Real temperature, Real reference) : ReducedTemperature(temperature)
+    {
+        refer_to(reference);
+    }
 
     void refer_to(Real reference)
     {
         // Compared by bits: zeros of different sign do not give the same x.
-        if (has_reference_ && std::bit_cast<Int>(reference) == std::bit_cast<Int>(reference_)) return;
-        has_reference_ = true;
+        if (std::bit_cast<Int>(reference) == std::bit_cast<Int>(reference_)) return;
         has_logarithm_ = false;
         reference_ = reference;
         x_ = temperature_ / reference;
@@ -51,10 +54,9 @@ public:
 
 private:
     Real temperature_;
-    Real reference_ = 0.0;
-    Real x_ = 0.0;
+    Real reference_ = 1.0;
+    Real x_;
     Real logarithm_ = 0.0;
-    bool has_reference_ = false;
     bool has_logarithm_ = false;
 };
 

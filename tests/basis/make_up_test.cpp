@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 #include <polyprops/polyprops.h>
 
-#include "minihost/polymer_block.h"
 #include "minihost/service_log.h"
 #include "support/arguments.h"
 #include "support/world.h"
@@ -133,10 +132,10 @@ TEST(ListMakeUp, OfRepeatedEntriesScalesTwiceAsksOnceAndStaysWithinTheComponents
 TEST(OligomerInTwoColumns, BringsBothToItsMakeUpAndTheLastToTheList)
 {
     auto world = segments().oligomer("O", {});
-    minihost::PolymerLists lists;
+    PolymerLists lists;
     lists.segments = {{2}, {3}, {4}};
     lists.oligomers = {{5, {{2, 1}, {3, 1}}}, {5, {{3, 3}, {4, 1}}}};
-    world.host().set_polymer_block(minihost::lay_polymer_block(world.host().store(), lists));
+    world.host().set_polymer_block(lay_polymer_block(world.host().store(), lists));
     EXPECT_EQ(make_up(world), (Values{4, 2, 3, 3, 4, 1, 1, 3, 1}));
     const ListMakeUp m(world, {5});
     EXPECT_EQ(m.amounts(5), (Values{0.5, 1.5, 0.5})) << "amounts of the earlier column stay";

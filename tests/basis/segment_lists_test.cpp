@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 #include <polyprops/polyprops.h>
 
-#include "minihost/polymer_block.h"
 #include "support/arguments.h"
 #include "support/world.h"
 
@@ -101,9 +100,9 @@ TEST(SegmentLists, FromAttributesSkipChainsWithoutSegmentData)
     EXPECT_EQ(convert(4, 0), (List{{7, 2, 3}, {1, 8, 16}}));
     EXPECT_EQ(convert(4, 1).amounts, (Values{1.0 / 25, 8.0 / 25, 16.0 / 25}));
     EXPECT_EQ(convert(0, 1), List{});
-    minihost::PolymerLists lists;
+    PolymerLists lists;
     lists.segments = {{2}, {3}};
-    const auto segments_alone = minihost::lay_polymer_block(world.host().store(), lists);
+    const auto segments_alone = lay_polymer_block(world.host().store(), lists);
     for (const minihost::BlockId block : {minihost::BlockId{0}, segments_alone}) {
         world.host().set_polymer_block(block);
         EXPECT_EQ(convert(4, 0), (List{{7}, {1}}));

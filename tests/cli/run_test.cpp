@@ -1,69 +1,17 @@
 #include <gtest/gtest.h>
 
-#include <cstdio>
-#include <fstream>
-#include <nlohmann/json.hpp>
+#include <map>
 #include <sstream>
 
 #include "cli/case_reader.h"
-#include "cli/commands.h"
 #include "cli/load.h"
+#include "cli/program.h"
 #include "cli/report.h"
 
 namespace {
 
+using namespace cli_test;
 using cli::Format;
-using Json = nlohmann::json;
-
-const std::filesystem::path examples{POLYPROPS_EXAMPLES};
-
-// A file without a name, read back after the program wrote to it.
-class Capture {
-public:
-    ~Capture() { std::fclose(file); }
-    std::string text() const
-    {
-        std::rewind(file);
-        std::string all;
-        for (int c = std::fgetc(file); c != EOF; c = std::fgetc(file)) all += static_cast<char>(c);
-        return all;
-    }
-    std::FILE* file = std::tmpfile();
-};
-
-struct Outcome {
-    int status;
-    std::string out;
-    std::string errors;
-};
-
-Outcome run(const std::filesystem::path& file, Format format)
-{
-    Capture out;
-    Capture errors;
-    const int status = cli::run(file, format, out.file, errors.file);
-    return {status, out.text(), errors.text()};
-}
-
-Json run_json(const std::string& example)
-{
-    const auto [status, out, errors] = run(examples / example, Format::json);
-    EXPECT_EQ(status, 0) << errors;
-    return Json::parse(out);
-}
-
-// The row of a table that holds these texts.
-Json row(const Json& report, const std::string& stream, const std::string& table, const Json& texts)
-{
-    for (const auto& s : report["streams"])
-        for (const auto& r : s[table]) {
-            auto merged = r;
-            merged.update(texts);
-            if (s["name"] == stream && merged == r) return r;
-        }
-    ADD_FAILURE() << stream << " has no row " << texts << " in " << table;
-    return {};
-}
 
 TEST(Examples, GiveTheAveragesThatTheirCommentsDerive)
 {
@@ -121,27 +69,43 @@ TEST(Run, TextShowsUnitsAndLeavesOutWhatDoesNotFlow)
     EXPECT_EQ(feed.find("Segment fractions"), std::string::npos);
 }
 
+// Numbers in the tables of a report.
+std::size_t count_numbers(const Json& json)
+{
+    if (!json.is_structured()) return json.is_number_float() ? 1 : 0;
+    std::size_t numbers = 0;
+    for (const auto& element : json) numbers += count_numbers(element);
+    return numbers;
+}
+
 TEST(Run, CsvHoldsTheNumbersOfJson)
 {
-    const auto json = run_json("nylon6-oligomers.toml");
-    std::istringstream csv{run(examples / "nylon6-oligomers.toml", Format::csv).out};
-    std::string line;
-    std::getline(csv, line);
-    EXPECT_EQ(line, "stream,table,component,segment,quantity,value,unit");
-    std::size_t numbers = 0;
-    while (std::getline(csv, line)) {
-        std::istringstream fields{line};
-        std::string stream, table, component, segment, quantity, value, unit;
-        for (auto* field : {&stream, &table, &component, &segment, &quantity, &value, &unit})
-            std::getline(fields, *field, ',');
-        Json texts{{"component", component}};
-        if (!segment.empty()) texts["segment"] = segment;
-        EXPECT_EQ(row(json, stream, table, texts)[quantity].get<double>(), std::stod(value)) << line;
-        EXPECT_EQ(json["units"][table][quantity], unit) << line;
-        ++numbers;
+    const std::map<std::string, std::string> items{
+        {"closures", "basis"}, {"chain_weights", "average"}, {"polymer_made", "site"}};
+    for (const char* example : {"nylon6-oligomers.toml", "slurry-hdpe.toml"}) {
+        const auto json = run_json(example);
+        std::istringstream csv{run(examples / example, Format::csv).out};
+        std::string line;
+        std::getline(csv, line);
+        EXPECT_EQ(line, "section,name,table,item,component,segment,quantity,value,unit");
+        std::size_t numbers = 0;
+        while (std::getline(csv, line)) {
+            std::istringstream fields{line};
+            std::string section, name, table, item, component, segment, quantity, value, unit;
+            for (auto* field :
+                 {&section, &name, &table, &item, &component, &segment, &quantity, &value, &unit})
+                std::getline(fields, *field, ',');
+            auto texts = Json::object();
+            if (!item.empty()) texts[items.at(table)] = item;
+            if (!component.empty()) texts["component"] = component;
+            if (!segment.empty()) texts["segment"] = segment;
+            EXPECT_EQ(row(json, name, table, texts)[quantity].get<double>(), std::stod(value)) << line;
+            EXPECT_EQ(json["units"][table][quantity], unit) << line;
+            ++numbers;
+        }
+        EXPECT_EQ(numbers, count_numbers(json));
+        EXPECT_EQ(json["schema_version"], 1);
     }
-    EXPECT_EQ(numbers, (7 + 4) * 6 + (5 + 3) * 3 * 2u);
-    EXPECT_EQ(json["schema_version"], 1);
 }
 
 TEST(Run, ACaseInErrorOrWithoutFileExitsWithOneAndPrintsNoResults)
@@ -179,7 +143,10 @@ LISTED = { flows = { P = 1 }, attributes.P = { ZMOM = 0.5, SMOM = 50, SFLOW = [1
     cli::Diagnostics diagnostics;
     const auto input = cli::parse_case(text, "c.toml", diagnostics);
     ASSERT_TRUE(diagnostics.empty()) << diagnostics.lines("c.toml").front();
-    for (const auto& stream : cli::evaluate(input, *cli::load(input))) {
+    const auto checked = cli::check_input(input);
+    EXPECT_TRUE(checked.messages.empty());
+    EXPECT_TRUE(cli::add_streams(input, checked).empty());
+    for (const auto& stream : cli::evaluate(input, *checked.host).streams) {
         SCOPED_TRACE(stream.stream);
         EXPECT_EQ(stream.shares.at(0).segment, "A-R");
         EXPECT_EQ(stream.shares.at(0).mole_fraction, 0.25);
@@ -192,11 +159,13 @@ LISTED = { flows = { P = 1 }, attributes.P = { ZMOM = 0.5, SMOM = 50, SFLOW = [1
 
 TEST(Report, NamesEveryNumberThatIsNotFinite)
 {
-    cli::StreamResults results{"S", {{"P", cli::ComponentClass::polymer, 1, 2, 3, 4, 5, 6}}, {}};
+    cli::Results results;
+    results.streams.push_back(
+        {"S", {{"P", cli::ComponentClass::polymer, 1, 2, 3, 4, 5, 6}}, {}, {}, {}, {}, {}});
     const cli::Case input{};
-    EXPECT_TRUE(cli::not_finite(cli::make_report(input, {results})).empty());
-    results.averages[0].pdi = std::numeric_limits<double>::infinity();
-    EXPECT_EQ(cli::not_finite(cli::make_report(input, {results})),
+    EXPECT_TRUE(cli::not_finite(cli::make_report(input, {}, results)).empty());
+    results.streams[0].averages[0].pdi = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(cli::not_finite(cli::make_report(input, {}, results)),
               std::vector<std::string>{"streams.S: pdi of P is inf; expected a finite result"});
 }
 

@@ -12,6 +12,7 @@
 namespace minihost {
 namespace {
 
+using support::SegmentType;
 using support::World;
 
 std::string refusal(const std::function<void()>& action)

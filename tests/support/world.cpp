@@ -183,7 +183,7 @@ minihost::Host& World::host()
 std::unique_ptr<minihost::Host> World::make_host() const
 {
     auto host = std::make_unique<minihost::Host>(components_, options_);
-    host->set_polymer_block(minihost::lay_polymer_block(host->store(), lists()));
+    host->set_polymer_block(lay_polymer_block(host->store(), lists()));
     carry_attributes(*host);
     for (const minihost::Stream& stream : all_streams()) host->add_stream(stream);
     host->select_stream(current_stream);
@@ -191,15 +191,15 @@ std::unique_ptr<minihost::Host> World::make_host() const
     return host;
 }
 
-minihost::PolymerLists World::lists() const
+PolymerLists World::lists() const
 {
-    minihost::PolymerLists lists;
+    PolymerLists lists;
     lists.sites = sites_;
     lists.polymers = indices(polymers_);
     lists.end_segments = indices(end_segments_);
     for (const Segment& segment : segments_) lists.segments.push_back({index(segment.id), segment.type});
     for (const auto& [id, counts] : oligomers_) {
-        minihost::PolymerLists::Oligomer oligomer{.component = index(id), .counts = {}};
+        PolymerLists::Oligomer oligomer{.component = index(id), .counts = {}};
         for (const auto& [segment, count] : counts) oligomer.counts[index(segment)] = count;
         lists.oligomers.push_back(oligomer);
     }

@@ -23,13 +23,13 @@
 #include <vector>
 
 #include "minihost/host.h"
+#include "support/polymer_block.h"
 
 namespace support {
 
 using minihost::ComponentClass;
 using minihost::Int;
 using minihost::Parameter;
-using minihost::SegmentType;
 using Real = double;
 
 inline constexpr double missing = 1e35;
@@ -137,7 +137,7 @@ private:
 
     World& add(minihost::Component component);
     minihost::Component& at(const std::string& id);
-    minihost::PolymerLists lists() const;
+    PolymerLists lists() const;
     std::vector<minihost::Stream> all_streams() const;
     void carry_attributes(minihost::Host& host) const;
     void set_records(minihost::Host& host) const;

@@ -1,4 +1,4 @@
-#include "minihost/polymer_block.h"
+#include "support/polymer_block.h"
 
 #include <algorithm>
 #include <string>
@@ -6,8 +6,11 @@
 #include "minihost/error.h"
 #include "minihost/store.h"
 
-namespace minihost {
+namespace support {
 namespace {
+
+using minihost::Error;
+using minihost::Store;
 
 constexpr Int block_words = 17;
 
@@ -70,7 +73,7 @@ BlockId lay_parameters(Store& store, const PolymerLists& lists)
 
 }  // namespace
 
-BlockId lay_polymer_block(Store& store, const PolymerLists& lists)
+BlockId lay_polymer_block(minihost::Store& store, const PolymerLists& lists)
 {
     PolymerLists sorted = lists;
     const auto by_component = [](const auto& a, const auto& b) { return a.component < b.component; };
@@ -88,4 +91,4 @@ BlockId lay_polymer_block(Store& store, const PolymerLists& lists)
     return id;
 }
 
-}  // namespace minihost
+}  // namespace support

@@ -1,6 +1,7 @@
-// Lays a polymer block with its four lists straight from plain data.
-#ifndef MINIHOST_POLYMER_BLOCK_H
-#define MINIHOST_POLYMER_BLOCK_H
+// Lays a polymer block with its four lists straight from plain data, also such as no paragraph check would
+// build.
+#ifndef TESTS_SUPPORT_POLYMER_BLOCK_H
+#define TESTS_SUPPORT_POLYMER_BLOCK_H
 
 #include <map>
 #include <vector>
@@ -8,8 +9,13 @@
 #include "minihost/words.h"
 
 namespace minihost {
-
 class Store;
+}
+
+namespace support {
+
+using minihost::BlockId;
+using minihost::Int;
 
 /// Segment types as the segment list holds them.
 enum class SegmentType : Int { end = 1, repeat = 2, branch3 = 3, branch4 = 4 };
@@ -32,8 +38,8 @@ struct PolymerLists {
 };
 
 /// Lays the block and returns its id. Throws Error for an oligomer count of a component that is no segment.
-BlockId lay_polymer_block(Store& store, const PolymerLists& lists);
+BlockId lay_polymer_block(minihost::Store& store, const PolymerLists& lists);
 
-}  // namespace minihost
+}  // namespace support
 
 #endif

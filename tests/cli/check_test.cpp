@@ -1,0 +1,277 @@
+// The paragraph check as the program shows it: messages with their places, tables of what was built, and runs
+// that go on without the entries in error.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <nlohmann/json.hpp>
+
+#include "cli/case_reader.h"
+#include "cli/load.h"
+#include "cli/report.h"
+#include "support/capture.h"
+
+namespace {
+
+using cli::Format;
+using Json = nlohmann::json;
+using Lines = std::vector<std::string>;
+
+const std::filesystem::path examples{POLYPROPS_EXAMPLES};
+
+std::string contents(const std::filesystem::path& file)
+{
+    std::ifstream in{file, std::ios::binary};
+    EXPECT_TRUE(in) << file;
+    return {std::istreambuf_iterator<char>{in}, {}};
+}
+
+// Paths as a user in the root of the project sees them.
+std::string shortened(std::string text)
+{
+    const auto prefix = examples.parent_path().string() + "/";
+    for (auto at = text.find(prefix); at != text.npos; at = text.find(prefix)) text.erase(at, prefix.size());
+    return text;
+}
+
+TEST(Check, BadInputIsAnsweredWithEveryMessageOnce)
+{
+    std::string seen;
+    for (const char* file : {"bad-input/no-sentences.toml", "bad-input/no-polymer.toml",
+                             "bad-input/no-segment.toml", "bad-input.toml"}) {
+        const auto [status, out, errors] = support::capture(cli::check, examples / file, Format::text);
+        EXPECT_EQ(status, cli::exit_case_error) << file;
+        EXPECT_EQ(out, "") << file;
+        seen += shortened(errors);
+    }
+    EXPECT_EQ(seen, contents(std::filesystem::path{POLYPROPS_CLI_TESTS} / "bad_input.txt"));
+}
+
+TEST(Check, HasNothingToSayOfTheOtherExamples)
+{
+    for (const auto& file : std::filesystem::directory_iterator{examples}) {
+        if (file.path().extension() != ".toml" || file.path().stem() == "bad-input") continue;
+        SCOPED_TRACE(file.path());
+        const auto [status, out, errors] = support::capture(cli::check, file.path(), Format::text);
+        EXPECT_EQ(status, cli::exit_success);
+        EXPECT_EQ(errors, "");
+        EXPECT_NE(out.find("\nPolymers\n"), out.npos) << out;
+    }
+}
+
+const std::string catalyzed = R"(title = "Catalyzed"
+[components]
+CAT = { molecular_weight = 190 }
+INI = { molecular_weight = 242 }
+B-E = { class = "segment", molecular_weight = 50 }
+A-R = { class = "segment", molecular_weight = 100 }
+O = { class = "oligomer", molecular_weight = 150 }
+P = { class = "polymer", molecular_weight = 100 }
+[polymers]
+segments = [{ id = "A-R", type = "repeat" }, { id = "B-E", type = "end" }]
+polymers = ["P"]
+oligomers = [
+    { id = "O", segments = { A-R = 7 } },
+    { segments = { B-E = 2 } },
+    { id = "O", segments = { A-R = 1.5 } },
+]
+catalysts = [{ id = "CAT", value = 0.25 }]
+initiators = ["INI"]
+sites = { count = 2, integers = [11, 12, 13], real = 1.5 }
+distributions = [
+    { polymer = "P", type = 4, integers = [1, 2, 3], real = 0.5 },
+    { polymer = "P", type = 2, integers = [4, 5, 6] },
+]
+attributes = [
+    { component = "P", names = ["ZMOM", "SFLOW"] },
+    { component = "CAT", names = ["CPSFLOW", "CVSFLOW"] },
+]
+[[catalyst_scaling]]
+component = "CAT"
+attribute = "CVSFLOW"
+first = 2.0
+[streams.S]
+flows = { CAT = 1, P = 1 }
+attributes.P = { ZMOM = 0.5, SFLOW = [0.5, 0.5] }
+attributes.CAT = { CPSFLOW = [1, 2] }
+)";
+
+// A case in a file of its own for the time of a test.
+class CaseFile {
+public:
+    explicit CaseFile(const std::string& text) { std::ofstream{path} << text; }
+    ~CaseFile() { std::filesystem::remove(path); }
+    // Tests run side by side.
+    const std::filesystem::path path =
+        std::filesystem::path{testing::TempDir()} /
+        (std::string{testing::UnitTest::GetInstance()->current_test_info()->name()} + ".toml");
+};
+
+std::string with(std::string text, const std::string& old, const std::string& replacement)
+{
+    const auto at = text.find(old);
+    EXPECT_NE(at, std::string::npos) << old;
+    return text.replace(at, old.size(), replacement);
+}
+
+TEST(Check, ShowsWhatWasBuilt)
+{
+    const CaseFile file{catalyzed};
+    const auto [status, out, errors] = support::capture(cli::check, file.path, Format::json);
+    ASSERT_EQ(status, cli::exit_success) << errors;
+    auto input = Json::parse(out)["input"];
+    EXPECT_EQ(input["attribute_layout"][6], Json::parse(R"({"group": 7, "start": 19, "length": 3})"));
+    input.erase("attribute_layout");
+    EXPECT_EQ(input, Json::parse(R"({
+        "segments": [{"segment": "B-E", "type_name": "end", "type": 1, "position": 1},
+                     {"segment": "A-R", "type_name": "repeat", "type": 2, "position": 2}],
+        "polymers": [{"component": "P", "position": 1}],
+        "oligomers": [{"component": "O", "segment": "B-E", "count": 2.0},
+                      {"component": "O", "segment": "A-R", "count": 1.5}],
+        "catalysts": [{"component": "CAT", "value": 0.25}],
+        "initiators": [{"component": "INI", "position": 1}],
+        "sites": [{"count": 2, "integer_1": 11, "integer_2": 12, "integer_3": 13, "real": 1.5}],
+        "attributes": [{"component": "CAT", "attribute": "CPSFLOW", "values": 2},
+                       {"component": "CAT", "attribute": "CVSFLOW", "values": 2},
+                       {"component": "P", "attribute": "ZMOM", "values": 1},
+                       {"component": "P", "attribute": "SFLOW", "values": 2}],
+        "distributions": [
+            {"component": "P", "type": 2, "integer_1": 4, "integer_2": 5, "integer_3": 6, "real": 0.0},
+            {"component": "P", "type": 4, "integer_1": 1, "integer_2": 2, "integer_3": 3, "real": 0.5}],
+        "catalyst_scaling": [
+            {"component": "CAT", "attribute": "CVSFLOW", "element": 1, "first": 2.0, "second": 0.0},
+            {"component": "CAT", "attribute": "CVSFLOW", "element": 2, "first": 2.0, "second": 0.0}]})"));
+}
+
+TEST(Check, TextAndCsvShowTheSameTables)
+{
+    const CaseFile file{catalyzed};
+    const auto text = support::capture(cli::check, file.path, Format::text).out;
+    EXPECT_NE(text.find("Oligomers by their segments per molecule\n"
+                        "  Component  Segment  Count\n"
+                        "  O          B-E          2\n"
+                        "  O          A-R        1.5\n"),
+              std::string::npos)
+        << text;
+    const auto csv = support::capture(cli::check, file.path, Format::csv).out;
+    EXPECT_EQ(csv.substr(0, csv.find('\n')), "table,entry,component,segment,attribute,quantity,value,unit");
+    for (const char* line : {"\noligomers,2,O,A-R,,count,1.5,\n", "\nattributes,2,CAT,,CVSFLOW,values,2,\n",
+                             "\ndistributions,1,P,,,integer_3,6,\n"})
+        EXPECT_NE(csv.find(line), std::string::npos) << line;
+}
+
+// "NUMBER at LINE:COLUMN" of each message of a case.
+Lines places(const std::string& text)
+{
+    cli::Diagnostics diagnostics;
+    const auto input = cli::parse_case(text, "c.toml", diagnostics);
+    EXPECT_TRUE(diagnostics.empty()) << diagnostics.lines("c.toml").front();
+    Lines places;
+    for (const auto& [source, hint, message] : cli::check_input(input).messages)
+        places.push_back(std::to_string(message.number) + " at " + std::to_string(source.line) + ":" +
+                         std::to_string(source.column));
+    return places;
+}
+
+TEST(Check, FindsTheEntryThatAMessageMeansAmongThoseOfOneId)
+{
+    struct Row {
+        const char* name;
+        const char* old;
+        const char* replacement;
+        Lines places;
+    };
+    const Row rows[] = {
+        {"each repeat, not the first",
+         "[\"P\"]",
+         "[\"P\", \"X\", \"P\", \"X\", \"P\"]",
+         {"4 at 11:18", "5 at 11:23", "4 at 11:28", "5 at 11:33"}},
+        {"an unknown oligomer once for each of its segments, at its ID",
+         "{ id = \"O\", segments = { A-R = 1.5 } }",
+         "{ id = \"U\", segments = { A-R = 1, B-E = 1 } }, { segments = { A-R = 1 } }, { id = \"U\", "
+         "segments = { A-R = 1 } }",
+         {"7 at 15:7", "7 at 15:7", "7 at 15:7", "7 at 15:82"}},
+        {"a segment under the oligomer that names it",
+         "{ segments = { B-E = 2 } }",
+         "{ segments = { U = 2 } }, { id = \"O\", segments = [{ id = \"CAT\", count = 1 }, { id = \"U\", "
+         "count = 1 }] }",
+         {"8 at 14:20", "9 at 14:57", "8 at 14:84"}},
+        {"the attribute list that misses the attribute",
+         "{ component = \"P\", names = [\"ZMOM\", \"SFLOW\"] }",
+         "{ component = \"P\", names = [\"ZMOM\", \"SFLOW\"] }, { component = \"P\", names = [\"ZMOM\"] }, "
+         "{ component = \"P\", names = [\"SFLOW\"] }",
+         {"25 at 25:55", "24 at 25:94"}},
+        {"one unknown ID in three lists",
+         "catalysts = [{ id = \"CAT\", value = 0.25 }]\ninitiators = [\"INI\"]",
+         "catalysts = [{ id = \"CAT\" }, { id = \"CATALYST\" }]\ninitiators = [\"INI\", \"CATALYST\"]",
+         {"10 at 17:32", "10 at 18:22"}},
+        {"the second of two scalings",
+         "first = 2.0",
+         "first = 2.0\n[[catalyst_scaling]]\ncomponent = \"CAT\"\nattribute = \"ZMOM\"",
+         {"1 at 34:1"}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(places(with(catalyzed, row.old, row.replacement)), row.places);
+    }
+}
+
+TEST(Check, PrintsMessagesUpToTheLevelOfTheCase)
+{
+    auto text = with(catalyzed, "[polymers]", "[settings]\nmessage_level = 1\n[polymers]");
+    text = with(text, "[\"P\"]", "[\"P\", \"X\"]");
+    EXPECT_EQ(places(text), Lines{});
+    text = with(text, "attribute = \"CVSFLOW\"", "attribute = \"ZMOM\"");
+    EXPECT_EQ(places(text), Lines{"1 at 32:1"});
+    const CaseFile silent{with(text, "message_level = 1", "message_level = 0")};
+    const auto [status, out, errors] = support::capture(cli::check, silent.path, Format::json);
+    EXPECT_EQ(status, cli::exit_success) << errors;
+    EXPECT_EQ(Json::parse(out)["input"]["catalyst_scaling"], Json::array());
+}
+
+TEST(Run, GoesOnWithoutTheEntriesInError)
+{
+    const CaseFile file{
+        with(with(catalyzed, "{ id = \"B-E\", type = \"end\" }", "{ id = \"B-X\", type = \"end\" }"),
+             "attributes.P = { ZMOM = 0.5, SFLOW = [0.5, 0.5] }",
+             "attributes.P = { ZMOM = 0.5, SFLOW = { A-R = 4, B-E = 1 } }")};
+    const auto [status, out, errors] = support::capture(cli::run, file.path, Format::json);
+    EXPECT_EQ(status, cli::exit_case_error);
+    const auto name = file.path.string();
+    EXPECT_EQ(errors.substr(0, errors.find('\n')),
+              name + ":10:48: POLSEM message 6, severity 2; did you mean \"B-E\"?");
+    EXPECT_NE(
+        errors.find(name + ":34:49: streams.S.attributes.P.SFLOW names \"B-E\", which is not a segment; "
+                           "did you mean \"A-R\"? (dropped)\n"),
+        std::string::npos)
+        << errors;
+    const auto json = Json::parse(out);
+    EXPECT_EQ(json["messages"].size(), 2u);
+    EXPECT_EQ(json["messages"][0]["line"], 10);
+    EXPECT_EQ(json["streams"][0]["chain_averages"][1]["dpn"], 8);
+}
+
+TEST(Run, GoesOnWithoutAParagraphThatIsIgnored)
+{
+    const auto [status, out, errors] =
+        support::capture(cli::run, examples / "bad-input/no-segment.toml", Format::csv);
+    EXPECT_EQ(status, cli::exit_case_error);
+    EXPECT_NE(errors.find(":15:1: streams.PRODUCT.attributes.PS.ZMOM: PS carries no attributes (dropped)\n"),
+              errors.npos)
+        << errors;
+    EXPECT_NE(out.find("PRODUCT,chain_averages,PS,,mn,104.152,g/mol\n"), out.npos) << out;
+    EXPECT_EQ(out.find("segment_fractions"), out.npos);
+}
+
+TEST(Run, PutsSiteValuesIntoTheirPlaces)
+{
+    EXPECT_EQ(support::capture(cli::run, CaseFile{catalyzed}.path, Format::text).status, cli::exit_success);
+    const CaseFile one_site{with(catalyzed, "count = 2", "count = 3")};
+    const auto [status, out, errors] = support::capture(cli::run, one_site.path, Format::text);
+    EXPECT_EQ(status, cli::exit_case_error);
+    EXPECT_EQ(out, "");
+    EXPECT_EQ(errors,
+              one_site.path.string() + ":35:20: streams.S.attributes.CAT.CPSFLOW has 2 values; expected 3\n");
+}
+
+}  // namespace
