@@ -1,6 +1,7 @@
 #include "cli/evaluation.h"
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include <algorithm>
 #include <stdexcept>
@@ -51,7 +52,7 @@ bool prepare(Evaluation& e)
 {
     e.checked = check_input(e.input);
     for (const auto& message : e.checked.messages)
-        for (const auto& line : lines(message, e.input.file)) e.errors.push_back(line);
+        e.errors.push_back(fmt::format("{}", fmt::join(lines(message, e.input.file), "\n")));
     const auto unfit = add_streams(e.input, e.checked);
     for (const auto& line : unfit.lines(e.input.file)) e.errors.push_back(line);
     // Values need not fit what is left of a paragraph in error; those of a good one are themselves in error.

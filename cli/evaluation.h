@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/distributions.h"
+#include "cli/gpc.h"
 #include "cli/report.h"
 #include "minihost/host.h"
 
@@ -22,7 +23,7 @@ struct Evaluation {
     bool has_results = false;
     std::vector<DistributionResults> distributions;
     Report report;
-    std::vector<std::string> errors;  // lines to print: what was dropped, refused or did not come out finite
+    std::vector<std::string> errors;  // to print: what was dropped, refused or did not come out finite
     std::vector<std::string> notes;   // the same, of results that stand
 
     // The named distribution, the only one for an empty name. Throws std::runtime_error.

@@ -124,7 +124,7 @@ int main(int argc, char** argv)
     CLI::App app{"Polymer properties of the streams of a case file", "polyprops"};
     app.set_version_flag("--version", POLYPROPS_VERSION);
     app.require_subcommand(1);
-    const Program program{app};
+    Program program{app};
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

@@ -1,6 +1,7 @@
 #include "cli/output_files.h"
 
 #include <fmt/format.h>
+#include <polyprops/host.h>
 #include <polyprops/polyprops.h>
 #include <unistd.h>
 

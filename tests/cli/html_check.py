@@ -137,7 +137,10 @@ def main():
     status = 0
     with tempfile.TemporaryDirectory() as directory:
         for case in options.cases:
-            subprocess.run([options.program, "run", case, "--out", directory], check=True, stdout=subprocess.DEVNULL)
+            # Status 1: a case with something to report, which the page reports as well.
+            ran = subprocess.run([options.program, "run", case, "--out", directory], capture_output=True, text=True)
+            if ran.returncode > 1:
+                sys.exit(f"{case}: {ran.stderr}")
             stem = pathlib.Path(directory) / pathlib.Path(case).stem
             page = stem.with_name(stem.name + ".html")
             report = json.loads(stem.with_name(stem.name + ".json").read_text())
