@@ -54,9 +54,9 @@ public:
 private:
     // Entries run through the components with a stride, so that few bytes make long lists; some stray.
     template <typename Entry, typename Make>
-    std::vector<Entry> entries(Make make)
+    std::vector<Entry> entries(Make make, Int most = 600)
     {
-        const Int count = bytes_.chance(4) ? bytes_.below(600) : bytes_.byte() % 8;
+        const Int count = bytes_.chance(4) ? bytes_.below(most) : bytes_.byte() % 8;
         const Int start = bytes_.below(components_);
         const Int stride = bytes_.byte() % 4;
         std::vector<Entry> result;
@@ -96,9 +96,12 @@ private:
                     return SegmentSentence::Entry{id, bytes_.byte() % 6};
                 })};
             case 3:
-                return AttributeSentence{entries<AttributeSentence::Entry>([&](const std::string& id, Int) {
-                    return AttributeSentence::Entry{id, attribute_names()};
-                })};
+                // A forwarded entry costs five blocks, and the fenced store looks at all of them each time.
+                return AttributeSentence{entries<AttributeSentence::Entry>(
+                    [&](const std::string& id, Int) {
+                        return AttributeSentence::Entry{id, attribute_names()};
+                    },
+                    40)};
             case 4:
                 return OligomerSentence{entries<OligomerSentence::Entry>([&](const std::string& id, Int i) {
                     return OligomerSentence::Entry{bytes_.chance(3) ? "" : id, any_id(),

@@ -1476,9 +1476,9 @@ POLYPROPS_API void POLY_TBPARI(const int64_t* n, const int64_t* m, double* p, co
  *
  * - OP = 5 sets STATUS to 5 and touches nothing else.
  * - Messages go through the host's message channel under the name POLSEM. A bad entry is reported and
- *   dropped, the others are processed. Only a paragraph without sentences, segments without a polymer or
- *   oligomer, and polymers or oligomers without a segment end the routine; nothing is built then. A paragraph
- *   that names none of the three is accepted.
+ *   dropped, the others are processed. Of the checks only a paragraph without sentences, segments without a
+ *   polymer or oligomer, and polymers or oligomers without a segment end the routine; nothing is built then.
+ *   A paragraph that names none of the three is accepted.
  * - STATUS 2 from the host's sentence service ends the routine with nothing built. When memory for its work
  *   space is exhausted, the routine sets STATUS to 2 itself and builds nothing.
  * - The end of the sentences is told to the host last, when word 1 of PARAGRAPH is at least 1, and only by a
@@ -1488,8 +1488,8 @@ POLYPROPS_API void POLY_TBPARI(const int64_t* n, const int64_t* m, double* p, co
  * - A segment of another type than 1 to 4 stands in the segment list alone.
  * - An unknown catalyst or initiator is reported and keeps its place, which holds 0; so does the real value
  *   of a catalyst.
- * - A blank oligomer ID stands for the last one written. Of two counts of the same segment in the same
- *   oligomer the later one holds; an oligomer without any accepted count is listed with zeros.
+ * - An oligomer ID of two zero words stands for the last one written. Of two counts of the same segment in
+ *   the same oligomer the later one holds; an oligomer without any accepted count is listed with zeros.
  * - Blocks of an earlier paragraph are used again. Lists that are too short are enlarged; a catalyst block or
  *   an oligomer block that might be too small is freed and made anew. Without oligomers in the paragraph an
  *   earlier oligomer block stays, but lists none when the number of segments has changed.
@@ -1503,6 +1503,12 @@ POLYPROPS_API void POLY_TBPARI(const int64_t* n, const int64_t* m, double* p, co
  * - A distribution request of another type than 1 to 4 is neither stored nor reported.
  * - A list start outside its sentence, or a count beyond it, is cut to what the sentence holds; missing words
  *   read as 0.
+ * - Messages 1 to 7, 10 and 11 are printed whether or not they were composed, messages 8 and 9 when the
+ *   host's check is not 0, the others when it is 1.
+ * - The catalyst block has at least one integer word; places that hold 0 are not asked for an attribute
+ *   entry. A negative number of site types counts as 0 in the attribute layout table, which is made anew each
+ *   time; so are the distribution blocks, whose predecessors are not freed. Without an attribute sentence
+ *   word 5 of an existing polymer block keeps the earlier copy.
  * - Allocates in the host's store. Blocks handed to the host's property semantics and copies of sentences are
  *   not freed.
  */
@@ -1522,7 +1528,7 @@ POLYPROPS_API void POLY_POLSEM(const int64_t* unused1, const int64_t* op, const 
  *   UNUSED1   unused  not used
  *   LOCATED   in      id of a block that is located and not read
  *
- * - OP other than 2: nothing is read or written, STATUS included.
+ * - OP other than 2: nothing is read or written, STATUS included. No entries: STATUS is -1.
  * - An attribute that the component does not carry is reported under the name CATSCALE (severity 1, message
  *   1), changes nothing and sets STATUS to 1, also when the host suppresses the message; the other entries
  *   are applied. A component without an attribute block carries none.

@@ -6,6 +6,9 @@
 //
 // Conventional entries and segments stand in the order of first appearance. A conventional entry is appended
 // without looking for an earlier one; the amount of a segment goes to every entry that holds its component.
+#include <algorithm>
+#include <array>
+
 #include "basis/segment_make_up.h"
 #include "polyprops/polyprops.h"
 
@@ -13,27 +16,36 @@ namespace polyprops::basis {
 
 namespace {
 
-// The list on the segment basis while it grows. Polymers bring their segments in much the same order, so the
-// search for one starts behind the last one found and seldom has to look at a second entry. Only when a
-// segment component is also listed on its own can an entry repeat, and only then is the whole list read.
+// The list on the segment basis while it grows. It notes where the first segments of the segment list stand,
+// so that the amount of one finds its entry without reading the list.
 class SegmentBasisList {
 public:
     SegmentBasisList(const ComponentList& segments, Int* components, Real* amounts)
         : segments_(segments), components_(components), amounts_(amounts)
     {
+        for (Int k = 1; k <= noted(); ++k) place(k) = unknown;
     }
 
     Int count() const { return count_; }
 
     void add_conventional(Component c, Real amount)
     {
-        may_repeat_ = may_repeat_ || segments_.position_of(c) > 0;
+        for (Int k = 1; k <= noted(); ++k)
+            if (segments_(k) == c && place(k) != unknown) place(k) = several;
         append(c, amount);
     }
-    void add_segment(Component s, Real amount)
+    // Adds the amount of the segment at a position of the segment list to every entry that holds its
+    // component.
+    void add_segment(Int position, Real amount)
     {
-        const bool found = may_repeat_ ? add_to_all(s, amount) : add_to_first(s, amount);
-        if (!found) append(s, amount);
+        const bool is_noted = position <= noted();
+        if (is_noted && place(position) > 0) {
+            amounts_(place(position)) += amount;
+            return;
+        }
+        Int found = add_to_all(segments_(position), amount);
+        if (found == unknown) found = append(segments_(position), amount);
+        if (is_noted) place(position) = found;
     }
     // Divides by the sum, unless that is exactly 0.
     void normalize()
@@ -45,43 +57,36 @@ public:
     }
 
 private:
-    void append(Component c, Real amount)
+    static constexpr Int capacity = 1024;
+    static constexpr Int unknown = 0;
+    static constexpr Int several = -1;
+
+    Int noted() const { return std::min(segments_.count(), capacity); }
+    Int& place(Int position) { return places_[static_cast<std::size_t>(position - 1)]; }
+    Int append(Component c, Real amount)
     {
-        last_found_ = ++count_;
+        ++count_;
         components_(count_) = c.index;
         amounts_(count_) = amount;
+        return count_;
     }
-    bool add_to_all(Component s, Real amount)
+    // The place of the only entry that holds s; several or unknown otherwise.
+    Int add_to_all(Component s, Real amount)
     {
-        bool found = false;
+        Int found = unknown;
         for (Int q = 1; q <= count_; ++q) {
             if (components_(q) != s.index) continue;
             amounts_(q) += amount;
-            found = true;
+            found = found == unknown ? q : several;
         }
         return found;
-    }
-    bool add_to_first(Component s, Real amount)
-    {
-        return add_between(last_found_ + 1, count_, s, amount) || add_between(1, last_found_, s, amount);
-    }
-    bool add_between(Int first, Int last, Component s, Real amount)
-    {
-        for (Int q = first; q <= last; ++q) {
-            if (components_(q) != s.index) continue;
-            amounts_(q) += amount;
-            last_found_ = q;
-            return true;
-        }
-        return false;
     }
 
     const ComponentList& segments_;
     Vector<Int> components_;
     Vector<Real> amounts_;
     Int count_ = 0;
-    Int last_found_ = 0;
-    bool may_repeat_ = false;
+    std::array<Int, capacity> places_;
 };
 
 void list_from_attributes(const PolymerData& data, const ComponentList& components,
@@ -93,8 +98,7 @@ void list_from_attributes(const PolymerData& data, const ComponentList& componen
         if (!species.has_chains())
             list.add_conventional(species.component(), amount);
         else if (data.lists_chains())
-            visit_segments(data, species,
-                           [&](Component s, Real count) { list.add_segment(s, amount * count); });
+            visit_segments(data, species, [&](Int m, Real count) { list.add_segment(m, amount * count); });
     }
 }
 
@@ -119,8 +123,8 @@ void list_from_counts(const SegmentCounts& counts, OwnAmount own, const Componen
             continue;
         }
         for (Int k = 1; k <= counts.segments.count(); ++k) {
-            const Component s = counts.segments(k);
-            if (const Real count = counts.matrix(c, s); count > 0.0) list.add_segment(s, amount * count);
+            const Real count = counts.matrix(c, counts.segments(k));
+            if (count > 0.0) list.add_segment(k, amount * count);
         }
     }
 }

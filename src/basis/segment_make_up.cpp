@@ -16,9 +16,9 @@ void list_segments(const PolymerData& data, const Species& species, Int& segment
     if (!data.lists_chains()) return;
     for (Int m = 1; m <= data.segments().count(); ++m) segments(m) = 0;
     segment_count = 0;
-    visit_segments(data, species, [&](Component segment, Real count) {
+    visit_segments(data, species, [&](Int m, Real count) {
         ++segment_count;
-        segments(segment_count) = segment.index;
+        segments(segment_count) = data.segments()(m).index;
         counts(segment_count) = count;
     });
 }

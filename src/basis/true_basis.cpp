@@ -6,12 +6,20 @@
 //
 // Components that are not polymers or oligomers count the same on both bases. What a vanishing sum does
 // differs on purpose: exactly 0 or the zero bound, raw values or zeros.
+#include <cmath>
+
 #include "chain/molecular_weight.h"
 #include "polyprops/polyprops.h"
 
 namespace polyprops::basis {
 
 namespace {
+
+// A sum that is not a number does not, and raises no exception.
+bool exceeds_zero_bound(Real total)
+{
+    return std::isgreater(total, zero_bound());
+}
 
 void divide(Vector<Real> values, Int n, Real total)
 {
@@ -84,7 +92,7 @@ void values_to_true_basis(Mode mode, const ComponentList& components, ByComponen
             const Component c = components(i);
             return is_chain(c) ? weights(c) * values(i) / chain_weights(i) : values(i);
         });
-        if (total > zero_bound()) divide(out, n, total);
+        if (exceeds_zero_bound(total)) divide(out, n, total);
     }
 }
 
@@ -93,14 +101,14 @@ void mass_fractions(const ComponentList& components, Vector<const Real> fraction
     const Int n = components.count();
     const Real total =
         write_values(out, n, [&](Int i) { return fractions(i) * molecular_weight(components(i)); });
-    if (total > zero_bound()) divide(out, n, total);
+    if (exceeds_zero_bound(total)) divide(out, n, total);
 }
 
 void mass_fractions(Int n, Vector<const Real> fractions, Vector<const Real> weights, Vector<Real> out)
 {
     Real total = 0.0;
     for (Int i = 1; i <= n; ++i) total += fractions(i) * weights(i);
-    const bool vanishes = !(total > zero_bound());
+    const bool vanishes = !exceeds_zero_bound(total);
     for (Int i = 1; i <= n; ++i) out(i) = vanishes ? 0.0 : fractions(i) * weights(i) / total;
 }
 

@@ -83,7 +83,6 @@ void PolymerBlock::make_oligomer_block(Int oligomers, Int segments) const
         const Int listed = two_part(Word::oligomers).integers(1);
         const Int rows = has(Word::segments) ? list(Word::segments)(1) : 0;
         if (oligomers <= listed && oligomers * segments <= listed * rows) return;
-        if (oligomers < 1) return;
     }
     make_two_part_list(Word::oligomers, oligomers + 1, 3 * segments * oligomers + 1);
 }

@@ -1,5 +1,6 @@
 #include "input/segment_list.h"
 
+#include <algorithm>
 #include <array>
 
 #include "input/components.h"
@@ -32,6 +33,8 @@ void note_segments(const Sentence& segments, const TypeLists& types, const Works
 {
     const SentenceWords words = segments.words();
     const Int ids = words.list_start(1);
+    // The types stand behind as many IDs as are stated, also where a cut sentence holds fewer.
+    const Int types_at = ids + 2 * std::clamp<Int>(words.integer(3), 0, segments.integer_count);
     for (Int i = 1; i <= segments.entry_count; ++i) {
         const NamePair id = words.name(ids, i);
         const auto c = find_component(id);
@@ -39,7 +42,7 @@ void note_segments(const Sentence& segments, const TypeLists& types, const Works
             report(c ? messages::repeated_segment : messages::unknown_segment, id);
             continue;
         }
-        const Int type = words.integer(ids + 2 * segments.entry_count + i - 1);
+        const Int type = words.integer(types_at + i - 1);
         work.notes(*c).is_segment = true;
         work.notes(*c).segment_type = type;
         types.append(type, *c);

@@ -259,7 +259,7 @@ TEST(Run, GoesOnWithoutAParagraphThatIsIgnored)
     EXPECT_NE(errors.find(":15:1: streams.PRODUCT.attributes.PS.ZMOM: PS carries no attributes (dropped)\n"),
               errors.npos)
         << errors;
-    EXPECT_NE(out.find("PRODUCT,chain_averages,PS,,mn,104.152,g/mol\n"), out.npos) << out;
+    EXPECT_NE(out.find("stream,PRODUCT,chain_averages,,PS,,mn,104.152,g/mol\n"), out.npos) << out;
     EXPECT_EQ(out.find("segment_fractions"), out.npos);
 }
 

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "input/checked_paragraph.h"
 
 using namespace support;
@@ -42,10 +44,10 @@ TEST(PolymerParagraph, LaysOligomersByIndexWithTheLaterOfTwoCounts)
                                                                                     {"", "A", 3},
                                                                                     {"X", "A", 7},
                                                                                     {"", "B", 8},
-                                                                                    {"P", "D", 4}}}});
+                                                                                    {"P", "X", 4}}}});
     EXPECT_EQ(world.list(word::oligomers), "P O R");
     EXPECT_EQ(world.reals(world.block(word::oligomers), 9), (Reals{0, 0, 0, 3, 1, 0, 0, 0, 5}));
-    EXPECT_EQ(world.message_numbers(), (Ints{7, 7, 9}));
+    EXPECT_EQ(world.message_numbers(), (Ints{7, 7, 8}));
     EXPECT_EQ(world.host.store().integer(world.block(word::parameters), 4), 3);
     EXPECT_EQ(world.list(word::polymers), "");
 }
@@ -133,6 +135,29 @@ TEST(PolymerParagraph, TakesTheLastSentenceOfAKindAndSkipsUnknownKinds)
     EXPECT_TRUE(world.host.messages().printed().empty());
     EXPECT_EQ(world.list(word::polymers), "Q");
     EXPECT_EQ(world.list(word::end_segments), "B C");
+}
+
+TEST(PolymerParagraph, ReadsNothingBeyondAFaultySentence)
+{
+    constexpr Int far = std::numeric_limits<Int>::max();
+    const NamePair p = name_pair("P"), k = name_pair("K");
+    CheckedParagraph world;
+    world.check(
+        {SentenceWords{1, {4, 0, far, p[0], p[1]}},  // more entries than words
+         SentenceWords{2, {far, 0, 1}},              // a list that begins nowhere
+         SentenceWords{8, {4, -1, 0, p[0], p[1]}},   // less than no entries
+         SentenceWords{5, {4, 0, 1, k[0], k[1]}},    // no reals
+         SentenceWords{6, {-3}},                     // shorter than its kind
+         SegmentSentence{{{"A", 2}}}, attributes,
+         SentenceWords{
+             7, {7, 13, 13, 13, 13, 3, p[0], p[1], p[0], p[1], p[0], p[1], 1, 1, 1}}});  // lists share words
+    EXPECT_EQ(world.message_numbers(), (Ints{31}));
+    EXPECT_EQ(world.list(word::polymers), "P");
+    EXPECT_EQ(world.list(word::initiators), "");
+    EXPECT_EQ(world.reals(world.block(word::catalysts), 1), (Reals{0}));
+    EXPECT_EQ(world.integers(world.block(word::layout), 12, 1), (Ints{5 * 2 + 5 + 1}));
+    const BlockId requests = world.integers(world.block(word::distributions), 2, 1)[0];
+    EXPECT_EQ(world.integers(requests, 1, 16), (Ints{3, 7, 7, 7, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1}));
 }
 
 TEST(PolymerParagraph, AcceptsOneThatNamesNeitherChainsNorSegments)

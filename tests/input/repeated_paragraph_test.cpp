@@ -79,4 +79,8 @@ TEST(RepeatedParagraph, KeepsOligomersOnlyWhileTheirTableFitsTheSegments)
     world.check(paragraph({"P"}, {"A", "B"}, {{"R", "B", 3}}, 0));
     EXPECT_EQ(world.list(word::oligomers), "R");
     EXPECT_EQ(world.reals(world.block(word::oligomers), 2), (Reals{0, 3}));
+    const BlockId oligomers = world.block(word::oligomers);
+    world.check(paragraph({"P"}, {"A", "B", "C", "D", "E", "W", "I"}, {{"R", "I", 4}}, 0));
+    EXPECT_NE(world.block(word::oligomers), oligomers) << "one column of more rows needs a larger block";
+    EXPECT_EQ(world.reals(world.block(word::oligomers), 7), (Reals{0, 0, 0, 0, 0, 0, 4}));
 }

@@ -1,8 +1,11 @@
-// Calls a routine with its arguments by address: call(POLY_GETRAT, 1, 2, ids, fractions, ratio).
+// Calls a routine with its arguments by address, as a host that traps floating-point exceptions:
+//
+//   call(POLY_GETRAT, 1, 2, ids, fractions, ratio);
 #ifndef TESTS_SUPPORT_ARGUMENTS_H
 #define TESTS_SUPPORT_ARGUMENTS_H
 
 #include "support/guarded.h"
+#include "support/trap_floating_point.h"
 
 namespace support {
 
@@ -56,6 +59,7 @@ auto address(Array& values) -> decltype(values.data())
 template <typename Routine, typename... Arguments>
 void call(Routine* routine, Arguments&&... arguments)
 {
+    const TrapFloatingPoint trap;
     routine(address(arguments)...);
 }
 

@@ -1,0 +1,319 @@
+// Laws that hold in every run, asked of random worlds of fixed seeds: in a host that traps floating-point
+// exceptions, and without a word of its store changed.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <functional>
+#include <numeric>
+#include <random>
+
+#include "polyprops/polyprops.h"
+#include "support/arguments.h"
+#include "support/trap_floating_point.h"
+#include "support/world.h"
+
+using namespace support;
+
+namespace {
+
+constexpr int worlds = 60;
+
+// Polymers with moments and flows, oligomers, conventional components; every component is listed once.
+struct Mixture {
+    explicit Mixture(unsigned seed, bool reverse_segments = false) : random(seed)
+    {
+        segment_count = whole(1, 5);
+        const Values weights = numbers(segment_count, 20, 150);
+        for (int s = 0; s < segment_count; ++s) segment_ids.push_back("S" + std::to_string(s));
+        std::vector<int> order(segment_count);
+        std::iota(order.begin(), order.end(), 0);
+        if (reverse_segments) std::reverse(order.begin(), order.end());
+        for (const int s : order) world.segments({{segment_ids[s].c_str(), weights[s]}});
+        const int polymers = whole(1, 4);
+        for (int p = 0; p < polymers; ++p) add_polymer("P" + std::to_string(p), order);
+        const int oligomers = whole(0, 3);
+        for (int o = 0; o < oligomers; ++o) add_oligomer("O" + std::to_string(o));
+        for (int c = 0; c < 2; ++c)
+            list("C" + std::to_string(c), world.conventional("C" + std::to_string(c), number(10, 90)));
+        world.host();
+        for (const auto& id : ids) idx.push_back(world.index(id));
+        n = static_cast<Int>(idx.size());
+        nc = world.component_count();
+        mw = world.molecular_weights();
+        iseg = world.segment_list();
+        nseg = static_cast<Int>(iseg.size());
+        apparent = numbers(static_cast<int>(n), 0.1, 1);
+        const double sum = std::accumulate(apparent.begin(), apparent.end(), 0.0);
+        for (double& x : apparent) x /= sum;
+    }
+
+    int whole(int from, int to) { return std::uniform_int_distribution<int>{from, to}(random); }
+    double number(double from, double to) { return std::uniform_real_distribution<double>{from, to}(random); }
+    Values numbers(int count, double from, double to)
+    {
+        Values all(static_cast<std::size_t>(count));
+        for (double& value : all) value = number(from, to);
+        return all;
+    }
+    void list(const std::string& id, World&) { ids.push_back(id); }
+    void add_polymer(const std::string& id, const std::vector<int>& order)
+    {
+        const Values flows = numbers(segment_count, 1, 9);
+        Attribute sflow{"SFLOW", 0};
+        sflow.values.clear();
+        for (const int s : order) sflow.values.push_back(flows[s]);
+        const double segments = std::accumulate(flows.begin(), flows.end(), 0.0);
+        const double chains = segments / number(2, 900);
+        const double second = number(1, 8) * segments * segments / chains;
+        list(id, world.polymer(id, {{"ZMOM", chains}, {"SMOM", second}, sflow}, number(40, 400)));
+    }
+    void add_oligomer(const std::string& id)
+    {
+        std::map<std::string, double> counts;
+        for (const auto& segment : segment_ids) counts[segment] = whole(1, 4);
+        list(id, world.oligomer(id, counts, number(50, 500)));
+    }
+    Values ask(auto* routine) { return world.ask(routine, ids); }
+
+    std::mt19937 random;
+    World world;
+    int segment_count;
+    std::vector<std::string> segment_ids;
+    std::vector<std::string> ids;
+    Ints idx, iseg;
+    Int n, nc, nseg;
+    Values mw, apparent;
+};
+
+// What the matrix routines are given: built by POLY_GETPOL3.
+struct Counts {
+    explicit Counts(Mixture& m) : iseg(m.nc), flags(m.nc), scm(m.nc * m.nc)
+    {
+        Values work(m.nc);
+        call(POLY_GETPOL3, m.n, m.idx, m.nc, work, nseg, iseg, flags, scm);
+    }
+    Int nseg = -1;
+    Ints iseg, flags;
+    Values scm;
+};
+
+double sum(const Values& values)
+{
+    return std::accumulate(values.begin(), values.end(), 0.0);
+}
+
+void expect_close(const Values& a, const Values& b, const char* what)
+{
+    ASSERT_EQ(a.size(), b.size()) << what;
+    for (std::size_t i = 0; i < a.size(); ++i)
+        EXPECT_NEAR(a[i], b[i], 1e-12 * std::abs(b[i])) << what << ", entry " << i + 1;
+}
+
+// Runs the law in every world, with the traps on, and looks whether the store is as before.
+void in_every_world(const std::function<void(Mixture&)>& law)
+{
+    for (unsigned seed = 1; seed <= worlds; ++seed) {
+        SCOPED_TRACE(seed);
+        Mixture mixture{seed};
+        const auto store = mixture.world.host().store().contents();
+        {
+            const TrapFloatingPoint traps;
+            law(mixture);
+        }
+        ASSERT_TRUE(store == mixture.world.host().store().contents());
+    }
+}
+
+TEST(Laws, MatrixRoutinesAgreeWithAttributeRoutines)
+{
+    in_every_world([](Mixture& m) {
+        const Counts counts{m};
+        ASSERT_EQ(counts.nseg, m.nseg);
+        Values dpn(m.n), mwn(m.n), mwp(m.n), wwp(m.n), mws(m.nc);
+        call(POLY_GETDPN1, m.nc, m.nseg, m.iseg, counts.scm, m.n, m.idx, dpn, counts.flags);
+        expect_close(dpn, m.ask(POLY_GETDPN), "segments per chain");
+        call(POLY_GETMWN1, m.nc, m.mw, m.nseg, m.iseg, counts.scm, m.n, m.idx, mwn, counts.flags);
+        expect_close(mwn, m.ask(POLY_GETMWN), "number-average weight");
+        call(POLY_GETMWP, m.n, m.idx, m.nc, m.mw, m.nseg, m.iseg, counts.flags, counts.scm, mwp);
+        EXPECT_EQ(mwp, mwn);
+        call(POLY_GETWWP, m.n, m.idx, m.nc, m.mw, m.nseg, m.iseg, counts.flags, counts.scm, wwp);
+        expect_close(wwp, m.ask(POLY_GETMWW), "weight-average weight");
+        call(POLY_GETMWS, m.n, m.idx, m.nc, m.mw, m.nseg, m.iseg, counts.flags, counts.scm, mws);
+        Values by_position;
+        for (const Int c : m.idx) by_position.push_back(mws[c - 1]);
+        expect_close(by_position, m.ask(POLY_GETMRF), "mean segment weight");
+
+        // The matrix straight from the attributes is the same, column 1 of conventional rows included.
+        Int nseg = 0, npol = 0;
+        const Int selector = 1;
+        Ints iseg(m.nc), flags(m.nc);
+        Values scm(m.nc * m.nc), lengths(m.nc);
+        call(POLY_GETPALL, selector, m.n, m.idx, m.nc, nseg, iseg, npol, flags, scm, lengths);
+        EXPECT_EQ(npol, m.n - 2);
+        EXPECT_EQ(flags, counts.flags);
+        expect_close(scm, counts.scm, "segment counts");
+    });
+}
+
+TEST(Laws, FractionsSumToOne)
+{
+    in_every_world([](Mixture& m) {
+        const Counts counts{m};
+        const Int selector = 1;
+        for (const Int c : m.idx) {
+            Values mole(m.nseg), mass(m.nseg), from_row(m.nseg), mass_from_row(m.nseg);
+            call(POLY_GETSMF1, c, m.nc, counts.scm, m.nseg, m.iseg, from_row);
+            call(POLY_GETSWF1, c, m.nc, m.mw, counts.scm, m.nseg, m.iseg, mass_from_row);
+            call(POLY_GETSMF, selector, c, mole);
+            call(POLY_GETSWF, selector, c, mass);
+            if (counts.flags[c - 1] != 1) continue;
+            EXPECT_NEAR(sum(mole), 1, 1e-14);
+            EXPECT_NEAR(sum(mass), 1, 1e-14);
+            expect_close(from_row, mole, "mole fractions");
+            expect_close(mass_from_row, mass, "mass fractions");
+        }
+    });
+}
+
+TEST(Laws, MassIsTheSameOnEveryBasis)
+{
+    in_every_world([](Mixture& m) {
+        const Counts counts{m};
+        const Values mwn = m.ask(POLY_GETMWN);
+        Values true_x(m.n), from_counts(m.n), mass(m.n), true_mass(m.n);
+        call(POLY_XATOXT, m.n, m.idx, m.mw, m.apparent, true_x);
+        EXPECT_NEAR(sum(true_x), 1, 1e-14);
+        call(POLY_GETXTRUE, m.n, m.idx, m.apparent, m.nc, m.mw, m.nseg, m.iseg, counts.flags, counts.scm,
+             from_counts);
+        expect_close(from_counts, true_x, "true fractions");
+        call(POLY_XATOWT, m.apparent, m.n, m.idx, mass);
+        call(POLY_XTTOWT, m.n, true_x, mwn, true_mass);
+        expect_close(true_mass, mass, "mass fractions");
+
+        Int count = 0;
+        const Int as_flows = 0;
+        Ints members(m.n + m.nseg);
+        Values amounts(members.size());
+        call(POLY_PFTOSF, m.n, m.idx, true_x, counts.flags, m.nc, counts.scm, m.nseg, m.iseg, count, members,
+             amounts, as_flows);
+        double chain_mass = 0;
+        double segment_mass = 0;
+        for (Int i = 0; i < m.n; ++i) chain_mass += true_x[i] * mwn[i];
+        for (Int k = 0; k < count; ++k) segment_mass += amounts[k] * m.mw[members[k] - 1];
+        EXPECT_NEAR(segment_mass, chain_mass, 1e-12 * chain_mass);
+    });
+}
+
+TEST(Laws, SegmentListsFromAttributesAndFromCountsAreTheSame)
+{
+    in_every_world([](Mixture& m) {
+        const Counts counts{m};
+        const Int normalized = 1;
+        Int count = 0, count_from_matrix = 0;
+        Ints members(m.n + m.nseg), members_from_matrix(members.size()), work_list(m.nc);
+        Values amounts(members.size()), amounts_from_matrix(members.size()), work(m.nc);
+        call(POLY_XPTOXS, m.n, m.idx, m.apparent, nullptr, work_list, work, count, members, amounts,
+             normalized);
+        call(POLY_XTTOXS, m.n, m.idx, counts.flags, m.apparent, m.nc, counts.scm, m.nseg, m.iseg,
+             count_from_matrix, members_from_matrix, amounts_from_matrix);
+        EXPECT_EQ(members, members_from_matrix);
+        expect_close(amounts, amounts_from_matrix, "amounts");
+        EXPECT_NEAR(sum(amounts), 1, 1e-14);
+
+        // A property that all entries share is that of every member.
+        const Values shared(m.n, 7.0);
+        Values properties(count), weights(count);
+        call(POLY_PTTOPS, m.n, m.idx, counts.flags, shared, m.nc, counts.scm, m.nseg, m.iseg, count, members,
+             properties, weights);
+        expect_close(properties, Values(count, 7.0), "property");
+    });
+}
+
+TEST(Laws, ConversionsMeetTheirInverse)
+{
+    in_every_world([](Mixture& m) {
+        const Values mwn = m.ask(POLY_GETMWN);
+        Values weights_by_position, chain_weights(m.mw), true_x(m.n), back(m.n);
+        for (Int i = 0; i < m.n; ++i) {
+            weights_by_position.push_back(m.mw[m.idx[i] - 1]);
+            chain_weights[m.idx[i] - 1] = mwn[i];
+        }
+        for (const Int mode : {0, 1}) {
+            call(POLY_VATOVT, m.n, m.idx, m.mw, mwn, m.apparent, true_x, mode);
+            call(POLY_VATOVT, m.n, m.idx, chain_weights, weights_by_position, true_x, back, mode);
+            expect_close(back, m.apparent, "there and back");
+        }
+        Int np = 0, nk = 0;
+        Ints polymers(m.n), at(m.n), others(m.n), others_at(m.n), merged(m.n);
+        call(POLY_IDXSPLIT, m.n, m.idx, np, polymers, at, nk, others, others_at);
+        call(POLY_PROPMRG, nullptr, np, nk, at, others_at, polymers, others, merged);
+        EXPECT_EQ(merged, m.idx);
+    });
+}
+
+TEST(Laws, PermutedListsGivePermutedResults)
+{
+    in_every_world([](Mixture& m) {
+        auto reversed = m.ids;
+        std::reverse(reversed.begin(), reversed.end());
+        for (const auto routine :
+             {POLY_GETDPN, POLY_GETMRF, POLY_GETMWN, POLY_GETMRT, POLY_GETMWW, POLY_GETPDI, POLY_GETPOLI}) {
+            Values expected = m.ask(routine);
+            std::reverse(expected.begin(), expected.end());
+            EXPECT_EQ(m.world.ask(routine, reversed), expected);
+        }
+    });
+}
+
+TEST(Laws, PermutedSegmentsChangeNoAverage)
+{
+    for (unsigned seed = 1; seed <= worlds; ++seed) {
+        SCOPED_TRACE(seed);
+        Mixture m{seed};
+        std::vector<Values> expected;
+        const auto routines = {POLY_GETDPN, POLY_GETMRF, POLY_GETMWN, POLY_GETMRT,
+                               POLY_GETMWW, POLY_GETPDI, POLY_GETPOLI};
+        for (const auto routine : routines) expected.push_back(m.ask(routine));
+        Mixture reversed{seed, true};
+        std::size_t k = 0;
+        for (const auto routine : routines) expect_close(reversed.ask(routine), expected[k++], "average");
+    }
+}
+
+// Every routine that walks the caller's list writes nothing for an empty one.
+TEST(Laws, EmptyListsWriteNothing)
+{
+    Mixture m{1};
+    const Counts counts{m};
+    for (const Int none : {0, -1}) {
+        const Int one = 1;
+        GuardedReals out(4);
+        for (const auto routine :
+             {POLY_GETDPN, POLY_GETMRF, POLY_GETMWN, POLY_GETMRT, POLY_GETMWW, POLY_GETPDI, POLY_GETPOLI})
+            call(routine, one, none, m.idx, out);
+        for (const auto routine : {POLY_GETDPN1, POLY_GETDPN2})
+            call(routine, m.nc, m.nseg, m.iseg, counts.scm, none, m.idx, out, counts.flags);
+        call(POLY_GETMWN1, m.nc, m.mw, m.nseg, m.iseg, counts.scm, none, m.idx, out, counts.flags);
+        for (const auto routine : {POLY_GETMWS, POLY_GETMWP, POLY_GETWWP})
+            call(routine, none, m.idx, m.nc, m.mw, m.nseg, m.iseg, counts.flags, counts.scm, out);
+        call(POLY_GETMAVG, m.nc, m.mw, m.nseg, m.iseg, counts.scm, none, m.idx, out, counts.flags);
+        call(POLY_SWFVEC, one, none, m.nseg, m.idx, out);
+        call(POLY_XATOXT, none, m.idx, m.mw, m.apparent, out);
+        call(POLY_GETXTRUE, none, m.idx, m.apparent, m.nc, m.mw, m.nseg, m.iseg, counts.flags, counts.scm,
+             out);
+        call(POLY_VATOVT, none, m.idx, m.mw, m.apparent, m.apparent, out, one);
+        call(POLY_VATOVX, none, m.idx, m.mw, m.apparent, m.apparent, out, one, nullptr, counts.flags);
+        call(POLY_XATOWT, m.apparent, none, m.idx, out);
+        call(POLY_XTTOWT, none, m.apparent, m.mw, out);
+        call(POLY_GETXSUB, nullptr, m.mw, none, m.idx, out);
+        call(POLY_QSGTOQ, none, m.idx, m.mw, out);
+        call(POLY_QSTOQA, m.mw, none, m.idx, m.mw, out);
+        EXPECT_TRUE(out.untouched());
+        GuardedInts whole(4);
+        call(POLY_GETISP, none, m.idx, nullptr, whole);
+        call(POLY_WRKPOINT, whole, none, m.idx, whole);
+        EXPECT_TRUE(whole.untouched());
+    }
+}
+
+}  // namespace
