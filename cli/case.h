@@ -6,7 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "cli/diagnostics.h"
+#include "cli/case_distributions.h"
+#include "cli/reference.h"
 #include "minihost/components.h"
 
 namespace cli {
@@ -17,12 +18,6 @@ std::string_view text(ComponentClass kind);
 
 // How many neighbours a segment is bonded to; the values are the segment types of the polymer paragraph.
 enum class SegmentType { end = 1, repeat = 2, branch3 = 3, branch4 = 4 };
-
-// A component named by its ID.
-struct Reference {
-    std::string id;
-    Source source;
-};
 
 struct Component : minihost::Component {
     Source source;
@@ -131,7 +126,8 @@ struct Settings {
     double zero_bound = 1e-15;
     double missing_value_bound = 1e35;
     bool pdi_from_parameters = false;
-    Int message_level = 2;  // severity up to which messages are printed
+    Int message_level = 2;             // severity up to which messages are printed
+    std::int64_t lines_per_page = 60;  // of the report file, without the heading
 };
 
 struct Case {
@@ -144,6 +140,8 @@ struct Case {
     std::vector<Stream> streams;
     std::vector<Property> properties;
     std::vector<Reactor> reactors;
+    std::vector<Distribution> distributions;
+    std::vector<ParameterSet> parameter_sets;
 
     const Component* find(std::string_view id) const;
     std::vector<std::string_view> ids() const;

@@ -2,11 +2,7 @@
 
 #include <fmt/format.h>
 
-#include <cerrno>
-#include <cstring>
-#include <fstream>
-#include <iterator>
-#include <stdexcept>
+#include "cli/file_contents.h"
 
 namespace cli {
 
@@ -18,6 +14,8 @@ constexpr Word<ComponentClass> component_classes[] = {
     {"oligomer", ComponentClass::oligomer},
     {"segment", ComponentClass::segment},
 };
+
+constexpr WholeRange page_lengths{1, 100000};
 
 constexpr Word<bool> pdi_sources[] = {{"moments", false}, {"parameters", true}};
 
@@ -36,6 +34,8 @@ Settings read_settings(TableReader table)
         settings.pdi_from_parameters =
             read_word(*source, pdi_sources, table.diagnostics()).value_or(settings.pdi_from_parameters);
     settings.message_level = table.whole_number("message_level", {0, 2}).value_or(settings.message_level);
+    settings.lines_per_page =
+        table.whole_number("lines_per_page", page_lengths).value_or(settings.lines_per_page);
     table.finish();
     return settings;
 }
@@ -76,6 +76,23 @@ std::optional<TableReader> section(TableReader& root, std::string_view key, std:
     return found;
 }
 
+void read_curves(TableReader& root, Case& input)
+{
+    if (const auto distributions = root.table("distributions"))
+        input.distributions = read_distributions(*distributions);
+    if (const auto parameters = root.table("parameters"))
+        input.parameter_sets = read_parameter_sets(*parameters);
+}
+
+// A case without streams has distributions or binary parameters instead.
+void read_streams(TableReader& root, Case& input)
+{
+    const bool may_lack = !input.distributions.empty() || !input.parameter_sets.empty();
+    if (may_lack && !root.entry("streams")) return;
+    if (const auto streams = section(root, "streams", "a table with at least one stream"))
+        input.streams = read_streams(*streams);
+}
+
 Case read_root(TableReader root, const std::string& file)
 {
     Case input;
@@ -86,31 +103,18 @@ Case read_root(TableReader root, const std::string& file)
         input.components = read_components(*components);
     if (const auto polymers = root.table("polymers")) input.paragraph = read_paragraph(*polymers);
     input.catalyst_scaling = read_catalyst_scaling(root.array("catalyst_scaling"), root.diagnostics());
-    if (const auto streams = section(root, "streams", "a table with at least one stream"))
-        input.streams = read_streams(*streams);
+    read_curves(root, input);
+    read_streams(root, input);
     if (const auto properties = root.table("properties")) input.properties = read_properties(*properties);
     if (const auto reactors = root.table("reactors")) input.reactors = read_reactors(*reactors);
     root.finish();
     return input;
 }
 
-std::string contents(const std::filesystem::path& file)
-{
-    const auto fail = [&](std::string_view why) {
-        throw std::runtime_error{fmt::format("{}: cannot be read: {}", file.string(), why)};
-    };
-    if (std::filesystem::is_directory(file)) fail("it is a directory");
-    errno = 0;
-    std::ifstream in{file, std::ios::binary};
-    if (!in) fail(std::strerror(errno));
-    std::string text{std::istreambuf_iterator<char>{in}, {}};
-    if (in.bad()) fail("reading failed");
-    return text;
-}
-
 }  // namespace
 
-Case parse_case(std::string_view text, const std::string& file, Diagnostics& diagnostics)
+Case parse_case(std::string_view text, const std::string& file, Diagnostics& diagnostics,
+                const std::vector<Override>& overrides)
 {
     toml::table root;
     Case failed;
@@ -122,6 +126,7 @@ Case parse_case(std::string_view text, const std::string& file, Diagnostics& dia
         diagnostics.add({at.line, at.column}, fmt::format("{}", error.description()));
         return failed;
     }
+    for (const auto& change : overrides) apply(change, root);
     auto input = read_root(TableReader{root, "", {}, diagnostics}, file);
     check_components(input, diagnostics);
     check_paragraph(input, diagnostics);
@@ -129,12 +134,14 @@ Case parse_case(std::string_view text, const std::string& file, Diagnostics& dia
     check_streams(input, diagnostics);
     check_properties(input, diagnostics);
     check_reactors(input, diagnostics);
+    check_distributions(input, diagnostics);
+    check_parameter_sets(input, diagnostics);
     return input;
 }
 
 Case read_case(const std::filesystem::path& file, Diagnostics& diagnostics)
 {
-    return parse_case(contents(file), file.string(), diagnostics);
+    return parse_case(file_contents(file), file.string(), diagnostics);
 }
 
 }  // namespace cli

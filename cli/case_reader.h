@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "cli/case.h"
+#include "cli/overrides.h"
 #include "cli/table_reader.h"
 
 namespace cli {
@@ -13,7 +14,8 @@ namespace cli {
 Case read_case(const std::filesystem::path& file, Diagnostics& diagnostics);
 
 // The same from a text that came from `file`.
-Case parse_case(std::string_view text, const std::string& file, Diagnostics& diagnostics);
+Case parse_case(std::string_view text, const std::string& file, Diagnostics& diagnostics,
+                const std::vector<Override>& overrides = {});
 
 // The parts of the reader, one file each.
 Paragraph read_paragraph(TableReader table);
@@ -21,6 +23,9 @@ std::vector<ScalingEntry> read_catalyst_scaling(const std::vector<Entry>& entrie
 std::vector<Stream> read_streams(TableReader table);
 std::vector<Property> read_properties(TableReader table);
 std::vector<Reactor> read_reactors(TableReader table);
+
+std::vector<Distribution> read_distributions(TableReader table);
+std::vector<ParameterSet> read_parameter_sets(TableReader table);
 
 // Component IDs and numbers.
 std::vector<ComponentValue> read_component_values(TableReader table, Range range);
@@ -34,5 +39,7 @@ void check_catalyst_scaling(const Case& input, Diagnostics& diagnostics);
 void check_streams(const Case& input, Diagnostics& diagnostics);
 void check_properties(const Case& input, Diagnostics& diagnostics);
 void check_reactors(const Case& input, Diagnostics& diagnostics);
+void check_distributions(const Case& input, Diagnostics& diagnostics);
+void check_parameter_sets(const Case& input, Diagnostics& diagnostics);
 
 }  // namespace cli

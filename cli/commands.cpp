@@ -12,8 +12,6 @@
 
 namespace cli {
 
-namespace {
-
 std::string formatted(const Report& report, Format format)
 {
     switch (format) {
@@ -32,6 +30,8 @@ void write(const std::string& text, std::FILE* out)
     if (std::fwrite(text.data(), 1, text.size(), out) != text.size() || std::fflush(out) != 0)
         throw std::runtime_error{"the results cannot be written"};
 }
+
+namespace {
 
 void print(const std::vector<std::string>& lines, std::FILE* errors)
 {
@@ -82,14 +82,6 @@ bool add_streams(const Checked& read, std::FILE* errors)
     return unfit.empty() || !read.checked.messages.empty();
 }
 
-int run_case(const std::filesystem::path& file, Format format, std::FILE* out, std::FILE* errors)
-{
-    const auto read = read_and_check(file, errors);
-    if (!read || !add_streams(*read, errors)) return exit_case_error;
-    const auto& [input, checked] = *read;
-    return print(make_report(input, checked, evaluate(input, *checked.host)), *read, format, out, errors);
-}
-
 // Why the case has no such stream; empty when it has.
 std::string unknown_stream(const std::string& stream, const Case& input)
 {
@@ -131,11 +123,6 @@ int guarded(const Command& command, std::FILE* errors)
 }
 
 }  // namespace
-
-int run(const std::filesystem::path& file, Format format, std::FILE* out, std::FILE* errors)
-{
-    return guarded([&] { return run_case(file, format, out, errors); }, errors);
-}
 
 int check(const std::filesystem::path& file, Format format, std::FILE* out, std::FILE* errors)
 {

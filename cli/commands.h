@@ -3,8 +3,11 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <optional>
+#include <string>
 
 #include "cli/bases.h"
+#include "cli/report.h"
 
 namespace cli {
 
@@ -14,9 +17,24 @@ inline constexpr int exit_success = 0;
 inline constexpr int exit_case_error = 1;
 inline constexpr int exit_usage = 2;
 
+std::string formatted(const Report& report, Format format);
+
+// Throws std::runtime_error when not all of the text can be written.
+void write(const std::string& text, std::FILE* out);
+
+struct RunOptions {
+    std::filesystem::path file;
+    Format format = Format::text;
+    std::optional<std::filesystem::path> out;         // directory for the files of the run
+    std::optional<std::filesystem::path> gpc;         // measured curve to hold a composite against
+    std::optional<std::filesystem::path> export_gpc;  // file for a composite in the same form
+    std::string distribution;                         // whose composite; empty: the only one
+};
+
 // Checks the case and prints the results of its streams to `out`. What is wrong with it goes to `errors`: one
 // line for each error of the file, which end the command, and the messages of the library's input checks,
 // which drop what they name and let the rest of the case run. With either of them the exit status tells so.
+int run(const RunOptions& options, std::FILE* out, std::FILE* errors);
 int run(const std::filesystem::path& file, Format format, std::FILE* out, std::FILE* errors);
 
 struct Conversion {

@@ -68,12 +68,12 @@ void add_block(std::string_view block, std::string& text)
     text += fmt::format("{}{}", text.empty() ? "" : "\n", block);
 }
 
-// False when no table has a row.
+// False when no table has a row to show.
 bool add_tables(const std::vector<Table>& tables, std::string& text)
 {
     bool has_rows = false;
     for (const auto& table : tables) {
-        if (table.rows.empty()) continue;
+        if (table.rows.empty() || table.is_long) continue;
         add_block(fmt::format("{}\n{}", table.heading, aligned(table)), text);
         has_rows = true;
     }

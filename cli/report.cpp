@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include "cli/numbers.h"
 #include "cli/report_tables.h"
 
 namespace cli {
@@ -97,7 +98,7 @@ std::vector<std::string> not_finite(const Report& report)
                     if (const auto* value = std::get_if<double>(&row[i]); value && !std::isfinite(*value))
                         found.push_back(fmt::format("{}s.{}: {} of {} is {}; expected a finite result",
                                                     section.kind, section.name, table.columns[i].key,
-                                                    std::get<std::string>(row.front()), *value));
+                                                    text(row.front()), *value));
     return found;
 }
 

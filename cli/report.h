@@ -24,11 +24,12 @@ struct Table {
     std::string heading;
     std::vector<Column> columns;
     std::vector<std::vector<Cell>> rows;
+    bool is_long = false;  // a curve, of which text and pages only say that it is there
 };
 
-// The tables of one stream or reactor.
+// The tables of one stream, reactor, distribution or binary parameter set.
 struct Section {
-    std::string kind;  // "stream", "reactor"
+    std::string kind;  // "stream", "reactor", "distribution", "parameter"
     std::string name;
     std::string heading;                                     // as text shows it
     std::vector<std::pair<std::string, std::string>> facts;  // keys and texts that tell more of it

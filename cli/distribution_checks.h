@@ -1,0 +1,21 @@
+// What the averages of a distribution have to be by its site parameters and by the moments of a stream.
+//
+// The distribution of a site with parameters τ and β, s = τ + β, has area 1 and
+//
+//   1/Pn = τ + β/2      Pw = (2τ + 3β)/s²
+//
+// Polymer made in several increments or by several sites has the mass-weighted means of 1/Pn and Pw. By
+// moments, Pn = first/zeroth and Pw = second/first.
+#pragma once
+
+#include "cli/distributions.h"
+
+namespace cli {
+
+std::string section_curve_name(const DistributionSection& section);
+std::string site_curve_name(const DistributionSection& section, std::size_t site);
+
+std::vector<CurveCheck> curve_checks(const Distribution& distribution, const DistributionResults& results,
+                                     minihost::Host& host);
+
+}  // namespace cli

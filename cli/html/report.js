@@ -1,0 +1,149 @@
+// Draws the charts of the report from its data. Charts follow the colours of the page, also in print.
+"use strict";
+
+const report = JSON.parse(document.getElementById("report").textContent);
+
+// Hues that are told apart by most eyes, on light and on dark paper.
+const palette = ["#3b82c4", "#e0872e", "#3f9d5d", "#c9504f", "#8c6bb8", "#8d6a56", "#d06fae", "#7f8a3a", "#2fa3b5"];
+
+const colour = (name) => getComputedStyle(document.documentElement).getPropertyValue(name).trim();
+const shown = (value) => Number(value).toPrecision(6).replace(/(\.\d*?)0+(?=e|$)/, "$1").replace(/\.(?=e|$)/, "");
+
+function line(label, points, options) {
+    return {
+        label,
+        data: points,
+        parsing: false,
+        borderWidth: 1.5,
+        pointRadius: 0,
+        pointHitRadius: 8,
+        pointHoverRadius: 4,
+        ...options,
+    };
+}
+
+// Upright dashed lines with a name at the top, at the averages of the composite.
+const marks = {
+    id: "marks",
+    afterDatasetsDraw(chart, _args, options) {
+        const { ctx, chartArea, scales } = chart;
+        ctx.save();
+        ctx.strokeStyle = ctx.fillStyle = colour("--quiet");
+        ctx.font = "12px system-ui, sans-serif";
+        ctx.setLineDash([5, 4]);
+        for (const { name, value, row } of options.at ?? []) {
+            const x = scales.x.getPixelForValue(value);
+            if (!(x >= chartArea.left && x <= chartArea.right)) continue;
+            ctx.beginPath();
+            ctx.moveTo(x, chartArea.top);
+            ctx.lineTo(x, chartArea.bottom);
+            ctx.stroke();
+            ctx.fillText(`${name} ${shown(value)}`, x + 4, chartArea.top + 12 + 15 * row);
+        }
+        ctx.restore();
+    },
+};
+
+const axis = (text, options) => ({
+    title: { display: true, text, color: () => colour("--ink") },
+    ticks: { color: () => colour("--quiet") },
+    grid: { color: () => colour("--line") },
+    ...options,
+});
+
+// Powers of ten alone.
+const decades = (value) => {
+    const power = Math.log10(value);
+    return Math.abs(power - Math.round(power)) < 1e-9 ? Number(value).toLocaleString("en") : null;
+};
+
+function chart(canvas, datasets, scales, marked, pointerTitle) {
+    return new Chart(canvas, {
+        type: "line",
+        data: { datasets },
+        plugins: [marks],
+        options: {
+            animation: false,
+            maintainAspectRatio: false,
+            interaction: { mode: "nearest", axis: "x", intersect: false },
+            scales,
+            plugins: {
+                marks: { at: marked },
+                legend: { labels: { color: () => colour("--ink"), boxHeight: 1, boxWidth: 24 } },
+                tooltip: {
+                    callbacks: {
+                        title: (items) => (items.length ? pointerTitle(items[0].parsed.x) : ""),
+                        label: (item) => `${item.dataset.label}: ${shown(item.parsed.y)}`,
+                    },
+                },
+            },
+        },
+    });
+}
+
+// The curves of one distribution, or nothing where no row is.
+function distributionChart(canvas, distribution) {
+    const rows = distribution.distribution_curves;
+    const names = distribution.distribution_averages.map((row) => row.curve);
+    const curve = (key) => rows.map((row) => ({ x: row.chain_length, y: row[key] }));
+    const datasets = names.map((name, i) =>
+        line(name, curve(name), i === 0
+            ? { borderColor: () => colour("--ink"), borderWidth: 2.5 }
+            : { borderColor: palette[(i - 1) % palette.length], backgroundColor: palette[(i - 1) % palette.length] }));
+    if (distribution.gpc_curve)
+        datasets.push(line("measured", distribution.gpc_curve.map((row) => ({ x: row.chain_length, y: row.overlay })),
+            { showLine: false, pointRadius: 2, borderColor: colour("--accent"), backgroundColor: colour("--accent") }));
+    datasets.push(line("cumulative", curve("cumulative"),
+        { yAxisID: "cumulative", borderColor: () => colour("--quiet"), borderDash: [2, 3] }));
+
+    const composite = distribution.distribution_averages[0];
+    const isGpc = distribution.form === "gpc";
+    const scales = {
+        x: axis("Chain length, segments", { type: "logarithmic", min: rows[0].chain_length,
+            max: rows[rows.length - 1].chain_length, ticks: { color: () => colour("--quiet"), callback: decades,
+                maxRotation: 0, autoSkip: false } }),
+        y: axis(isGpc ? "Chain length × weight fraction" : "Weight fraction per segment", { beginAtZero: true }),
+        cumulative: axis("Cumulative mass fraction", { position: "right", min: 0, max: 1, grid: { display: false } }),
+    };
+    const marked = ["pn", "pw"].map((key, row) => ({ name: key === "pn" ? "Pn" : "Pw", value: composite[key], row }));
+    return chart(canvas, datasets, scales, marked, (x) => `Chain length ${shown(x)}`);
+}
+
+// Every ordered pair whose parameter is not 0 throughout.
+function parameterChart(canvas, set) {
+    const rows = set.binary_parameters;
+    const datasets = [];
+    for (const first of new Set(rows.map((row) => row.component)))
+        for (const second of Object.keys(rows[0]).filter((key) => key !== "temperature" && key !== "component")) {
+            const points = rows.filter((row) => row.component === first)
+                .map((row) => ({ x: row.temperature, y: row[second] }));
+            if (points.every((point) => point.y === 0)) continue;
+            const hue = palette[datasets.length % palette.length];
+            datasets.push(line(`${first} – ${second}`, points,
+                { borderColor: hue, backgroundColor: hue, borderDash: first > second ? [6, 4] : [] }));
+        }
+    const unit = report.units.binary_parameters[rows[0].component];
+    const scales = {
+        x: axis("Temperature, K", { type: "linear" }),
+        y: axis(unit && unit !== "1" ? `Parameter, ${unit}` : "Parameter"),
+    };
+    return chart(canvas, datasets, scales, [], (x) => `${shown(x)} K`);
+}
+
+const makers = { distribution: [report.distributions, distributionChart], parameter: [report.parameters, parameterChart] };
+const charts = [];
+for (const section of document.querySelectorAll("section[data-kind]")) {
+    const canvas = section.querySelector("canvas");
+    if (!canvas) continue;
+    const [all, make] = makers[section.dataset.kind];
+    charts.push(make(canvas, all.find((entry) => entry.name === section.dataset.name)));
+}
+
+const redraw = () => charts.forEach((drawn) => {
+    drawn.resize();
+    drawn.update();
+});
+matchMedia("(prefers-color-scheme: dark)").addEventListener("change", redraw);
+matchMedia("print").addEventListener("change", redraw);
+addEventListener("beforeprint", redraw);
+addEventListener("afterprint", redraw);
