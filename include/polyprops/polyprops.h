@@ -1337,6 +1337,8 @@ POLYPROPS_API void POLY_GETPOLI(const int64_t* sel, const int64_t* n, const int6
  * - Both results are always written.
  * - A mode that asks for nothing gives 0 twice, whatever the other arguments hold; no logarithm is taken for
  *   a mode that asks for the derivative alone.
+ * - A reference temperature of 0, or T / TR not above 0 where a logarithm is asked for, gives what plain
+ *   arithmetic gives.
  */
 POLYPROPS_API void POLY_TBPARA(const double* t, const double* p1, const double* p2, const double* p3,
                                const double* p4, const double* p5, const double* tr, const int64_t* mode,
@@ -1383,6 +1385,8 @@ POLYPROPS_API void POLY_TBKIJ3(const double* t, const int64_t* n, const int64_t*
  * - There is no default reference temperature: every element is 0 when K is not in 1..N.
  * - A coefficient position beyond N counts as 0.
  * - M < 1: nothing is written.
+ * - The reference temperature of a selected pair is not tested: plain arithmetic stands, so that one of 0
+ *   gives an infinity or a NaN, which POLY_TBKIJ3 does not.
  */
 POLYPROPS_API void POLY_TBKIJ4(const double* t, const int64_t* n, const int64_t* k, const int64_t* m,
                                const double* p, double* kij, double* dkij, const int64_t* mode,
@@ -1409,6 +1413,8 @@ POLYPROPS_API void POLY_TBKIJ4(const double* t, const int64_t* n, const int64_t*
  * - Every element is 0 when K is neither 0 nor in 1..N.
  * - A coefficient position beyond N counts as 0.
  * - M < 1: nothing is written.
+ * - The reference temperature of a selected pair is not tested: plain arithmetic stands, so that one of 0
+ *   gives an infinity or a NaN, which POLY_TBKIJ3 does not.
  */
 POLYPROPS_API void POLY_KIJ5(const double* t, const int64_t* n, const int64_t* k, const int64_t* m,
                              const double* p, const double* select, const int64_t* mask, double* kij);
@@ -1434,6 +1440,8 @@ POLYPROPS_API void POLY_KIJ5(const double* t, const int64_t* n, const int64_t* k
  * - Every element is 0 when K is neither 0 nor in 1..N.
  * - A coefficient position beyond N counts as 0.
  * - M < 1: nothing is written.
+ * - The reference temperature of a selected pair is not tested: plain arithmetic stands, so that one of 0
+ *   gives an infinity or a NaN, which POLY_TBKIJ3 does not.
  */
 POLYPROPS_API void POLY_DKIJ5(const double* t, const int64_t* n, const int64_t* k, const int64_t* m,
                               const double* p, const double* select, const int64_t* mask, double* dkij);
@@ -1635,7 +1643,8 @@ POLYPROPS_API void POLY_CSDCAL(const int64_t* n, const int64_t* ns, const int64_
  *   GPC        in      not 0: Y holds chain length times weight fraction
  *
  * - The report has a title, the table of column 1 in as many pages as it needs, and one line with Area, Pn,
- *   Pw and PDI; with Area below the zero bound, which N < 2 gives, the title alone.
+ *   Pw and PDI; with Area below the zero bound, which N < 2 gives when the bound is positive, the title
+ *   alone.
  * - Real fields are 11 wide with 4 significant digits, as the Fortran edit G11.4 prints them; negative zero
  *   prints as zero, values that are not finite as NaN, Infinity or -Infinity.
  * - A page shorter than 6 lines is taken as 6. A point number beyond 9999 widens its field.

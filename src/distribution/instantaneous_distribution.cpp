@@ -68,8 +68,8 @@ Real sum(Vector<const Real> amounts, Int n)
 // Column after column, as they lie in memory: every point still sums its sites in their order.
 void sum_columns(const Matrix<const Real>& columns, Int sites, Vector<Real> composite, Int n)
 {
-    for (Int k = 1; k <= n; ++k) composite(k) = 0.0;
-    for (Int j = 1; j <= sites; ++j)
+    for (Int k = 1; k <= n; ++k) composite(k) = columns(k, 1);
+    for (Int j = 2; j <= sites; ++j)
         for (Int k = 1; k <= n; ++k) composite(k) += columns(k, j);
 }
 

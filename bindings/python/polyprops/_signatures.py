@@ -1190,6 +1190,7 @@ SIGNATURES = {
         (
             'Both results are always written.',
             'A mode that asks for nothing gives 0 twice, whatever the other arguments hold; no logarithm is taken for a mode that asks for the derivative alone.',
+            'A reference temperature of 0, or T / TR not above 0 where a logarithm is asked for, gives what plain arithmetic gives.',
         ),
     ),
     'POLY_TBKIJ3': Signature(
@@ -1230,6 +1231,7 @@ SIGNATURES = {
             'There is no default reference temperature: every element is 0 when K is not in 1..N.',
             'A coefficient position beyond N counts as 0.',
             'M < 1: nothing is written.',
+            'The reference temperature of a selected pair is not tested: plain arithmetic stands, so that one of 0 gives an infinity or a NaN, which POLY_TBKIJ3 does not.',
         ),
     ),
     'POLY_KIJ5': Signature(
@@ -1251,6 +1253,7 @@ SIGNATURES = {
             'Every element is 0 when K is neither 0 nor in 1..N.',
             'A coefficient position beyond N counts as 0.',
             'M < 1: nothing is written.',
+            'The reference temperature of a selected pair is not tested: plain arithmetic stands, so that one of 0 gives an infinity or a NaN, which POLY_TBKIJ3 does not.',
         ),
     ),
     'POLY_DKIJ5': Signature(
@@ -1272,6 +1275,7 @@ SIGNATURES = {
             'Every element is 0 when K is neither 0 nor in 1..N.',
             'A coefficient position beyond N counts as 0.',
             'M < 1: nothing is written.',
+            'The reference temperature of a selected pair is not tested: plain arithmetic stands, so that one of 0 gives an infinity or a NaN, which POLY_TBKIJ3 does not.',
         ),
     ),
     'POLY_TBPARI': Signature(
@@ -1424,7 +1428,7 @@ SIGNATURES = {
             Argument('GPC', 'int', 'in', '', 'not 0: Y holds chain length times weight fraction', ''),
         ),
         (
-            'The report has a title, the table of column 1 in as many pages as it needs, and one line with Area, Pn, Pw and PDI; with Area below the zero bound, which N < 2 gives, the title alone.',
+            'The report has a title, the table of column 1 in as many pages as it needs, and one line with Area, Pn, Pw and PDI; with Area below the zero bound, which N < 2 gives when the bound is positive, the title alone.',
             'Real fields are 11 wide with 4 significant digits, as the Fortran edit G11.4 prints them; negative zero prints as zero, values that are not finite as NaN, Infinity or -Infinity.',
             'A page shorter than 6 lines is taken as 6. A point number beyond 9999 widens its field.',
             "The summary file gets its data sets only when the host's report switch is 1 or 2, also when the table was left out: NPOINT, PROPERTIES and TRAY_NO sets, and the blocks YCSD, XCSD and YCSDS. The host's summary counters advance by five data sets and three list sets.",
