@@ -70,9 +70,10 @@ void read_increments(TableReader& table, DistributionSection& section)
     const auto sites = table.entry("sites");
     const auto increments = table.entry("increments");
     if (sites.has_value() == increments.has_value()) {
-        table.diagnostics().add(sites ? increments->source : table.source(),
-                                fmt::format("{} has {} sites and increments; expected one of them",
-                                            table.path(), sites ? "both" : "neither"));
+        table.diagnostics().add(
+            sites ? increments->source : table.source(),
+            fmt::format("{} has {}; expected one of them", table.path(),
+                        sites ? "both sites and increments" : "neither sites nor increments"));
         return;
     }
     if (sites) return read_increment(*sites, section, table.diagnostics());
@@ -164,7 +165,7 @@ void check_amounts(const DistributionSection& section, std::string_view path, do
     double total = 0;
     for (const auto& increment : section.increments)
         for (const auto& site : increment) total += site.amount;
-    if (!section.increments.empty() && !(total > zero_bound))
+    if (!section.sites.empty() && !(total > zero_bound))
         diagnostics.add(section.name.source,
                         fmt::format("{} makes {} in total; expected more than the zero bound, {}", path,
                                     total, zero_bound));
