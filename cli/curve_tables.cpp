@@ -12,7 +12,7 @@ Table averages(const DistributionResults& results)
     Table table{"distribution_averages",
                 "Averages of the curves",
                 {{"curve", "Curve", ""},
-                 {"amount", "Amount", "1"},
+                 {"amount", "Amount", ""},
                  {"area", "Area", "1"},
                  {"pn", "Pn", "1"},
                  {"pw", "Pw", "1"},

@@ -128,7 +128,7 @@ std::vector<std::string> disagreements(const std::vector<DistributionResults>& r
     std::vector<std::string> lines;
     for (const auto& distribution : results)
         for (const auto& check : distribution.checks)
-            if (!check.agrees())
+            if (std::isfinite(check.pn) && std::isfinite(check.pw) && !check.agrees())
                 lines.push_back(
                     fmt::format("distributions.{}: {} has Pn {:.6g} and Pw {:.6g} on the grid; by its {} "
                                 "they are {:.6g} and "

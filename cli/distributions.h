@@ -73,7 +73,8 @@ struct DistributionResults {
 
 std::vector<DistributionResults> evaluate_distributions(const Case& input, minihost::Host& host);
 
-// One line for each average that is not what its sites or moments say, beyond what the grid leaves open.
+// One line for each curve whose averages are not what its sites or moments say, beyond what the grid leaves
+// open.
 std::vector<std::string> disagreements(const std::vector<DistributionResults>& results);
 
 // Has the library write a distribution to the host's report and summary files.

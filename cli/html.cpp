@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+
 #include "cli/html/embedded.h"
 
 namespace cli {
@@ -81,13 +83,19 @@ bool has_chart(const Section& section)
     return false;
 }
 
+std::string label(std::string key)
+{
+    std::ranges::replace(key, '_', ' ');
+    return key;
+}
+
 std::string facts(const Section& section)
 {
     std::string html;
     for (const auto& [key, text] : section.facts)
         if (!text.empty())
-            html +=
-                fmt::format("<p class=\"fact\"><span>{}</span> {}</p>\n", html_text(key), html_text(text));
+            html += fmt::format("<p class=\"fact\"><span>{}</span> {}</p>\n", html_text(label(key)),
+                                html_text(text));
     return html;
 }
 

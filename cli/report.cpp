@@ -88,17 +88,33 @@ Report make_conversion_report(const Case& input, const CheckedInput& checked, co
     return {input.title, input.file, checked.messages, {}, {stream_section(stream, std::move(tables))}};
 }
 
+namespace {
+
+bool is_finite(const Cell& cell)
+{
+    const auto* value = std::get_if<double>(&cell);
+    return !value || std::isfinite(*value);
+}
+
+// Of a curve the first number says enough.
+void add_not_finite(const Section& section, const Table& table, std::vector<std::string>& found)
+{
+    for (const auto& row : table.rows)
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            if (is_finite(row[i])) continue;
+            found.push_back(fmt::format("{}s.{}: {} of {} is {}; expected a finite result", section.kind,
+                                        section.name, table.columns[i].key, text(row.front()), text(row[i])));
+            if (table.is_long) return;
+        }
+}
+
+}  // namespace
+
 std::vector<std::string> not_finite(const Report& report)
 {
     std::vector<std::string> found;
     for (const auto& section : report.sections)
-        for (const auto& table : section.tables)
-            for (const auto& row : table.rows)
-                for (std::size_t i = 0; i < row.size(); ++i)
-                    if (const auto* value = std::get_if<double>(&row[i]); value && !std::isfinite(*value))
-                        found.push_back(fmt::format("{}s.{}: {} of {} is {}; expected a finite result",
-                                                    section.kind, section.name, table.columns[i].key,
-                                                    text(row.front()), *value));
+        for (const auto& table : section.tables) add_not_finite(section, table, found);
     return found;
 }
 

@@ -40,8 +40,10 @@ const marks = {
             ctx.stroke();
             const text = `${name} ${shown(value)}`;
             const top = chartArea.top + 4 + 18 * row;
+            ctx.globalAlpha = 0.7;
             ctx.fillStyle = colour("--paper");
             ctx.fillRect(x + 2, top, ctx.measureText(text).width + 6, 16);
+            ctx.globalAlpha = 1;
             ctx.fillStyle = colour("--ink");
             ctx.fillText(text, x + 5, top + 12);
         }
