@@ -70,9 +70,10 @@ void read_increments(TableReader& table, DistributionSection& section)
     const auto sites = table.entry("sites");
     const auto increments = table.entry("increments");
     if (sites.has_value() == increments.has_value()) {
-        table.diagnostics().add(sites ? increments->source : table.source(),
-                                fmt::format("{} has {} sites and increments; expected one of them",
-                                            table.path(), sites ? "both" : "neither"));
+        table.diagnostics().add(
+            sites ? increments->source : table.source(),
+            fmt::format("{} has {}; expected one of them", table.path(),
+                        sites ? "both sites and increments" : "neither sites nor increments"));
         return;
     }
     if (sites) return read_increment(*sites, section, table.diagnostics());

@@ -34,7 +34,7 @@ struct RunOptions {
 // Checks the case and prints the results of its streams to `out`. What is wrong with it goes to `errors`: one
 // line for each error of the file, which end the command, and the messages of the library's input checks,
 // which drop what they name and let the rest of the case run. With either of them the exit status tells so.
-int run(const RunOptions& options, std::FILE* out, std::FILE* errors);
+int run_case(const RunOptions& options, std::FILE* out, std::FILE* errors);
 int run(const std::filesystem::path& file, Format format, std::FILE* out, std::FILE* errors);
 
 struct Conversion {

@@ -60,7 +60,7 @@ private:
         command->callback([this] {
             run_.file = file_;
             run_.format = formats.at(format_);
-            status_ = cli::run(run_, stdout, stderr);
+            status_ = cli::run_case(run_, stdout, stderr);
         });
     }
 

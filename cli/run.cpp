@@ -22,7 +22,7 @@ void print(const std::vector<std::string>& lines, std::FILE* errors)
     for (const auto& line : lines) fmt::print(errors, "{}\n", line);
 }
 
-int run_case(const RunOptions& options, std::FILE* out, std::FILE* errors)
+int run_unguarded(const RunOptions& options, std::FILE* out, std::FILE* errors)
 {
     Diagnostics diagnostics;
     auto input = read_case(options.file, diagnostics);
@@ -42,22 +42,22 @@ int run_case(const RunOptions& options, std::FILE* out, std::FILE* errors)
 
 }  // namespace
 
+int run_case(const RunOptions& options, std::FILE* out, std::FILE* errors)
+{
+    try {
+        return run_unguarded(options, out, errors);
+    } catch (const std::exception& error) {
+        fmt::print(errors, "polyprops: {}\n", error.what());
+        return exit_case_error;
+    }
+}
+
 int run(const std::filesystem::path& file, Format format, std::FILE* out, std::FILE* errors)
 {
     RunOptions options;
     options.file = file;
     options.format = format;
-    return run(options, out, errors);
-}
-
-int run(const RunOptions& options, std::FILE* out, std::FILE* errors)
-{
-    try {
-        return run_case(options, out, errors);
-    } catch (const std::exception& error) {
-        fmt::print(errors, "polyprops: {}\n", error.what());
-        return exit_case_error;
-    }
+    return run_case(options, out, errors);
 }
 
 }  // namespace cli
