@@ -165,7 +165,7 @@ void check_amounts(const DistributionSection& section, std::string_view path, do
     double total = 0;
     for (const auto& increment : section.increments)
         for (const auto& site : increment) total += site.amount;
-    if (!section.increments.empty() && !(total > zero_bound))
+    if (!section.sites.empty() && !(total > zero_bound))
         diagnostics.add(section.name.source,
                         fmt::format("{} makes {} in total; expected more than the zero bound, {}", path,
                                     total, zero_bound));

@@ -20,18 +20,6 @@ bool carries_site_attributes(Int component, Host& host)
                                [&](auto name) { return host.attributes().find(component, name) != nullptr; });
 }
 
-// 0 when the polymer can only be told as a whole.
-Int site_types(Host& host)
-{
-    bool has_polymers = false;
-    for (Int c = 1; c <= host.components().count(); ++c) {
-        if (!host.components().is(ComponentClass::polymer, c)) continue;
-        has_polymers = true;
-        if (!carries_site_attributes(c, host)) return 0;
-    }
-    return has_polymers ? host.dimensions().sites : 0;
-}
-
 ReactorResults evaluate(const Reactor& reactor, Int sites, Host& host)
 {
     const auto& inlet = host.streams().view(reactor.inlet.id);
@@ -52,6 +40,17 @@ ReactorResults evaluate(const Reactor& reactor, Int sites, Host& host)
 }
 
 }  // namespace
+
+Int site_types(Host& host)
+{
+    bool has_polymers = false;
+    for (Int c = 1; c <= host.components().count(); ++c) {
+        if (!host.components().is(ComponentClass::polymer, c)) continue;
+        has_polymers = true;
+        if (!carries_site_attributes(c, host)) return 0;
+    }
+    return has_polymers ? host.dimensions().sites : 0;
+}
 
 std::vector<ReactorResults> evaluate_reactors(const Case& input, Host& host)
 {

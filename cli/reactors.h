@@ -28,7 +28,10 @@ struct ReactorResults {
     std::vector<PolymerMade> made;
 };
 
-// Site types are told apart when every polymer of the case carries their moments and segment flows.
+// Site types that are told apart: those of the case when every polymer carries their moments and segment
+// flows, 0 when the polymer can only be told as a whole.
+Int site_types(minihost::Host& host);
+
 std::vector<ReactorResults> evaluate_reactors(const Case& input, minihost::Host& host);
 
 }  // namespace cli

@@ -2,34 +2,18 @@
 
 #include <polyprops/polyprops.h>
 
-#include <algorithm>
+#include "cli/reactors.h"
+#include "cli/stream_list.h"
 
 namespace cli {
 
 namespace {
 
 using minihost::Host;
-using minihost::Int;
-
-bool has_site_moments(Host& host)
-{
-    if (host.dimensions().sites < 1) return false;
-    for (Int c = 1; c <= host.components().count(); ++c)
-        if (host.attributes().find(c, "SZMOM")) return true;
-    return false;
-}
 
 std::size_t entries(Host& host)
 {
-    return has_site_moments(host) ? static_cast<std::size_t>(host.dimensions().sites) + 1 : 1;
-}
-
-std::vector<double> molecular_weights(const Host& host)
-{
-    std::vector<double> weights;
-    for (Int c = 1; c <= host.components().count(); ++c)
-        weights.push_back(host.components().at(c).molecular_weight.value_or(0));
-    return weights;
+    return static_cast<std::size_t>(site_types(host)) + 1;
 }
 
 }  // namespace

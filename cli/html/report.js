@@ -28,7 +28,7 @@ const marks = {
     afterDatasetsDraw(chart, _args, options) {
         const { ctx, chartArea, scales } = chart;
         ctx.save();
-        ctx.strokeStyle = ctx.fillStyle = colour("--quiet");
+        ctx.strokeStyle = colour("--quiet");
         ctx.font = "12px system-ui, sans-serif";
         ctx.setLineDash([5, 4]);
         for (const { name, value, row } of options.at ?? []) {
@@ -38,7 +38,12 @@ const marks = {
             ctx.moveTo(x, chartArea.top);
             ctx.lineTo(x, chartArea.bottom);
             ctx.stroke();
-            ctx.fillText(`${name} ${shown(value)}`, x + 4, chartArea.top + 12 + 15 * row);
+            const text = `${name} ${shown(value)}`;
+            const top = chartArea.top + 4 + 18 * row;
+            ctx.fillStyle = colour("--paper");
+            ctx.fillRect(x + 2, top, ctx.measureText(text).width + 6, 16);
+            ctx.fillStyle = colour("--ink");
+            ctx.fillText(text, x + 5, top + 12);
         }
         ctx.restore();
     },
@@ -109,19 +114,24 @@ function distributionChart(canvas, distribution) {
     return chart(canvas, datasets, scales, marked, (x) => `Chain length ${shown(x)}`);
 }
 
-// Every ordered pair whose parameter is not 0 throughout.
+// Every pair whose parameter is not 0 throughout; both orders of it where they differ.
 function parameterChart(canvas, set) {
     const rows = set.binary_parameters;
+    const names = Object.keys(rows[0]).filter((key) => key !== "temperature" && key !== "component");
+    const curve = (first, second) => rows.filter((row) => row.component === first)
+        .map((row) => ({ x: row.temperature, y: row[second] }));
     const datasets = [];
-    for (const first of new Set(rows.map((row) => row.component)))
-        for (const second of Object.keys(rows[0]).filter((key) => key !== "temperature" && key !== "component")) {
-            const points = rows.filter((row) => row.component === first)
-                .map((row) => ({ x: row.temperature, y: row[second] }));
-            if (points.every((point) => point.y === 0)) continue;
-            const hue = palette[datasets.length % palette.length];
-            datasets.push(line(`${first} – ${second}`, points,
-                { borderColor: hue, backgroundColor: hue, borderDash: first > second ? [6, 4] : [] }));
-        }
+    const add = (first, second, borderDash) => {
+        const points = curve(first, second);
+        if (points.every((point) => point.y === 0)) return;
+        const hue = palette[datasets.length % palette.length];
+        datasets.push(line(`${first} – ${second}`, points, { borderColor: hue, backgroundColor: hue, borderDash }));
+    };
+    names.forEach((first, i) => names.slice(i + 1).forEach((second) => {
+        add(first, second, []);
+        const mirror = curve(second, first);
+        if (curve(first, second).some((point, k) => point.y !== mirror[k].y)) add(second, first, [6, 4]);
+    }));
     const unit = report.units.binary_parameters[rows[0].component];
     const scales = {
         x: axis("Temperature, K", { type: "linear" }),

@@ -30,6 +30,17 @@ inline Json run_json(const std::string& example)
     return Json::parse(out);
 }
 
+// A run with options, of which `file` and `format` hold as well.
+inline Outcome run(cli::RunOptions options, const std::filesystem::path& file, Format format)
+{
+    const auto command = [&](const auto& path, Format form, std::FILE* out, std::FILE* errors) {
+        options.file = path;
+        options.format = form;
+        return cli::run_case(options, out, errors);
+    };
+    return support::capture(command, file, format);
+}
+
 // The same of a case that stands in no file.
 inline Outcome run_text(const std::string& text, Format format)
 {
@@ -40,10 +51,10 @@ inline Outcome run_text(const std::string& text, Format format)
     return outcome;
 }
 
-// A row with these texts in a table of the named stream or reactor.
+// A row with these texts in a table of the named section.
 inline Json row(const Json& report, const std::string& name, const std::string& table, const Json& texts)
 {
-    for (const auto* kind : {"streams", "reactors"})
+    for (const auto* kind : {"streams", "reactors", "distributions", "parameters"})
         for (const auto& section : report.value(kind, Json::array())) {
             if (section["name"] != name || !section.contains(table)) continue;
             for (const auto& r : section[table]) {

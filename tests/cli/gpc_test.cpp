@@ -1,0 +1,140 @@
+#include "cli/gpc.h"
+
+#include "cli/file_contents.h"
+#include "program.h"
+
+namespace {
+
+using namespace cli_test;
+
+const std::string one_site = R"(
+[components]
+P = { molecular_weight = 100 }
+[distributions.D]
+points = 400
+longest_chain = 1e5
+segment_weight = 100
+sites = [{ tau = 0.01, amount = 1 }]
+)";
+
+struct File {
+    explicit File(const std::string& text = {}, const std::string& name = "polyprops_file")
+        : path(std::filesystem::path{testing::TempDir()} / name)
+    {
+        if (!text.empty()) std::ofstream{path} << text;
+    }
+    ~File() { std::filesystem::remove(path); }
+    std::filesystem::path path;
+};
+
+std::string refusal(const std::string& text)
+{
+    try {
+        cli::parse_gpc(text, "m.txt");
+    } catch (const std::exception& error) {
+        return error.what();
+    }
+    return "accepted";
+}
+
+TEST(MeasuredCurve, ReadsBothSeparatorsAndKeepsHeaderLinesAsNotes)
+{
+    const std::string texts[] = {
+        "run 17, THF\nmolecular_weight,signal\n1000,0.5\n2000, 1.5\n\n4e3 ,-0.25\n",
+        "run 17, THF\r\nmolecular_weight,signal\r\n4000 -0.25\r\n2000\t+1.5\r\n  1000   0.5  ",
+    };
+    for (const auto& text : texts) {
+        const auto curve = cli::parse_gpc(text, "m.txt");
+        EXPECT_EQ(curve.notes, (std::vector<std::string>{"run 17, THF", "molecular_weight,signal"}));
+        EXPECT_EQ(curve.molecular_weight, (std::vector<double>{1000, 2000, 4000}));
+        EXPECT_EQ(curve.signal, (std::vector<double>{0.5, 1.5, -0.25}));
+    }
+}
+
+TEST(MeasuredCurve, RefusesWhatIsNone)
+{
+    EXPECT_EQ(refusal("M,S\n1,2\n3;4\n"),
+              "m.txt:3: \"3;4\"; expected two numbers, molecular weight and signal");
+    EXPECT_EQ(refusal("1,2\n3,4,5\n"),
+              "m.txt:2: \"3,4,5\"; expected two numbers, molecular weight and signal");
+    EXPECT_EQ(refusal("1,2\n3,nan\n"),
+              "m.txt:2: \"3,nan\"; expected two numbers, molecular weight and signal");
+    EXPECT_EQ(refusal("0 2\n3 4\n"), "m.txt:1: \"0 2\"; expected a molecular weight greater than 0");
+    EXPECT_EQ(refusal("M S\n3 4\n"),
+              "m.txt: 1 line with two numbers; expected at least 2: molecular weight and signal");
+    EXPECT_EQ(
+        refusal("1 1\n3 1\n3 1\n4 1\n"),
+        "m.txt: molecular weights 3 and 3 stand side by side; expected all of them to rise or all to fall");
+}
+
+TEST(MeasuredCurve, AnExportedCompositeComesBackWithoutResidual)
+{
+    const File case_file{one_site, "case.toml"};
+    const File exported;
+    cli::RunOptions options;
+    options.export_gpc = exported.path;
+    ASSERT_EQ(run(options, case_file.path, Format::json).status, 0);
+    options = {};
+    options.gpc = exported.path;
+    const auto seen = run(options, case_file.path, Format::json);
+    ASSERT_EQ(seen.status, 0) << seen.errors;
+    const auto section = Json::parse(seen.out)["distributions"][0];
+    const auto& comparison = section["gpc_comparison"][0];
+    EXPECT_EQ(comparison["points"], 400);
+    EXPECT_LT(comparison["largest_difference"].get<double>(), 1e-9);
+    EXPECT_EQ(comparison["mn_measured"], comparison["mn_calculated"]);
+    // Pw = 2/τ, but for what the grid leaves open.
+    EXPECT_NEAR(comparison["mw_measured"].get<double>(), 20000, 100);
+    EXPECT_EQ(section["gpc_notes"].get<std::string>().find("# composite of the distribution D, 100 g/mol"),
+              0u);
+    // The overlay lies on the curve of the composite.
+    const auto& measured = section["gpc_curve"][200];
+    const auto& calculated = section["distribution_curves"][200];
+    EXPECT_NEAR(measured["overlay"].get<double>(), calculated["composite"].get<double>(), 1e-4);
+}
+
+// Signals 1 and 3 at 10 000 and 100 000 g/mol: one trapezoid of area 2 over one decade.
+TEST(MeasuredCurve, ResidualComparesCurvesOfAreaOne)
+{
+    cli::DistributionResults flat{"D", true, 100.0, {}, {}, {}, {}};
+    flat.lengths = {100, 1000};
+    flat.curves.push_back({"composite", cli::Curve::Kind::composite, 1, {5, 5}, {}});
+    const auto c = cli::compare(cli::parse_gpc("10000 1\n100000 3\n", "m.txt"), "m.txt", flat);
+    EXPECT_DOUBLE_EQ(c.measured[0], 0.5);
+    EXPECT_DOUBLE_EQ(c.measured[1], 1.5);
+    EXPECT_DOUBLE_EQ(c.calculated[0], 1);
+    EXPECT_DOUBLE_EQ(c.residual, 0.5 / 1.5);
+    EXPECT_DOUBLE_EQ(c.largest_difference, 0.5 / 1.5);
+    EXPECT_DOUBLE_EQ(c.mw_measured, 0.5 * (0.5 * 10000 + 1.5 * 100000));
+}
+
+TEST(MeasuredCurve, SaysWhatACaseLacksForIt)
+{
+    const auto second =
+        "[distributions.E]\npoints = 2\nlongest_chain = 9\nsites = [{ tau = 1, amount = 1 }]\n";
+    struct Case {
+        std::string text, measured, distribution, expected;
+    };
+    const Case cases[] = {
+        {one_site + second, "1000 1\n2000 1\n", "", "has 2 distributions; expected the name of one"},
+        {one_site + second, "1000 1\n2000 1\n", "F", "has no distribution \"F\"; expected one of D, E"},
+        {one_site + second, "1000 1\n2000 1\n", "E", "distributions.E has no segment weight"},
+        {one_site, "1e9 1\n2e9 1\n", "",
+         "the composite in the measured range, 1000000000 to 2000000000 g/mol, has area 0"},
+        {one_site, "1e3 1\n2e3 -1\n", "", "the signal has area 0 over log10 of molecular weight"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.expected);
+        const File case_file{c.text, "case.toml"};
+        const File measured{c.measured};
+        cli::RunOptions options;
+        options.gpc = measured.path;
+        options.distribution = c.distribution;
+        const auto seen = run(options, case_file.path, Format::text);
+        EXPECT_EQ(seen.status, cli::exit_case_error);
+        EXPECT_EQ(seen.out, "");
+        EXPECT_NE(seen.errors.find(c.expected), std::string::npos) << seen.errors;
+    }
+}
+
+}  // namespace

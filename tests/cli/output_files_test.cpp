@@ -1,0 +1,130 @@
+#include "cli/output_files.h"
+
+#include "cli/case_reader.h"
+#include "cli/file_contents.h"
+#include "cli/html.h"
+#include "cli/selfcheck.h"
+#include "program.h"
+
+namespace {
+
+using namespace cli_test;
+
+class OutputDirectory : public testing::Test {
+protected:
+    void SetUp() override { std::filesystem::remove_all(path); }
+    void TearDown() override { std::filesystem::remove_all(path); }
+
+    std::vector<std::string> names() const
+    {
+        std::vector<std::string> found;
+        for (const auto& entry : std::filesystem::directory_iterator{path})
+            found.push_back(entry.path().filename().string());
+        std::ranges::sort(found);
+        return found;
+    }
+
+    std::filesystem::path path = std::filesystem::path{testing::TempDir()} / "polyprops_out";
+};
+
+std::size_t count(const std::string& text, const std::string& part)
+{
+    std::size_t found = 0;
+    for (auto at = text.find(part); at != text.npos; at = text.find(part, at + 1)) ++found;
+    return found;
+}
+
+cli::Evaluation evaluated(const std::string& text)
+{
+    cli::Diagnostics diagnostics;
+    auto input = cli::parse_case(text, "c.toml", diagnostics);
+    EXPECT_TRUE(diagnostics.empty()) << diagnostics.lines("c.toml").front();
+    return cli::evaluate_case(std::move(input));
+}
+
+TEST_F(OutputDirectory, HoldsEveryFormOfTheResults)
+{
+    cli::RunOptions options;
+    options.out = path / "made" / "on the way";
+    const auto seen = run(options, examples / "ziegler-natta-5-site.toml", Format::json);
+    ASSERT_EQ(seen.status, 0) << seen.errors;
+    path = *options.out;
+    const std::string stem = "ziegler-natta-5-site.";
+    EXPECT_EQ(names(), (std::vector<std::string>{stem + "PE.csv", stem + "csv", stem + "html", stem + "json",
+                                                 stem + "rpt", stem + "sum"}));
+    EXPECT_EQ(cli::file_contents(path / (stem + "json")), seen.out);
+    const auto curves = cli::file_contents(path / (stem + "PE.csv"));
+    EXPECT_EQ(curves.find("chain_length,molecular_weight,cumulative,composite,site A,"), 0u);
+    EXPECT_EQ(count(curves, "\n"), 2001u);
+    const auto report = cli::file_contents(path / (stem + "rpt"));
+    EXPECT_EQ(report.find("Polyethylene from five site types"), 0u);
+    EXPECT_EQ(count(report, "*** POLYMER DISTRIBUTIONS ***"), 1u);
+    EXPECT_NE(report.find("Pn =   450.6      Pw =   4084."), std::string::npos);
+    // YCSD, XCSD and one section of YCSDS; seven results of five sites.
+    const auto summary = cli::file_contents(path / (stem + "sum"));
+    EXPECT_EQ(count(summary, "\nreal "), 3 * 2000 + 7 * 5u);
+    EXPECT_EQ(count(summary, "header \"POLYRES\" \"PRODUCT\""), 1u);
+}
+
+TEST_F(OutputDirectory, IsAsItWasWhenOneFileCannotBeWritten)
+{
+    std::filesystem::create_directories(path / "case.html");
+    std::ofstream{path / "case.rpt"} << "before";
+    const std::vector<cli::OutputFile> files{{"case.rpt", "after"}, {"case.html", "<p>"}};
+    EXPECT_THROW(cli::write_files(path, files), std::runtime_error);
+    EXPECT_EQ(cli::file_contents(path / "case.rpt"), "before");
+    EXPECT_EQ(names(), (std::vector<std::string>{"case.html", "case.rpt"}));
+}
+
+TEST_F(OutputDirectory, KeepsDistributionsApart)
+{
+    const std::string text =
+        "[components]\nP = { molecular_weight = 1 }\n"
+        "[distributions.\"A 1\"]\npoints = 2\nlongest_chain = 9\nsites = [{ tau = 1, amount = 1 }]\n";
+    auto good = evaluated(text);
+    EXPECT_EQ(cli::output_files("n", good).back().name, "n.A_1.csv");
+    good = {};
+    auto bad = evaluated(
+        text + "[distributions.A_1]\npoints = 2\nlongest_chain = 9\nsites = [{ tau = 1, amount = 1 }]\n");
+    EXPECT_THROW(cli::output_files("n", bad), std::runtime_error);
+}
+
+TEST(Pages, HoldAsManyLinesAsTheCaseSays)
+{
+    auto e = evaluated(
+        "title = \"Two\\nlines\"\n[settings]\nlines_per_page = 5\n[components]\nP = { molecular_weight = 1 "
+        "}\n"
+        "[parameters.S]\ncomponents = [\"P\"]\ntemperatures = [300]\n");
+    const auto report = cli::output_files("n", e).front().content;
+    EXPECT_EQ(report.find("Two lines "), 0u);
+    std::istringstream pages{report};
+    for (std::string page; std::getline(pages, page, '\f');) EXPECT_LE(count(page, "\n"), 5 + 2u) << page;
+    EXPECT_GT(count(report, "\f"), 1u);
+}
+
+TEST(Html, EscapesEveryText)
+{
+    auto e = evaluated(
+        "title = \"</title><script>alert(1)</script>&\\\"\"\n[components]\nP = { molecular_weight = 1 }\n"
+        "[distributions.\"<b>\"]\npoints = 2\nlongest_chain = 9\nsites = [{ name = \"</script>\", tau = 1, "
+        "amount = 1 }]\n");
+    const auto html = cli::format_html(e);
+    EXPECT_EQ(html.find("<script>alert"), std::string::npos);
+    EXPECT_EQ(html.find("<b>"), std::string::npos);
+    EXPECT_NE(html.find("&lt;/title&gt;&lt;script&gt;alert(1)&lt;/script&gt;&amp;&quot;"), std::string::npos);
+    EXPECT_EQ(count(html, "</script>"), 3u);  // data, chart library, charts
+    const auto data = html.find("id=\"report\">") + 12;
+    const auto json = Json::parse(html.substr(data, html.find("</script>", data) - data));
+    EXPECT_EQ(json["distributions"][0]["name"], "<b>");
+    EXPECT_EQ(html.find("{{"), std::string::npos);
+}
+
+TEST(Selfcheck, AgreesWithKnownAnswers)
+{
+    const support::Capture out;
+    EXPECT_EQ(cli::selfcheck(out.file), cli::exit_success) << out.text();
+    EXPECT_GT(count(out.text(), "\nok  "), 5u);
+    EXPECT_EQ(out.text().find("FAILED"), std::string::npos);
+}
+
+}  // namespace
