@@ -18,7 +18,7 @@ PRODUCTS = {
     "src/exports/polyprops.map": c_header.export_map,
     "docs/routines.md": reference.page,
     "bindings/fortran/polyprops.f90": fortran.module,
-    "bindings/python/polyprops/_signatures.py": python_signatures.signatures,
+    "bindings/python/polyprops/signatures.json": python_signatures.signatures,
 }
 
 

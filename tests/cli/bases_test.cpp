@@ -34,8 +34,9 @@ TEST(Examples, CloseOnEveryBasisAndAgreeOnChainWeights)
 // Fractions come from other routines than flows.
 TEST(Examples, GiveFractionsThatFollowFromTheirFlows)
 {
-    for (const char* example : all_examples)
-        for (const auto& stream : run_json(example)["streams"])
+    for (const char* example : all_examples) {
+        const Json results = run_json(example);
+        for (const auto& stream : results["streams"])
             for (const auto& closure : stream["closures"]) {
                 const auto basis = closure["basis"].get<std::string>();
                 for (const auto& a : stream[basis + "_composition"]) {
@@ -46,6 +47,7 @@ TEST(Examples, GiveFractionsThatFollowFromTheirFlows)
                                     1e-13);
                 }
             }
+    }
 }
 
 TEST(Examples, GiveTheTablesThatTheirCommentsDerive)
@@ -167,10 +169,7 @@ TEST(Convert, PrintsTextAndCsv)
 
 TEST(Convert, RefusesWhatItCannotDoAsAnErrorOfUsage)
 {
-    const struct {
-        cli::Conversion conversion;
-        std::string error;
-    } rows[] = {
+    const std::vector<std::pair<cli::Conversion, std::string>> rows = {
         {{"BLEND", Basis::segment, Basis::apparent},
          "polyprops: --from is \"segment\"; expected \"apparent\" or \"true\", since segments do not tell "
          "which "

@@ -2,6 +2,7 @@
 
 import contextlib
 import io
+import json
 import shutil
 import subprocess
 import sys
@@ -97,10 +98,8 @@ class Products(unittest.TestCase):
             self.assertIn(declaration, module)
 
     def test_python_signatures_say_what_the_table_says(self):
-        namespace = {}
-        exec(python_signatures.signatures(self.routines), namespace)
-        arguments = namespace["SIGNATURES"]["POLY_PACK"].arguments
-        self.assertEqual([tuple(a) for a in arguments],
+        arguments = json.loads(python_signatures.signatures(self.routines))["POLY_PACK"]["arguments"]
+        self.assertEqual([tuple(a.values()) for a in arguments],
                          [(a.name, a.type, a.dir, a.shape, a.means, a.unit) for a in self.routines[0].arguments])
 
     def test_check_lists_the_stale_files_and_writes_nothing(self):
