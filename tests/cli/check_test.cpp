@@ -10,6 +10,7 @@
 #include "cli/load.h"
 #include "cli/report.h"
 #include "support/capture.h"
+#include "support/scratch.h"
 
 namespace {
 
@@ -104,7 +105,7 @@ public:
     ~CaseFile() { std::filesystem::remove(path); }
     // Tests run side by side.
     const std::filesystem::path path =
-        std::filesystem::path{testing::TempDir()} /
+        support::scratch() /
         (std::string{testing::UnitTest::GetInstance()->current_test_info()->name()} + ".toml");
 };
 

@@ -2,6 +2,7 @@
 
 #include "cli/file_contents.h"
 #include "program.h"
+#include "support/scratch.h"
 
 namespace {
 
@@ -19,7 +20,7 @@ sites = [{ tau = 0.01, amount = 1 }]
 
 struct File {
     explicit File(const std::string& text = {}, const std::string& name = "polyprops_file")
-        : path(std::filesystem::path{testing::TempDir()} / name)
+        : path(support::scratch() / name)
     {
         if (!text.empty()) std::ofstream{path} << text;
     }

@@ -5,6 +5,7 @@
 #include "cli/html.h"
 #include "cli/selfcheck.h"
 #include "program.h"
+#include "support/scratch.h"
 
 namespace {
 
@@ -24,7 +25,7 @@ protected:
         return found;
     }
 
-    std::filesystem::path path = std::filesystem::path{testing::TempDir()} / "polyprops_out";
+    std::filesystem::path path = support::scratch() / "polyprops_out";
 };
 
 std::size_t count(const std::string& text, const std::string& part)

@@ -8,6 +8,7 @@
 
 #include "cli/commands.h"
 #include "support/capture.h"
+#include "support/scratch.h"
 
 namespace cli_test {
 
@@ -44,7 +45,7 @@ inline Outcome run(cli::RunOptions options, const std::filesystem::path& file, F
 // The same of a case that stands in no file.
 inline Outcome run_text(const std::string& text, Format format)
 {
-    const auto file = std::filesystem::path{testing::TempDir()} / "case.toml";
+    const auto file = support::scratch() / "case.toml";
     std::ofstream{file} << text;
     auto outcome = run(file, format);
     std::filesystem::remove(file);

@@ -7,6 +7,7 @@
 #include "cli/load.h"
 #include "cli/program.h"
 #include "cli/report.h"
+#include "support/scratch.h"
 
 namespace {
 
@@ -110,7 +111,7 @@ TEST(Run, CsvHoldsTheNumbersOfJson)
 
 TEST(Run, ACaseInErrorOrWithoutFileExitsWithOneAndPrintsNoResults)
 {
-    const auto bad = std::filesystem::path{testing::TempDir()} / "polyprops_bad_case.toml";
+    const auto bad = support::scratch() / "polyprops_bad_case.toml";
     std::ofstream{bad} << "title = 5\n[components]\n[streams]\n";
     for (const auto& file : {bad, examples / "no-such-file.toml", examples}) {
         SCOPED_TRACE(file);

@@ -10,6 +10,7 @@
 #include "cli/sweep_grid.h"
 #include "cli/sweep_journal.h"
 #include "program.h"
+#include "support/scratch.h"
 
 namespace {
 
@@ -66,7 +67,7 @@ protected:
         return all;
     }
 
-    std::filesystem::path directory = std::filesystem::path{testing::TempDir()} / "polyprops_sweep";
+    std::filesystem::path directory = support::scratch() / "polyprops_sweep";
     std::filesystem::path partial = directory / "s.csv.partial";
     cli::SweepOptions options{directory / "case.toml", {}, directory / "s.csv", 3};
 };
