@@ -37,7 +37,7 @@ SiteIncrement read_site(TableReader table, const SiteIncrement* previous, std::o
     return site;
 }
 
-void name_site(DistributionSection& section, const Entry& entry, std::optional<std::string> name)
+void name_site(DistributionSection& section, const Entry& entry, const std::optional<std::string>& name)
 {
     const auto number = section.sites.size() + 1;
     section.sites.push_back({name.value_or(fmt::format("{}", number)), entry.source});

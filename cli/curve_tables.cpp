@@ -101,6 +101,16 @@ Table measured_curve(const GpcComparison& gpc)
     return table;
 }
 
+std::vector<Cell> coefficient_row(const ParameterResults& results, std::size_t i, std::size_t j)
+{
+    const auto at = results.pair(i, j);
+    std::vector<Cell> row{results.components[i], results.components[j]};
+    for (std::size_t l = 0; l < results.positions; ++l)
+        row.emplace_back(results.coefficients[at * results.positions + l]);
+    row.emplace_back(std::string{results.is_given[at] ? "given" : "completed"});
+    return row;
+}
+
 Table coefficients(const ParameterResults& results)
 {
     Table table{"binary_coefficients",
@@ -110,19 +120,10 @@ Table coefficients(const ParameterResults& results)
     for (std::size_t l = 1; l <= results.positions; ++l)
         table.columns.push_back({fmt::format("p{}", l), fmt::format("P{}", l), results.unit});
     table.columns.push_back({"origin", "Origin", ""});
-    const auto m = results.components.size();
-    for (std::size_t i = 0; i < m; ++i)
-        for (std::size_t j = 0; j < m; ++j) {
-            if (i == j) continue;
-            const auto at = results.pair(i, j);
-            const auto mirror = results.pair(j, i);
-            if (!results.is_given[at] && !results.is_given[mirror]) continue;
-            auto& row =
-                table.rows.emplace_back(std::vector<Cell>{results.components[i], results.components[j]});
-            for (std::size_t l = 0; l < results.positions; ++l)
-                row.emplace_back(results.coefficients[at * results.positions + l]);
-            row.emplace_back(std::string{results.is_given[at] ? "given" : "completed"});
-        }
+    for (std::size_t i = 0; i < results.components.size(); ++i)
+        for (std::size_t j = 0; j < results.components.size(); ++j)
+            if (i != j && (results.is_given[results.pair(i, j)] || results.is_given[results.pair(j, i)]))
+                table.rows.push_back(coefficient_row(results, i, j));
     return table;
 }
 

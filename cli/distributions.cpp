@@ -51,7 +51,9 @@ public:
 private:
     void add(const Increment& increment, Int count, Accumulated& a) const
     {
-        std::vector<double> tau, beta, amount;
+        std::vector<double> tau;
+        std::vector<double> beta;
+        std::vector<double> amount;
         for (const auto& site : increment) {
             tau.push_back(site.tau);
             beta.push_back(site.beta);
@@ -97,7 +99,10 @@ double segment_area(const DistributionResults& r, const Curve& curve, std::size_
 CurveAverages averages(const DistributionResults& r, const Curve& curve)
 {
     CurveAverages result;
-    double over = 0, times = 0, over_left = 0, times_left = 0;
+    double over = 0;
+    double times = 0;
+    double over_left = 0;
+    double times_left = 0;
     for (std::size_t k = 0; k + 1 < r.lengths.size(); ++k) {
         const double a = segment_area(r, curve, k);
         result.area += a;

@@ -41,11 +41,11 @@ std::optional<double> take_number(std::string_view& text)
 std::optional<Pair> read_pair(std::string_view line)
 {
     const auto weight = take_number(line);
-    if (!weight || line.empty() || blanks.find(line.front()) == blanks.npos) return {};
+    if (!weight || line.empty() || blanks.find(line.front()) == std::string_view::npos) return {};
     line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
     if (line.starts_with(',')) line.remove_prefix(1);
     const auto signal = take_number(line);
-    if (!signal || line.find_first_not_of(" \t\r") != line.npos) return {};
+    if (!signal || line.find_first_not_of(" \t\r") != std::string_view::npos) return {};
     return Pair{*weight, *signal};
 }
 
@@ -155,7 +155,7 @@ GpcCurve parse_gpc(std::string_view text, const std::string& file)
     std::size_t number = 0;
     for (const auto line : lines_of(text)) {
         ++number;
-        if (line.find_first_not_of(" \t") == line.npos) continue;
+        if (line.find_first_not_of(" \t") == std::string_view::npos) continue;
         const auto pair = read_pair(line);
         if (!pair && curve.size() > 0) refuse(file, number, line, "two numbers, molecular weight and signal");
         if (!pair) {

@@ -46,9 +46,9 @@ std::string unit(const Column& column)
 std::string cell(const Cell& cell)
 {
     if (const auto* value = std::get_if<double>(&cell))
-        return fmt::format("<td class=\"number\" data-value=\"{}\">{:.6g}</td>", *value, *value);
+        return fmt::format(R"(<td class="number" data-value="{}">{:.6g}</td>)", *value, *value);
     if (const auto* value = std::get_if<Int>(&cell))
-        return fmt::format("<td class=\"number\" data-value=\"{}\">{}</td>", *value, *value);
+        return fmt::format(R"(<td class="number" data-value="{}">{}</td>)", *value, *value);
     return fmt::format("<td>{}</td>", html_text(std::get<std::string>(cell)));
 }
 
@@ -59,7 +59,7 @@ std::string table(const Table& table)
                     html_text(table.heading), html_text(table.key));
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
         const bool is_text = std::holds_alternative<std::string>(table.rows.front()[i]);
-        html += fmt::format("<th scope=\"col\" data-key=\"{}\"{}>{}{}</th>", html_text(table.columns[i].key),
+        html += fmt::format(R"(<th scope="col" data-key="{}"{}>{}{}</th>)", html_text(table.columns[i].key),
                             is_text ? "" : " class=\"number\"", html_text(table.columns[i].heading),
                             unit(table.columns[i]));
     }

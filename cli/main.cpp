@@ -120,7 +120,7 @@ private:
 }  // namespace
 
 int main(int argc, char** argv)
-{
+try {
     CLI::App app{"Polymer properties of the streams of a case file", "polyprops"};
     app.set_version_flag("--version", POLYPROPS_VERSION);
     app.require_subcommand(1);
@@ -131,4 +131,7 @@ int main(int argc, char** argv)
         return app.exit(error) == 0 ? cli::exit_success : cli::exit_usage;
     }
     return program.status();
+} catch (const std::exception& error) {
+    std::fprintf(stderr, "polyprops: %s\n", error.what());
+    return cli::exit_case_error;
 }

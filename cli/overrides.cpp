@@ -20,7 +20,7 @@ namespace {
 // Takes the key part by part: names, and numbers of array elements.
 class KeyPath {
 public:
-    explicit KeyPath(const std::string& key) : key_(key), rest_(key_) {}
+    explicit KeyPath(std::string key) : key_(std::move(key)), rest_(key_) {}
 
     bool at_end() const { return rest_.empty(); }
 
@@ -30,7 +30,8 @@ public:
         std::size_t number = 0;
         const auto close = rest_.find(']');
         const auto [end, error] = std::from_chars(rest_.data() + 1, rest_.data() + rest_.size(), number);
-        if (close == rest_.npos || error != std::errc{} || end != rest_.data() + close || number < 1)
+        if (close == std::string_view::npos || error != std::errc{} || end != rest_.data() + close ||
+            number < 1)
             refuse(key_, "has no element number from 1 in its brackets");
         rest_.remove_prefix(close + 1);
         return number;
@@ -50,7 +51,7 @@ private:
     std::string_view take_quoted()
     {
         const auto close = rest_.find('"', 1);
-        if (close == rest_.npos) refuse(key_, "has an open quote");
+        if (close == std::string_view::npos) refuse(key_, "has an open quote");
         const auto name = rest_.substr(1, close - 1);
         rest_.remove_prefix(close + 1);
         return name;

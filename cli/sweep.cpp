@@ -108,7 +108,7 @@ private:
     std::size_t processes() const
     {
         return options_.processes > 0 ? options_.processes
-                                      : std::max(1u, std::thread::hardware_concurrency());
+                                      : std::max(1U, std::thread::hardware_concurrency());
     }
 
     Evaluation evaluate(const std::vector<Override>& overrides) const
@@ -191,8 +191,8 @@ private:
     // Names this sweep of this very case: FNV-1a over its text.
     std::string signature() const
     {
-        std::uint64_t hash = 14695981039346656037u;
-        for (const char c : text_) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211u;
+        std::uint64_t hash = 14695981039346656037U;
+        for (const char c : text_) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;
         std::string line = fmt::format("# sweep of {:016x}", hash);
         for (const auto& range : grid_.ranges()) line += " " + range.text();
         return line;

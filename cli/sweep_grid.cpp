@@ -47,7 +47,7 @@ std::string SweepRange::text() const
 SweepRange parse_range(const std::string& text)
 {
     const auto equals = text.rfind('=');
-    if (equals == text.npos || equals == 0) refuse(text);
+    if (equals == std::string::npos || equals == 0) refuse(text);
     SweepRange range;
     range.key = text.substr(0, equals);
     std::string_view rest = std::string_view{text}.substr(equals + 1);

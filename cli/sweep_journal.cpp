@@ -12,9 +12,8 @@
 
 namespace cli {
 
-SweepJournal::SweepJournal(const std::filesystem::path& result, const std::string& sweep,
-                           const std::string& header)
-    : result_(result), file_(result.string() + ".partial"), header_(header)
+SweepJournal::SweepJournal(std::filesystem::path result, const std::string& sweep, const std::string& header)
+    : result_(std::move(result)), file_(result_.string() + ".partial"), header_(header)
 {
     const bool is_new = !std::filesystem::exists(file_);
     if (!is_new) take_up(sweep);
@@ -35,7 +34,7 @@ void SweepJournal::take_up(const std::string& sweep)
             "or none: remove it, or write elsewhere with --out",
             file_.string())};
     std::size_t at = sweep.size() + header_.size() + 2;
-    for (auto end = text.find('\n', at); end != text.npos; at = end + 1, end = text.find('\n', at)) {
+    for (auto end = text.find('\n', at); end != std::string::npos; at = end + 1, end = text.find('\n', at)) {
         std::size_t number = 0;
         std::from_chars(text.data() + at, text.data() + end, number);
         rows_[number] = text.substr(at, end - at);

@@ -16,7 +16,7 @@ class SweepJournal {
 public:
     // Takes up the journal of the same sweep, or begins one. Throws std::runtime_error for one of another
     // sweep.
-    SweepJournal(const std::filesystem::path& result, const std::string& sweep, const std::string& header);
+    SweepJournal(std::filesystem::path result, const std::string& sweep, const std::string& header);
 
     const std::map<std::size_t, std::string>& rows() const { return rows_; }
     // Throws std::runtime_error when the disk refuses it.
