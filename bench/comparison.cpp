@@ -196,7 +196,7 @@ int run(std::string_view name, Int size, std::string_view way, Int calls)
                      "of calls\n";
         return 2;
     }
-    lay_run(Run{5});
+    const auto host = lay_run(Run{5});
     const Data data(size);
     if (!agree(*found, data)) {
         std::cerr << "polyprops_comparison: " << name << " and its loop disagree\n";

@@ -1,175 +1,101 @@
 #include "bench/host.h"
 
-#include <array>
-#include <bit>
-#include <cstring>
-#include <string_view>
+#include <string>
+#include <vector>
 
-#include "polyprops/host.h"
+#include "polyprops/polyprops.h"
 
 namespace bench {
 namespace {
 
-enum Block : Int { polymer_block = 1, segment_list, polymer_list, end_segment_list, oligomer_block, blocks };
+const std::vector<std::string> attributes{"ZMOM", "FMOM", "SMOM", "SFLOW", "SZMOM", "SSMOM", "SSFLOW"};
 
-Run current{0};
-Int used_words;
-Int positions[blocks];  // by block
-Int count_table;
+std::string id_of(Int component)
+{
+    return "C" + std::to_string(component);
+}
 
-// Elements of one polymer's attributes; offsets count from the attribute origin, the first component flow.
-struct Layout {
-    struct Entry {
-        std::string_view name;
-        Int elements;
-    };
+minihost::ComponentClass class_of(const Run& run, Int component)
+{
+    if (run.is_segment(component)) return minihost::ComponentClass::segment;
+    if (run.is_polymer(component)) return minihost::ComponentClass::polymer;
+    if (run.is_oligomer(component)) return minihost::ComponentClass::oligomer;
+    return minihost::ComponentClass::conventional;
+}
 
-    static std::array<Entry, 7> entries(Int segments)
-    {
-        return {{{"ZMOM", 1},
-                 {"FMOM", 1},
-                 {"SMOM", 1},
-                 {"SFLOW", segments},
-                 {"SZMOM", site_types},
-                 {"SSMOM", site_types},
-                 {"SSFLOW", segments * site_types}}};
+std::vector<minihost::Component> components(const Run& run)
+{
+    std::vector<minihost::Component> all;
+    for (Int c = 1; c <= run.nc; ++c) {
+        const Real step = 0.25 * static_cast<Real>(c % 7);
+        all.push_back({.id = id_of(c),
+                       .name = "N" + std::to_string(c),
+                       .component_class = class_of(run, c),
+                       .molecular_weight = 50 + step,
+                       .dpn = 1 + step,
+                       .pdi = 1.5 + step,
+                       .cry = 0.5 + step});
     }
-    static Int length(Int segments)
-    {
-        Int sum = 0;
-        for (const Entry& entry : entries(segments)) sum += entry.elements;
-        return sum;
+    return all;
+}
+
+std::vector<minihost::Sentence> paragraph(const Run& run)
+{
+    minihost::PolymerSentence polymers;
+    minihost::SegmentSentence segments;
+    minihost::AttributeSentence carried;
+    minihost::OligomerSentence oligomers;
+    for (Int k = 0; k < run.group; ++k) {
+        const std::string polymer = id_of(run.first_polymer() + k);
+        segments.entries.push_back({id_of(1 + k), k == 0 ? 1 : 2});
+        polymers.ids.push_back(polymer);
+        carried.entries.push_back({polymer, attributes});
     }
-};
-
-Int reserve(Int words)
-{
-    const Int first = used_words + 1;
-    used_words += words;
-    return first;
+    for (Int k = 0; k < 3 * run.group; ++k)
+        oligomers.entries.push_back(
+            {id_of(2 * run.group + 1 + k / 3), id_of(1 + k % run.group), static_cast<Real>(1 + k % 3)});
+    return {polymers, segments, carried, oligomers, minihost::SiteSentence{.sites = site_types}};
 }
 
-void put(Int position, Real value)
+void check_paragraph(minihost::Host& host, const Run& run)
 {
-    ST_WORDS[position - 1] = std::bit_cast<Int>(value);
+    host.paragraph().set(paragraph(run));
+    const Int unused = 0;
+    const Int check = 2;
+    Int status = 0;
+    POLY_POLSEM(&unused, &check, host.semantics_context(), host.paragraph().handle(), &unused, &status);
+    if (!host.messages().printed().empty()) throw minihost::Error("the paragraph of the run has messages");
 }
 
-Int lay_list(Int count, Int first_component)
+void add_stream(minihost::Host& host, const Run& run)
 {
-    const Int p = reserve(count + 1);
-    ST_WORDS[p - 1] = count;
-    for (Int i = 0; i < count; ++i) ST_WORDS[p + i] = first_component + i;
-    return p;
-}
-
-Int lay_parameter(Real value)
-{
-    const Int p = reserve(current.nc);
-    for (Int c = 0; c < current.nc; ++c) put(p + c, value + 0.25 * static_cast<Real>(c % 7));
-    return p - 1;  // component c stands at offset + c
-}
-
-void lay_lists()
-{
-    positions[segment_list] = lay_list(current.group, 1);
-    positions[polymer_list] = lay_list(current.group, current.first_polymer());
-    positions[oligomer_block] = lay_list(current.group, 2 * current.group + 1);
-    positions[end_segment_list] = lay_list(1, 1);
-    count_table = reserve(current.group * current.group);
-    for (Int k = 0; k < current.group * current.group; ++k) put(count_table + k, static_cast<Real>(k % 3));
-    positions[polymer_block] = reserve(17);
-    Int* const words = ST_WORDS + positions[polymer_block] - 1;
-    words[1] = segment_list;
-    words[2] = polymer_list;
-    words[5] = oligomer_block;
-    words[8] = end_segment_list;
-}
-
-void lay_stream()
-{
-    const Int length = current.nc + current.group * Layout::length(current.group);
-    const Int origin = reserve(length);
-    for (Int k = 0; k < length; ++k) put(origin + k, 1.0 + 0.5 * static_cast<Real>(k % 5));
-    ST_GLOBAL[16] = origin;
+    minihost::Substream content;
+    const minihost::AttributeDimensions dimensions = host.dimensions();
+    Int k = 0;
+    const auto next = [&k] { return 1.0 + 0.5 * static_cast<Real>(k++ % 5); };
+    for (Int c = 1; c <= run.nc; ++c) content.flows[id_of(c)] = next();
+    for (Int c = 1; c <= run.nc; ++c) {
+        if (!run.is_polymer(c)) continue;
+        for (const std::string& name : attributes) {
+            const Int length = minihost::attribute_length(*minihost::find_attribute_kind(name), dimensions);
+            auto& values = content.attributes[id_of(c)][name];
+            for (Int e = 0; e < length; ++e) values.push_back(next());
+        }
+    }
+    host.add_stream({stream_name, {content}});
+    host.select_stream(stream_name);
 }
 
 }  // namespace
 
-void lay_run(const Run& run)
+std::unique_ptr<minihost::Host> lay_run(const Run& run)
 {
-    current = run;
-    used_words = 0;
-    ST_RGLOBAL[0] = 1e35;
-    ST_RGLOBAL[1] = 1e-15;
-    ST_NCOMP[16] = run.group;
-    ST_POFF1[305] = lay_parameter(50);
-    ST_POFF1[539] = lay_parameter(1);
-    ST_POFF1[600] = lay_parameter(0.5);
-    ST_POFF1[683] = lay_parameter(1.5);
-    ST_POFF4[0] = reserve(3 * run.nc) - 1;
-    lay_lists();
-    lay_stream();
-}
-
-const Real* stream_vector()
-{
-    return reinterpret_cast<const Real*>(ST_WORDS + ST_GLOBAL[16] - 1);
+    minihost::Options options;
+    options.store_mode = minihost::Store::Mode::plain;
+    auto host = std::make_unique<minihost::Host>(components(run), options);
+    check_paragraph(*host, run);
+    add_stream(*host, run);
+    return host;
 }
 
 }  // namespace bench
-
-using namespace bench;
-
-int64_t ST_WORDS[1 << 21], ST_GLOBAL[64], ST_NCOMP[64], ST_POFF1[1024], ST_POFF4[8], ST_TABLES[8],
-    ST_INITV[8];
-int64_t ST_SUMGLOBAL[8], ST_RPTGLOBAL[16], RP_PAGE[8], ST_PROPTAB[8], UT_COMPONENT_IDS[8];
-double ST_RGLOBAL[8];
-char ST_ERROUT[800];
-int32_t ST_FILES[64];
-
-void CC_POLYMER_BLOCK(int64_t* id)
-{
-    *id = polymer_block;
-}
-
-int64_t ST_FIND_I(const int64_t* id)
-{
-    return positions[*id];
-}
-
-void ST_FIND_M(const int64_t* id, int64_t* key, int64_t* value, int64_t* third)
-{
-    *key = positions[*id];
-    *value = count_table;
-    *third = 0;
-}
-
-int64_t CC_IS_POLYMER(const int64_t* component)
-{
-    return current.is_polymer(*component);
-}
-
-int64_t CC_IS_OLIGOMER(const int64_t* component)
-{
-    return current.is_oligomer(*component);
-}
-
-int64_t CC_IS_SEGMENT(const int64_t* component)
-{
-    return current.is_segment(*component);
-}
-
-int64_t CC_FIND_ATTR(const int64_t*, const int64_t* component, const int64_t* name_pair)
-{
-    if (!current.is_polymer(*component)) return 0;
-    char text[16];
-    std::memcpy(text, name_pair, sizeof text);
-    std::memcpy(text + 4, text + 8, 4);
-    Int offset = current.nc + (*component - current.first_polymer()) * Layout::length(current.group);
-    for (const auto& [name, elements] : Layout::entries(current.group)) {
-        if (std::string_view{text, name.size()} == name && (name.size() == 8 || text[name.size()] == ' '))
-            return offset;
-        offset += elements;
-    }
-    return 0;
-}

@@ -1,7 +1,9 @@
-// A host for benchmarks: one run of a given size, the same each time, whose services cost next to nothing.
+// A run of a given size in the embedded host, the same each time.
 #pragma once
 
-#include <cstdint>
+#include <memory>
+
+#include "minihost/host.h"
 
 namespace bench {
 
@@ -23,12 +25,11 @@ struct Run {
 };
 
 inline constexpr Int site_types = 2;
+inline constexpr const char* stream_name = "S";
 
-// Lays the run into the store. Polymers carry moments and segment flows, and per site type too; neither
-// lengths nor weights nor fractions, so that every average takes its longest way.
-void lay_run(const Run& run);
-
-// The current stream as an explicit vector: component flows from element 1, then the attributes.
-const Real* stream_vector();
+// The host of a run, with its paragraph checked and its stream selected. Polymers carry moments and segment
+// flows, and per site type too; neither lengths nor weights nor fractions, so that every average takes its
+// longest way.
+std::unique_ptr<minihost::Host> lay_run(const Run& run);
 
 }  // namespace bench

@@ -1,7 +1,7 @@
 // One call of one routine on a run of a given size, for instruction counts.
 //
-//   polyprops_bench                   the names of the routines
-//   polyprops_bench POLY_GETDPN 100   calls it once with 100 components, all of them listed
+//   polyprops_routines                   the names of the routines
+//   polyprops_routines POLY_GETDPN 100   calls it once with 100 components, all of them listed
 #include <charconv>
 #include <iostream>
 #include <numeric>
@@ -31,8 +31,14 @@ Ints counting(Int count, Int first)
 
 // The arguments of every routine; what a routine writes stands in k, i1 to i4, r1 to r7, work, m1, m2 and mi.
 struct Arguments {
-    explicit Arguments(const Run& run)
-        : nc(run.nc), nseg(run.group), np(run.group), nk(run.nc - run.group), polymer(run.first_polymer())
+    Arguments(const Run& run, const minihost::StreamView& stream)
+        : nc(run.nc),
+          nseg(run.group),
+          np(run.group),
+          nk(run.nc - run.group),
+          polymer(run.first_polymer()),
+          k0(stream.first_flow.front()),
+          sv(stream.values)
     {
         for (Int j = 1; j <= nc; ++j) {
             const bool chains = run.is_polymer(j) || run.is_oligomer(j);
@@ -42,10 +48,10 @@ struct Arguments {
         }
     }
 
-    Int nc, nseg, np, nk, polymer;
-    Int sel = 1, one = 1, mode = 1, ns = site_types + 1, k0 = 1, ktype = 1, k = 0;
+    Int nc, nseg, np, nk, polymer, k0;
+    const Real* sv;
+    Int sel = 1, one = 1, mode = 1, ns = site_types + 1, ktype = 1, k = 0;
     Real weight = 7000;
-    const Real* sv = stream_vector();
     Ints idx = counting(nc, 1), iseg = counting(nseg, 1), posp = counting(np, 1), posk = counting(nk, np + 1);
     Ints iflag;
     Reals x = Reals(nc, 0.001), mw = Reals(nc, 50.0), q = Reals(nc, 3.0);
@@ -142,12 +148,12 @@ int run(std::string_view name, Int components)
     for (const Case& c : cases) {
         if (c.name != name) continue;
         const Run size{components};
-        lay_run(size);
-        Arguments arguments{size};
+        const auto host = lay_run(size);
+        Arguments arguments{size, host->streams().view(stream_name)};
         c.call(arguments);
         return 0;
     }
-    std::cerr << "polyprops_bench: unknown routine \"" << name
+    std::cerr << "polyprops_routines: unknown routine \"" << name
               << "\"; call it without arguments for the names\n";
     return 1;
 }
@@ -170,7 +176,7 @@ int main(int argc, char** argv)
     }
     const bench::Int components = argc == 3 ? bench::number(argv[2]) : 0;
     if (components < 5 || components > 1000) {
-        std::cerr << "usage: polyprops_bench [ROUTINE COMPONENTS], COMPONENTS from 5 to 1000\n";
+        std::cerr << "usage: polyprops_routines [ROUTINE COMPONENTS], COMPONENTS from 5 to 1000\n";
         return 2;
     }
     return bench::run(argv[1], components);

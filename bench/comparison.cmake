@@ -1,3 +1,0 @@
-add_executable(polyprops_comparison comparison.cpp host.cpp unused_services.c)
-target_include_directories(polyprops_comparison PRIVATE ${PROJECT_SOURCE_DIR})
-target_link_libraries(polyprops_comparison PRIVATE polyprops)
