@@ -1,10 +1,9 @@
 // One check of a large polymer paragraph through the embedded host, for counting its instructions.
 //
 //   polyprops_paragraph                   names the routine
-//   polyprops_paragraph POLY_POLSEM N     checks a paragraph of N components: a quarter of them segments, an
-//   eighth
-//                                         polymers with attribute lists, half as many oligomer entries as
-//                                         components
+//   polyprops_paragraph POLY_POLSEM N     checks a paragraph of N components: a quarter of them
+//                                         segments, an eighth polymers with attribute lists, half as many
+//                                         oligomer entries as components
 #include <cstdio>
 #include <string>
 

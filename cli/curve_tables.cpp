@@ -36,7 +36,7 @@ Table averages(const DistributionResults& results)
 Table checks(const DistributionResults& results)
 {
     Table table{"distribution_checks",
-                "Curves against site parameters and moments",
+                "Curves against their sites, site parameters and moments",
                 {{"curve", "Curve", ""},
                  {"pn", "Pn", "1"},
                  {"pn_expected", "expected", "1"},

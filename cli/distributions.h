@@ -48,6 +48,8 @@ struct CurveCheck {
     CurveAverages averages;
     double pn = 0;
     double pw = 0;
+    double pn_tolerance = 0;  // relative
+    double pw_tolerance = 0;
 
     double pn_difference() const { return averages.pn / pn - 1; }
     double pw_difference() const { return averages.pw / pw - 1; }

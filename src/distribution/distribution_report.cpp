@@ -2,8 +2,11 @@
 //
 // Averages by the trapezoid rule, each segment weighted by the chain length at its right-hand end:
 //
-//   a(k) = 0.5·(h(k) + h(k+1))·(x(k+1) − x(k))     h = y, or y/x when y holds chain length times weight
-//   fraction Area = Σ a(k) Pn   = 1 / Σ a(k)/x(k+1) Pw   = Σ a(k)·x(k+1) PDI  = Pw / Pn
+//   a(k) = 0.5·(h(k) + h(k+1))·(x(k+1) − x(k))     h = y, or y/x when y holds length times weight fraction
+//   Area = Σ a(k)
+//   Pn   = 1 / Σ a(k)/x(k+1)
+//   Pw   = Σ a(k)·x(k+1)
+//   PDI  = Pw / Pn
 //
 // The table reserves its rows and four of the five lines of its heading: hosts count the pages of a
 // distribution this way.
