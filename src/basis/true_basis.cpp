@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "chain/molecular_weight.h"
+#include "host/totals.h"
 #include "polyprops/polyprops.h"
 
 namespace polyprops::basis {
@@ -19,23 +20,6 @@ namespace {
 bool exceeds_zero_bound(Real total)
 {
     return std::isgreater(total, zero_bound());
-}
-
-void divide(Vector<Real> values, Int n, Real total)
-{
-    for (Int i = 1; i <= n; ++i) values(i) /= total;
-}
-
-// Writes value(i) for i = 1..n and returns the sum.
-template <class Value>
-Real write_values(Vector<Real> out, Int n, Value value)
-{
-    Real total = 0.0;
-    for (Int i = 1; i <= n; ++i) {
-        out(i) = value(i);
-        total += out(i);
-    }
-    return total;
 }
 
 Real chain_amount(PolymerData& data, Component c, ByComponent<const Real> weights, Real amount)

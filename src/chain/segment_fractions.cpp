@@ -7,28 +7,12 @@
 // compared with the zero bound (a NaN total passes for the former only), that of an oligomer with exactly 0.
 #include "chain/segment_fractions.h"
 
+#include "host/totals.h"
 #include "polyprops/polyprops.h"
 
 namespace polyprops::chain {
 
 namespace {
-
-// Writes value(s) for s = 1..n and returns the sum.
-template <class Value>
-Real write_values(Vector<Real> out, Int n, Value value)
-{
-    Real total = 0.0;
-    for (Int s = 1; s <= n; ++s) {
-        out(s) = value(s);
-        total += out(s);
-    }
-    return total;
-}
-
-void divide(Vector<Real> out, Int n, Real total)
-{
-    for (Int s = 1; s <= n; ++s) out(s) /= total;
-}
 
 void share_equally(Vector<Real> out, Int n)
 {
