@@ -475,8 +475,8 @@ module polyprops
             integer(c_int64_t), intent(in) :: nk
             integer(c_int64_t), intent(in) :: posp(np)
             integer(c_int64_t), intent(in) :: posk(nk)
-            type(*), intent(in) :: vp(np)
-            type(*), intent(in) :: vk(nk)
+            type(*), intent(in) :: vp(*)
+            type(*), intent(in) :: vk(*)
             type(*), intent(inout) :: v(*)
         end subroutine poly_propmrg
 

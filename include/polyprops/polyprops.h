@@ -1621,7 +1621,7 @@ POLYPROPS_API void POLY_CSDCAL(const int64_t* n, const int64_t* ns, const int64_
 
 /* Writes a composite distribution to the host's report, and it and its sections to the host's summary file.
  *
- *   Area = Σ a(k), Pn = 1 / Σ a(k)/X(k + 1), Pw = Σ a(k) X(k + 1), PDI = Pw / Pn, k = 1..N-1
+ *   Area = Σ a(k), Pn = 1 / Σ a(k)/X(k + 1), Pw = Σ a(k) X(k + 1), PDI = Pw Σ a(k)/X(k + 1), k = 1..N-1
  *   a(k) = 0.5 (h(k) + h(k + 1)) (X(k + 1) - X(k)), h(k) = Y(k, 1), or Y(k, 1)/X(k) in GPC form
  *
  *   CONTEXT    in      the host's summary context, passed on to it

@@ -26,8 +26,8 @@ def extent(text, routine):
 
 def declaration(argument, routine):
     bounds = ", ".join(extent(e, routine) for e in argument.extents)
-    if not bounds and argument.type in ("word", "context"):
-        bounds = "*"
+    if argument.type in ("word", "context"):
+        bounds = "*"  # the only bound that type(*) may have
     return (f"{TYPES[argument.type]}, intent({READ_ONLY if argument.is_read_only else WRITTEN}) :: {argument.name.lower()}"
             + (f"({bounds})" if bounds else ""))
 

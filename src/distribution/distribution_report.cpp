@@ -6,7 +6,7 @@
 //   Area = Σ a(k)
 //   Pn   = 1 / Σ a(k)/x(k+1)
 //   Pw   = Σ a(k)·x(k+1)
-//   PDI  = Pw / Pn
+//   PDI  = Pw · Σ a(k)/x(k+1)
 //
 // The table reserves its rows and four of the five lines of its heading: hosts count the pages of a
 // distribution this way.
@@ -21,7 +21,7 @@ namespace {
 
 constexpr std::size_t indent = 6;
 constexpr Int heading_lines = 5;
-constexpr Int shortest_page = 6;  // a heading and one row
+constexpr Int shortest_page = 6;  // a heading and two rows, one line more than is reserved
 
 struct Sums {
     Real area = 0.0;

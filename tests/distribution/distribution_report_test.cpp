@@ -12,7 +12,7 @@
 #include "support/stored.h"
 #include "support/world.h"
 
-#ifdef HAS_FORTRAN_FIELDS
+#ifdef HAS_FORTRAN
 extern "C" void fortran_real_field(const double* value, char* field);
 #endif
 
@@ -161,7 +161,7 @@ TEST(RealField, HasFourSignificantDigits)
 
 TEST(RealField, EqualsTheFortranRuntimes)
 {
-#ifndef HAS_FORTRAN_FIELDS
+#ifndef HAS_FORTRAN
     GTEST_SKIP() << "no Fortran compiler was found";
 #else
     Reals values{0.0};
