@@ -213,8 +213,8 @@ POLYPROPS_API void POLY_GETMWW(const int64_t* sel, const int64_t* n, const int64
  * - A polymer keeps its PDI parameter unless it carries "SMOM" and "ZMOM", zero bound < ZMOM < missing-value
  *   bound, and both F and Σ MW(s) SFLOW(s) are at or above the zero bound. "SFLOW" not carried counts as 0.
  * - N < 1: nothing is written.
- * - Without a molecular-weight vector every molecular weight counts as 0. A polymer then keeps its PDI
- *   parameter.
+ * - Without a molecular-weight vector every molecular weight counts as 0. Where the zero bound is above 0 a
+ *   polymer then keeps its PDI parameter.
  * - Segment flows of exactly 0 keep the PDI parameter, also where the zero bound is 0.
  */
 POLYPROPS_API void POLY_GETPDI(const int64_t* sel, const int64_t* n, const int64_t* idx, double* pdi);
@@ -295,6 +295,7 @@ POLYPROPS_API void POLY_SWFVEC(const int64_t* sel, const int64_t* n, const int64
  * - Σ c at or below the zero bound: equal shares 1/NSEG.
  * - NSEG < 1: nothing is written.
  * - A NaN among the values gives equal shares.
+ * - SMF overlaps no argument that is read.
  */
 POLYPROPS_API void POLY_GETSMF1(const int64_t* k, const int64_t* ld, const double* scm, const int64_t* nseg,
                                 const int64_t* iseg, double* smf);
@@ -315,6 +316,7 @@ POLYPROPS_API void POLY_GETSMF1(const int64_t* k, const int64_t* ld, const doubl
  * - Σ w at or below the zero bound: equal shares 1/NSEG.
  * - NSEG < 1: nothing is written.
  * - A NaN among the values gives equal shares.
+ * - SWF overlaps no argument that is read.
  */
 POLYPROPS_API void POLY_GETSWF1(const int64_t* k, const int64_t* ld, const double* mw, const double* scm,
                                 const int64_t* nseg, const int64_t* iseg, double* swf);
@@ -342,6 +344,9 @@ POLYPROPS_API void POLY_GETSWF1(const int64_t* k, const int64_t* ld, const doubl
  *   counts.
  * - An attribute that a polymer does not carry counts as 0. "FMOM" is not read.
  * - The unit of a flow is whatever the stream vector holds; the ones given are the usual ones.
+ * - The results overlap neither SV nor MW. A mass flow that is not a number counts as present.
+ * - The host is asked once for each attribute of the first 64 polymers of the run, and again for each entry
+ *   for those beyond.
  */
 POLYPROPS_API void POLY_GETMOMENTS(const double* sv, const int64_t* nss, const int64_t* k0,
                                    const int64_t* ktype, const double* mw, const int64_t* ns, double* z,
@@ -373,6 +378,9 @@ POLYPROPS_API void POLY_GETMOMENTS(const double* sv, const int64_t* nss, const i
  *   unless the difference of F is above exactly 0.
  * - Without a polymer block or with an empty polymer list every result is 0.
  * - Any NS ≥ 1 works; NS < 1: nothing is written.
+ * - The results overlap neither the stream vectors nor MW nor each other.
+ * - The host is asked once for each attribute of the first 64 polymers of the run, and again for each entry
+ *   for those beyond.
  */
 POLYPROPS_API void POLY_POLYRESULTS(const double* sv1, const double* sv2, const int64_t* nss,
                                     const int64_t* k0, const int64_t* ktype, const double* mw,
@@ -400,6 +408,7 @@ POLYPROPS_API void POLY_POLYRESULTS(const double* sv1, const double* sv2, const 
  * - The estimate of Z without "ZMOM" takes SFLOW at the entry numbers of the end-segment list: it is half the
  *   flow of the end segments when these lead the segment list.
  * - An attribute that the polymer does not carry counts as 0.
+ * - Without a molecular-weight vector A is 0 and RAT is 1.0.
  */
 POLYPROPS_API void POLY_GETRAT(const int64_t* sel, const int64_t* n, const int64_t* idx, const double* x,
                                double* rat);
@@ -1102,6 +1111,7 @@ POLYPROPS_API void POLY_GETPMIX(const int64_t* j, const double* mwj, const int64
  * - MWN of every other component stays as it is.
  * - An entry whose MWN is exactly 0 has y(i) = X(i). Σ y of exactly 0 is not divided by.
  * - N < 1: nothing is written.
+ * - MWN and MW must not overlap.
  */
 POLYPROPS_API void POLY_GETPMIX1(const int64_t* j, const double* mwj, const int64_t* n, const int64_t* idx,
                                  const double* x, double* xt, double* mwn, const void* unused1,
@@ -1519,6 +1529,9 @@ POLYPROPS_API void POLY_TBPARI(const int64_t* n, const int64_t* m, double* p, co
  *   word 5 of an existing polymer block keeps the earlier copy.
  * - Allocates in the host's store. Blocks handed to the host's property semantics and copies of sentences are
  *   not freed.
+ * - Messages print NUL characters of a stored name as blanks.
+ * - After a paragraph without oligomers the oligomer count of the parameter block keeps its earlier value,
+ *   since a count of 0 is not written.
  */
 POLYPROPS_API void POLY_POLSEM(const int64_t* unused1, const int64_t* op, const void* context,
                                const int64_t* paragraph, const int64_t* unused2, int64_t* status);

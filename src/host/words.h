@@ -110,7 +110,7 @@ inline bool keeps_polydispersity_parameter()
     return ST_GLOBAL[29] == 100;
 }
 
-// A pure-component parameter: word 0 of the offset table means that the vector does not exist.
+// A pure-component parameter: an offset of 0 means that the vector does not exist.
 class ParameterVector {
 public:
     bool exists() const { return offset_ != 0; }
