@@ -5,6 +5,7 @@
 // An apparent mole of a polymer has the weight MW of its component; a true mole has that of its chains, MWN.
 #include "mixture/true_fractions.h"
 
+#include "host/totals.h"
 #include "polyprops/polyprops.h"
 
 namespace polyprops::mixture {
@@ -13,15 +14,13 @@ void true_mole_fractions(const ComponentList& components, Vector<const Real> app
                          ByComponent<const Real> apparent_weights, Vector<const Real> chain_weights,
                          Vector<Real> true_fractions)
 {
-    Real sum = 0.0;
-    for (Int i = 1; i <= components.count(); ++i) {
+    const Int n = components.count();
+    const Real total = write_values(true_fractions, n, [&](Int i) {
         const Real x = apparent_fractions(i);
         const Real weight = chain_weights(i);
-        true_fractions(i) = weight == 0.0 ? x : x * apparent_weights(components(i)) / weight;
-        sum += true_fractions(i);
-    }
-    if (sum == 0.0) return;
-    for (Int i = 1; i <= components.count(); ++i) true_fractions(i) /= sum;
+        return weight == 0.0 ? x : x * apparent_weights(components(i)) / weight;
+    });
+    if (total != 0.0) divide(true_fractions, n, total);
 }
 
 }  // namespace polyprops::mixture
@@ -29,7 +28,7 @@ void true_mole_fractions(const ComponentList& components, Vector<const Real> app
 using namespace polyprops;
 
 void POLY_GETPMIX1(const Int* J, const Real* MWJ, const Int* N, const Int* IDX, const Real* X, Real* XT,
-                   Real* MWN, const void*, const Real* MW)
+                   Real* MWN, const void* /*UNUSED1*/, const Real* MW)
 {
     const Component polymer{*J};
     const ComponentList components{*N, IDX};
