@@ -4,6 +4,8 @@
 // not get far.
 #include "minihost/sentences.h"
 
+#include <functional>
+
 namespace minihost {
 namespace {
 
@@ -34,6 +36,13 @@ public:
     {
         for (const Word half : name_pair(text)) word(half);
     }
+    /// The list that word k of the header names: one name of each entry.
+    template <class Entries, class Name = std::identity>
+    void list_names(std::size_t k, const Entries& entries, Name name_of_entry = {})
+    {
+        begin_list(k);
+        for (const auto& entry : entries) name(std::invoke(name_of_entry, entry));
+    }
     void set(Word k, Word value) { words_.integers.at(static_cast<std::size_t>(k - 1)) = value; }
     SentenceWords finish() { return std::move(words_); }
 
@@ -45,8 +54,7 @@ SentenceWords list_of_ids(Int kind, std::size_t count_word, const std::vector<st
 {
     Writer writer(kind);
     writer.count(count_word, ids.size());
-    writer.begin_list(1);
-    for (const auto& id : ids) writer.name(id);
+    writer.list_names(1, ids);
     return writer.finish();
 }
 
@@ -67,8 +75,7 @@ SentenceWords encode(const SegmentSentence& sentence)
 {
     Writer writer(2);
     writer.count(3, sentence.entries.size());
-    writer.begin_list(1);
-    for (const auto& entry : sentence.entries) writer.name(entry.id);
+    writer.list_names(1, sentence.entries, &SegmentSentence::Entry::id);
     for (const auto& entry : sentence.entries) writer.word(entry.type);
     return writer.finish();
 }
@@ -77,8 +84,7 @@ SentenceWords encode(const AttributeSentence& sentence)
 {
     Writer writer(3);
     writer.count(3, sentence.entries.size());
-    writer.begin_list(1);
-    for (const auto& entry : sentence.entries) writer.name(entry.id);
+    writer.list_names(1, sentence.entries, &AttributeSentence::Entry::id);
     writer.begin_list(2);
     Word descriptor = writer.next();
     for (const auto& entry : sentence.entries) {
@@ -107,8 +113,7 @@ SentenceWords encode(const OligomerSentence& sentence)
         writer.word(0);
         writer.word(0);
     }
-    writer.begin_list(2);
-    for (const auto& entry : sentence.entries) writer.name(entry.segment);
+    writer.list_names(2, sentence.entries, &OligomerSentence::Entry::segment);
     writer.real(static_cast<double>(unused));
     writer.header(3, 2);
     for (const auto& entry : sentence.entries) writer.real(entry.count);
@@ -119,8 +124,7 @@ SentenceWords encode(const CatalystSentence& sentence)
 {
     Writer writer(5);
     writer.count(3, sentence.entries.size());
-    writer.begin_list(1);
-    for (const auto& entry : sentence.entries) writer.name(entry.id);
+    writer.list_names(1, sentence.entries, &CatalystSentence::Entry::id);
     for (const auto& entry : sentence.entries) writer.real(entry.value);
     return writer.finish();
 }
@@ -138,8 +142,7 @@ SentenceWords encode(const DistributionSentence& sentence)
 {
     Writer writer(7);
     writer.count(6, sentence.entries.size());
-    writer.begin_list(1);
-    for (const auto& entry : sentence.entries) writer.name(entry.polymer);
+    writer.list_names(1, sentence.entries, &DistributionSentence::Entry::polymer);
     writer.begin_list(2);
     for (const auto& entry : sentence.entries) writer.word(entry.type);
     for (std::size_t k = 0; k < 3; ++k) {
