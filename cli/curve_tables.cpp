@@ -3,6 +3,8 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
+#include "cli/columns.h"
+
 namespace cli {
 
 namespace {
@@ -16,11 +18,11 @@ Table averages(const DistributionResults& results)
                  {"area", "Area", "1"},
                  {"pn", "Pn", "1"},
                  {"pw", "Pw", "1"},
-                 {"pdi", "PDI", "1"}},
+                 columns::pdi},
                 {}};
     if (results.segment_weight) {
-        table.columns.push_back({"mn", "Mn", "g/mol"});
-        table.columns.push_back({"mw", "Mw", "g/mol"});
+        table.columns.push_back(columns::mn);
+        table.columns.push_back(columns::mw);
     }
     for (const auto& curve : results.curves) {
         const auto& a = curve.averages;
@@ -55,8 +57,8 @@ Table checks(const DistributionResults& results)
 
 Table curves(const DistributionResults& results)
 {
-    Table table{"distribution_curves", "Curves", {{"chain_length", "Chain length", "1"}}, {}, true};
-    if (results.segment_weight) table.columns.push_back({"molecular_weight", "Molecular weight", "g/mol"});
+    Table table{"distribution_curves", "Curves", {columns::chain_length}, {}, true};
+    if (results.segment_weight) table.columns.push_back(columns::molecular_weight);
     table.columns.push_back({"cumulative", "Cumulative", "1"});
     for (const auto& curve : results.curves) table.columns.push_back({curve.name, curve.name, "1"});
     for (std::size_t k = 0; k < results.lengths.size(); ++k) {
@@ -88,8 +90,8 @@ Table measured_curve(const GpcComparison& gpc)
 {
     Table table{"gpc_curve",
                 "Measured curve",
-                {{"molecular_weight", "Molecular weight", "g/mol"},
-                 {"chain_length", "Chain length", "1"},
+                {columns::molecular_weight,
+                 columns::chain_length,
                  {"measured", "Measured", "1"},
                  {"calculated", "Calculated", "1"},
                  {"overlay", "Overlay", "1"}},
@@ -115,7 +117,7 @@ Table coefficients(const ParameterResults& results)
 {
     Table table{"binary_coefficients",
                 "Coefficients by position, completed",
-                {{"component", "Component", ""}, {"partner", "Partner", ""}},
+                {columns::component, {"partner", "Partner", ""}},
                 {}};
     for (std::size_t l = 1; l <= results.positions; ++l)
         table.columns.push_back({fmt::format("p{}", l), fmt::format("P{}", l), results.unit});
@@ -132,10 +134,8 @@ Table coefficients(const ParameterResults& results)
 Table squares(const ParameterResults& results, std::string key, std::string heading, const std::string& unit,
               const PairMatrix& (*matrix)(const ParametersAtTemperature&))
 {
-    Table table{std::move(key),
-                std::move(heading),
-                {{"temperature", "Temperature", "K"}, {"component", "Component", ""}},
-                {}};
+    Table table{
+        std::move(key), std::move(heading), {{"temperature", "Temperature", "K"}, columns::component}, {}};
     for (const auto& component : results.components) table.columns.push_back({component, component, unit});
     for (const auto& at : results.temperatures)
         for (std::size_t i = 0; i < results.components.size(); ++i) {

@@ -1,6 +1,7 @@
 // The tables of what the paragraph check and the catalyst scaling left behind. Counts, codes and places have
 // no unit, and the values that a paragraph only hands on have none that is known here.
 #include "cli/built.h"
+#include "cli/columns.h"
 #include "cli/report.h"
 
 namespace cli {
@@ -9,9 +10,18 @@ namespace {
 
 using minihost::Host;
 
-const Column component{"component", "Component", ""};
-const Column segment{"segment", "Segment", ""};
-const Column attribute{"attribute", "Attribute", ""};
+using columns::attribute;
+using columns::component;
+using columns::segment;
+
+// The columns of numbers that the host carries without reading them stand behind the others.
+std::vector<Column> and_carried_numbers(std::vector<Column> columns)
+{
+    for (const auto* number : {"1", "2", "3"})
+        columns.push_back({std::string{"integer_"} + number, std::string{"Integer "} + number, ""});
+    columns.push_back({"real", "Real", ""});
+    return columns;
+}
 
 std::string type_name(Int type)
 {
@@ -65,14 +75,7 @@ Table catalysts(const Built& built)
 
 Table sites(const Case& input, const Built& built)
 {
-    Table table{"sites",
-                "Catalyst sites",
-                {{"count", "Site types", ""},
-                 {"integer_1", "Integer 1", ""},
-                 {"integer_2", "Integer 2", ""},
-                 {"integer_3", "Integer 3", ""},
-                 {"real", "Real", ""}},
-                {}};
+    Table table{"sites", "Catalyst sites", and_carried_numbers({{"count", "Site types", ""}}), {}};
     const auto& [count, integers, real] = built.sites;
     if (input.paragraph && input.paragraph->sites)
         table.rows.push_back({count, integers[0], integers[1], integers[2], real});
@@ -103,15 +106,8 @@ Table attribute_layout(const Built& built)
 
 Table distributions(const Built& built)
 {
-    Table table{"distributions",
-                "Distribution requests",
-                {component,
-                 {"type", "Type", ""},
-                 {"integer_1", "Integer 1", ""},
-                 {"integer_2", "Integer 2", ""},
-                 {"integer_3", "Integer 3", ""},
-                 {"real", "Real", ""}},
-                {}};
+    Table table{
+        "distributions", "Distribution requests", and_carried_numbers({component, {"type", "Type", ""}}), {}};
     for (const auto& [polymer, type, integers, real] : built.distributions)
         table.rows.push_back({polymer, type, integers[0], integers[1], integers[2], real});
     return table;

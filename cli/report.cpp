@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include "cli/columns.h"
 #include "cli/numbers.h"
 #include "cli/report_tables.h"
 
@@ -15,14 +16,8 @@ Table chain_averages(const std::vector<ChainAverages>& averages)
 {
     Table table{"chain_averages",
                 "Chain averages",
-                {{"component", "Component", ""},
-                 {"class", "Class", ""},
-                 {"mole_flow", "Mole flow", "kmol/h"},
-                 {"dpn", "DPN", "1"},
-                 {"mean_segment_weight", "Mean segment weight", "g/mol"},
-                 {"mn", "Mn", "g/mol"},
-                 {"mw", "Mw", "g/mol"},
-                 {"pdi", "PDI", "1"}},
+                {columns::component, columns::component_class, columns::mole_flow, columns::dpn,
+                 columns::mean_segment_weight, columns::mn, columns::mw, columns::pdi},
                 {}};
     for (const auto& a : averages)
         table.rows.push_back({a.component, std::string{text(a.kind)}, a.mole_flow, a.dpn,
@@ -34,10 +29,7 @@ Table segment_fractions(const std::vector<SegmentShare>& shares)
 {
     Table table{"segment_fractions",
                 "Segment fractions",
-                {{"component", "Component", ""},
-                 {"segment", "Segment", ""},
-                 {"mole_fraction", "Mole fraction", "1"},
-                 {"mass_fraction", "Mass fraction", "1"}},
+                {columns::component, columns::segment, columns::mole_fraction, columns::mass_fraction},
                 {}};
     for (const auto& s : shares)
         table.rows.push_back({s.component, s.segment, s.mole_fraction, s.mass_fraction});
@@ -83,6 +75,7 @@ Report make_conversion_report(const Case& input, const CheckedInput& checked, co
                               const std::vector<Composition>& compositions)
 {
     std::vector<Table> tables;
+    tables.reserve(compositions.size() + 1);
     for (const auto& composition : compositions) tables.push_back(composition_table(composition));
     tables.push_back(closure_table(compositions));
     return {input.title, input.file, checked.messages, {}, {stream_section(stream, std::move(tables))}};

@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include "cli/columns.h"
+
 namespace cli {
 
 namespace {
@@ -19,18 +21,21 @@ std::string heading(Basis basis)
     return {};
 }
 
+// A row that ends with numbers by column.
+std::vector<Cell> row_of(std::vector<Cell> row, const std::vector<double>& numbers)
+{
+    row.insert(row.end(), numbers.begin(), numbers.end());
+    return row;
+}
+
 }  // namespace
 
 Table composition_table(const Composition& composition)
 {
     Table table{fmt::format("{}_composition", text(composition.basis)),
                 heading(composition.basis),
-                {{"component", "Component", ""},
-                 {"class", "Class", ""},
-                 {"mole_flow", "Mole flow", "kmol/h"},
-                 {"mass_flow", "Mass flow", "kg/h"},
-                 {"mole_fraction", "Mole fraction", "1"},
-                 {"mass_fraction", "Mass fraction", "1"}},
+                {columns::component, columns::component_class, columns::mole_flow, columns::mass_flow,
+                 columns::mole_fraction, columns::mass_fraction},
                 {}};
     for (const auto& a : composition.amounts)
         table.rows.push_back({a.component, std::string{text(a.kind)}, a.mole_flow, a.mass_flow,
@@ -45,8 +50,8 @@ Table closure_table(const std::vector<Composition>& compositions)
                 {{"basis", "Basis", ""},
                  {"mole_fraction_sum", "Mole fractions", "1"},
                  {"mass_fraction_sum", "Mass fractions", "1"},
-                 {"mole_flow", "Mole flow", "kmol/h"},
-                 {"mass_flow", "Mass flow", "kg/h"},
+                 columns::mole_flow,
+                 columns::mass_flow,
                  {"mass_difference", "Relative difference", "1"}},
                 {}};
     if (compositions.empty() || compositions.front().amounts.empty()) return table;
@@ -58,13 +63,9 @@ Table closure_table(const std::vector<Composition>& compositions)
 
 Table segment_count_table(const SegmentCountMatrix& matrix)
 {
-    Table table{"segment_counts", "Segments per chain", {{"component", "Component", ""}}, {}};
+    Table table{"segment_counts", "Segments per chain", {columns::component}, {}};
     for (const auto& segment : matrix.segments) table.columns.push_back({segment, segment, "1"});
-    for (const auto& chain : matrix.chains) {
-        std::vector<Cell> row{chain.component};
-        row.insert(row.end(), chain.counts.begin(), chain.counts.end());
-        table.rows.push_back(std::move(row));
-    }
+    for (const auto& chain : matrix.chains) table.rows.push_back(row_of({chain.component}, chain.counts));
     return table;
 }
 
@@ -72,7 +73,7 @@ Table chain_weight_table(const std::vector<WeightComparison>& weights)
 {
     Table table{"chain_weights",
                 "Chain weights from segments per chain and from attributes",
-                {{"component", "Component", ""},
+                {columns::component,
                  {"average", "Average", ""},
                  {"from_counts", "From segments", "g/mol"},
                  {"from_attributes", "From attributes", "g/mol"},
@@ -87,15 +88,12 @@ Table property_table(const std::vector<Property>& properties, const std::vector<
 {
     Table table{"properties",
                 "Properties of chains by their segments",
-                {{"component", "Component", ""}, {"class", "Class", ""}},
+                {columns::component, columns::component_class},
                 {}};
     for (const auto& property : properties)
         table.columns.push_back({property.name.id, property.name.id, property.unit});
-    for (const auto& chain : values) {
-        std::vector<Cell> row{chain.component, std::string{text(chain.kind)}};
-        row.insert(row.end(), chain.values.begin(), chain.values.end());
-        table.rows.push_back(std::move(row));
-    }
+    for (const auto& chain : values)
+        table.rows.push_back(row_of({chain.component, std::string{text(chain.kind)}}, chain.values));
     return table;
 }
 
@@ -104,13 +102,13 @@ Table polymer_made_table(const std::vector<PolymerMade>& made)
     Table table{"polymer_made",
                 "Polymer made",
                 {{"site", "Site type", ""},
-                 {"mass_flow", "Mass flow", "kg/h"},
-                 {"mean_segment_weight", "Mean segment weight", "g/mol"},
-                 {"mn", "Mn", "g/mol"},
-                 {"mw", "Mw", "g/mol"},
-                 {"dpn", "DPN", "1"},
+                 columns::mass_flow,
+                 columns::mean_segment_weight,
+                 columns::mn,
+                 columns::mw,
+                 columns::dpn,
                  {"dpw", "DPW", "1"},
-                 {"pdi", "PDI", "1"}},
+                 columns::pdi},
                 {}};
     for (const auto& m : made)
         table.rows.push_back({m.site, m.mass_flow, m.mean_segment_weight, m.mn, m.mw, m.dpn, m.dpw, m.pdi});
