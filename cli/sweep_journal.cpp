@@ -12,12 +12,12 @@
 
 namespace cli {
 
-SweepJournal::SweepJournal(std::filesystem::path result, const std::string& sweep, const std::string& header)
-    : result_(std::move(result)), file_(result_.string() + ".partial"), header_(header)
+SweepJournal::SweepJournal(std::filesystem::path result, const std::string& sweep, std::string header)
+    : result_(std::move(result)), file_(result_.string() + ".partial"), header_(std::move(header))
 {
     const bool is_new = !std::filesystem::exists(file_);
     if (!is_new) take_up(sweep);
-    stream_.reset(std::fopen(file_.c_str(), "ab"));
+    stream_ = minihost::FileHandle{std::fopen(file_.c_str(), "ab")};
     if (!stream_)
         throw std::runtime_error{
             fmt::format("{}: cannot be written: {}", file_.string(), std::strerror(errno))};

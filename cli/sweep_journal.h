@@ -4,11 +4,11 @@
 // when its line end is there. Rows come in the order in which cases end.
 #pragma once
 
-#include <cstdio>
 #include <filesystem>
 #include <map>
-#include <memory>
 #include <string>
+
+#include "minihost/file_handle.h"
 
 namespace cli {
 
@@ -16,7 +16,7 @@ class SweepJournal {
 public:
     // Takes up the journal of the same sweep, or begins one. Throws std::runtime_error for one of another
     // sweep.
-    SweepJournal(std::filesystem::path result, const std::string& sweep, const std::string& header);
+    SweepJournal(std::filesystem::path result, const std::string& sweep, std::string header);
 
     const std::map<std::size_t, std::string>& rows() const { return rows_; }
     // Throws std::runtime_error when the disk refuses it.
@@ -27,10 +27,6 @@ public:
     const std::filesystem::path& file() const { return file_; }
 
 private:
-    struct Close {
-        void operator()(std::FILE* file) const { std::fclose(file); }
-    };
-
     void take_up(const std::string& sweep);
     void append(const std::string& line);
 
@@ -38,7 +34,7 @@ private:
     std::filesystem::path file_;
     std::string header_;
     std::map<std::size_t, std::string> rows_;
-    std::unique_ptr<std::FILE, Close> stream_;
+    minihost::FileHandle stream_;
 };
 
 }  // namespace cli

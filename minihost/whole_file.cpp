@@ -5,21 +5,17 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <memory>
 
 #include "minihost/error.h"
+#include "minihost/file_handle.h"
 
 namespace minihost {
 namespace {
 
-struct Close {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-
 // The content has reached the disk, or errno says why not.
 bool write_all(const std::filesystem::path& path, std::string_view content)
 {
-    std::unique_ptr<std::FILE, Close> file{std::fopen(path.c_str(), "wbx")};
+    FileHandle file{std::fopen(path.c_str(), "wbx")};
     if (!file) return false;
     if (std::fwrite(content.data(), 1, content.size(), file.get()) != content.size()) return false;
     if (std::fflush(file.get()) != 0 || ::fsync(::fileno(file.get())) != 0) return false;
