@@ -9,27 +9,37 @@ namespace polyprops::basis {
 inline constexpr unsigned segment_make_up_parts =
     PolymerData::segment_list | PolymerData::polymer_list | PolymerData::oligomer_block;
 
+// Average counts per chain; 1 each when the chains are not counted.
+template <class Visit>
+void visit_polymer_segments(Int segment_count, const Species& polymer, Visit visit)
+{
+    const Real chains = polymer.attribute(AttributeName::zmom).value();
+    const Attribute flows = polymer.attribute(AttributeName::sflow);
+    for (Int m = 1; m <= segment_count; ++m)
+        if (const Real flow = flows(m); flow > 0.0) visit(m, chains > 0.0 ? flow / chains : 1.0);
+}
+
+// The make-up in the oligomer list, column after column when the component stands there more than once.
+template <class Visit>
+void visit_oligomer_segments(Int segment_count, const OligomerTable& oligomers, Component c, Visit visit)
+{
+    for (Int e = 1; e <= oligomers.count(); ++e) {
+        if (oligomers.list()(e) != c) continue;
+        for (Int m = 1; m <= segment_count; ++m)
+            if (const Real count = oligomers.segments(m, e); count > 0.0) visit(m, count);
+    }
+}
+
 // Calls visit(segment position, segments per molecule) for each segment with a positive amount, in the order
-// of the segment list: average counts per chain for a polymer (1 each when its chains are not counted), the
-// make-up for any other component that stands in the oligomer list, column after column when it stands there
-// more than once.
+// of the segment list. What is no polymer counts as an oligomer, and has no segments without a make-up.
 template <class Visit>
 void visit_segments(const PolymerData& data, const Species& species, Visit visit)
 {
-    const ComponentList& segments = data.segments();
-    if (species.is_polymer()) {
-        const Real chains = species.attribute(AttributeName::zmom).value();
-        const Attribute flows = species.attribute(AttributeName::sflow);
-        for (Int m = 1; m <= segments.count(); ++m)
-            if (const Real flow = flows(m); flow > 0.0) visit(m, chains > 0.0 ? flow / chains : 1.0);
-        return;
-    }
-    const OligomerTable& oligomers = data.oligomers();
-    for (Int e = 1; e <= oligomers.count(); ++e) {
-        if (oligomers.list()(e) != species.component()) continue;
-        for (Int m = 1; m <= segments.count(); ++m)
-            if (const Real count = oligomers.segments(m, e); count > 0.0) visit(m, count);
-    }
+    const Int segment_count = data.segments().count();
+    if (species.is_polymer())
+        visit_polymer_segments(segment_count, species, visit);
+    else
+        visit_oligomer_segments(segment_count, data.oligomers(), species.component(), visit);
 }
 
 // Writes the make-up as a list of segments with their counts. Without polymers and oligomers in the run
