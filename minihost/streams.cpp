@@ -30,7 +30,8 @@ void StreamTable::add(const Stream& stream, double missing)
     const StreamView view = lay(stream);
     for (std::size_t i = 0; i < stream.substreams.size(); ++i) {
         fill_flows(stream, i, view);
-        fill_attributes(stream, i, view, missing);
+        fill_defaults(view.first_flow[i], view, missing);
+        fill_attributes(stream.substreams[i], view.first_flow[i], view);
     }
     views_.emplace(stream.name, view);
 }
@@ -40,17 +41,23 @@ void StreamTable::check(const Stream& stream) const
     if (contains(stream.name)) throw Error("stream " + stream.name + " is defined twice");
     for (const Substream& substream : stream.substreams) {
         for (const auto& [id, flow] : substream.flows) components_.index(id);
-        for (const auto& [id, attributes] : substream.attributes) {
-            for (const auto& [name, values] : attributes) {
-                const std::string what = "stream " + stream.name + ": " + name + " of " + id;
-                const auto* entry = attributes_.find(components_.index(id), name);
-                if (!entry) throw Error(what + " is given, but the component does not carry it");
-                if (static_cast<Int>(values.size()) != entry->length)
-                    throw Error(what + " has " + std::to_string(values.size()) + " values; expected " +
-                                std::to_string(entry->length));
-            }
-        }
+        for (const auto& [id, attributes] : substream.attributes)
+            for (const auto& [name, values] : attributes) check_attribute(stream.name, id, name, values);
     }
+}
+
+void StreamTable::check_attribute(const std::string& stream, const std::string& id, const std::string& name,
+                                  const std::vector<double>& values) const
+{
+    const auto refuse = [&](const std::string& why) {
+        throw Error("stream " + stream + ": " + name + " of " + id + why);
+    };
+    const auto* entry = attributes_.find(components_.index(id), name);
+    if (!entry)
+        refuse(" is given, but the component does not carry it");
+    else if (static_cast<Int>(values.size()) != entry->length)
+        refuse(" has " + std::to_string(values.size()) + " values; expected " +
+               std::to_string(entry->length));
 }
 
 StreamView StreamTable::lay(const Stream& stream)
@@ -77,14 +84,17 @@ void StreamTable::fill_flows(const Stream& stream, std::size_t i, const StreamVi
         word(view, first + components_.index(id) - 1) = word_of(flow);
 }
 
-void StreamTable::fill_attributes(const Stream& stream, std::size_t i, const StreamView& view, double missing)
+void StreamTable::fill_defaults(Int first, const StreamView& view, double missing)
 {
-    const Int first = view.first_flow[i];
     for (Int c = 1; c <= components_.count(); ++c)
         for (const auto& entry : attributes_.carried_by(c))
             for (Int e = 1; e <= entry.length; ++e)
                 word(view, first + entry.offset + e - 1) = word_of(entry.kind->extensive ? 0.0 : missing);
-    for (const auto& [id, attributes] : stream.substreams[i].attributes)
+}
+
+void StreamTable::fill_attributes(const Substream& substream, Int first, const StreamView& view)
+{
+    for (const auto& [id, attributes] : substream.attributes)
         for (const auto& [name, values] : attributes) {
             Int index = first + attributes_.find(components_.index(id), name)->offset;
             for (const double value : values) word(view, index++) = word_of(value);

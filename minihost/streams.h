@@ -60,8 +60,12 @@ public:
 private:
     StreamView lay(const Stream& stream);
     void fill_flows(const Stream& stream, std::size_t i, const StreamView& view);
-    void fill_attributes(const Stream& stream, std::size_t i, const StreamView& view, double missing);
+    /// Every attribute that a component carries, without what the stream gives: 0 or missing.
+    void fill_defaults(Int first, const StreamView& view, double missing);
+    void fill_attributes(const Substream& substream, Int first, const StreamView& view);
     void check(const Stream& stream) const;
+    void check_attribute(const std::string& stream, const std::string& id, const std::string& name,
+                         const std::vector<double>& values) const;
 
     Store& store_;
     const ComponentTable& components_;
