@@ -103,6 +103,7 @@ ParameterPair read_pair(TableReader table, const ParameterSet& set)
     ParameterPair pair;
     const auto components = table.array("components");
     std::vector<Reference> ids;
+    ids.reserve(components.size());
     for (const auto& entry : components)
         ids.push_back({read_text(entry, table.diagnostics()).value_or(""), entry.source});
     if (ids.size() == 2) {

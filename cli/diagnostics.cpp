@@ -42,6 +42,7 @@ std::vector<std::string> Diagnostics::lines(std::string_view file) const
     auto sorted = found_;
     std::ranges::stable_sort(sorted, {}, &Diagnostic::source);
     std::vector<std::string> lines;
+    lines.reserve(sorted.size());
     for (const auto& [source, text] : sorted)
         lines.push_back(fmt::format("{}:{}:{}: {}", file, source.line, source.column, text));
     return lines;

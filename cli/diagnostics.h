@@ -13,6 +13,7 @@ namespace cli {
 struct Source {
     std::uint32_t line = 1;
     std::uint32_t column = 1;
+    // NOLINTNEXTLINE(modernize-use-nullptr): the linter takes the generated comparison with 0 for a pointer
     auto operator<=>(const Source&) const = default;
 };
 

@@ -21,6 +21,7 @@ std::string shown(const Cell& cell)
 std::vector<std::string> shown(const std::vector<Cell>& row)
 {
     std::vector<std::string> texts;
+    texts.reserve(row.size());
     for (const auto& cell : row) texts.push_back(shown(cell));
     return texts;
 }

@@ -1,5 +1,6 @@
 #include <CLI/CLI.hpp>
 
+#include <iostream>
 #include <map>
 
 #include "cli/commands.h"
@@ -132,6 +133,6 @@ try {
     }
     return program.status();
 } catch (const std::exception& error) {
-    std::fprintf(stderr, "polyprops: %s\n", error.what());
+    std::cerr << "polyprops: " << error.what() << '\n';
     return cli::exit_case_error;
 }

@@ -28,7 +28,13 @@ ReactorResults evaluate(const Reactor& reactor, Int sites, Host& host)
     const auto weights = molecular_weights(host);
     const Int entries = sites + 1;
     const auto size = static_cast<std::size_t>(entries);
-    std::vector<double> mass(size), segment_weight(size), mn(size), mw(size), dpn(size), dpw(size), pdi(size);
+    std::vector<double> mass(size);
+    std::vector<double> segment_weight(size);
+    std::vector<double> mn(size);
+    std::vector<double> mw(size);
+    std::vector<double> dpn(size);
+    std::vector<double> dpw(size);
+    std::vector<double> pdi(size);
     POLY_POLYRESULTS(inlet.values, outlet.values, &substreams, inlet.first_flow.data(), inlet.types.data(),
                      weights.data(), &entries, mass.data(), segment_weight.data(), mn.data(), mw.data(),
                      dpn.data(), dpw.data(), pdi.data());

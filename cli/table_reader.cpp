@@ -30,7 +30,7 @@ std::string shown(const toml::node& node)
 {
     if (node.is_table()) return "a table";
     if (node.is_array()) return "an array";
-    if (const auto number = node.as_floating_point()) return fmt::format("{}", number->get());
+    if (const auto* number = node.as_floating_point()) return fmt::format("{}", number->get());
     std::ostringstream out;
     node.visit([&](const auto& value) { out << value; });
     auto text = out.str();
@@ -183,7 +183,7 @@ std::optional<std::int64_t> TableReader::required_whole_number(std::string_view 
 
 std::optional<std::string> TableReader::required_text(std::string_view key)
 {
-    const auto value = text(key);
+    auto value = text(key);
     if (!value) missing(key, "a text in quotes");
     return value;
 }

@@ -12,6 +12,7 @@ namespace minihost {
 void PolymerParagraph::set(const std::vector<Sentence>& sentences)
 {
     std::vector<SentenceWords> words;
+    words.reserve(sentences.size());
     for (const Sentence& sentence : sentences) words.push_back(words_of(sentence));
     sentences_ = std::move(words);
     drop_delivered();

@@ -50,7 +50,8 @@ void ReportFile::write_line(Int unit, Int length, const char* text)
                     std::to_string(ST_FILES[27 - 1]));
     if (length < 0) throw Error("report line of length " + std::to_string(length) + "; expected 0 or more");
     const std::string_view line(text, static_cast<std::size_t>(length));
-    if (line.find_first_of("\n\r\f") != line.npos) throw Error("report line with a line end in it");
+    if (line.find_first_of("\n\r\f") != std::string_view::npos)
+        throw Error("report line with a line end in it");
     if (pages_ == 0) start_page();
     text_.append(line).push_back('\n');
     ++lines_used();

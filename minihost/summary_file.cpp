@@ -35,7 +35,8 @@ std::string text_of(Int kind, Int length, const Word* data)
             refuse(kind, length, "word " + std::to_string(k + 1) + " does not end in four blanks");
     }
     const auto end = static_cast<std::size_t>(length);
-    if (text.find_first_not_of(' ', end) != text.npos) refuse(kind, length, "characters beyond the length");
+    if (text.find_first_not_of(' ', end) != std::string::npos)
+        refuse(kind, length, "characters beyond the length");
     text.resize(end);
     return text;
 }

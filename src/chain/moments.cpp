@@ -199,7 +199,10 @@ void POLY_GETMOMENTS(const Real* SV, const Int* NSS, const Int* K0, const Int* K
                                PolymerData::locate(chain::moment_parts)};
     if (layout.data.polymers().count() < 1) return;
     chain::MomentOffsets offsets{layout.data.polymers(), *NS > 1};
-    const Vector zeroth{Z, *NS}, first{F, *NS}, second{S, *NS}, mass{W, *NS};
+    const Vector zeroth{Z, *NS};
+    const Vector first{F, *NS};
+    const Vector second{S, *NS};
+    const Vector mass{W, *NS};
     for (Int t = 1; t <= *NS; ++t) {
         const auto sites = chain::Sites::of_entry(t, *NS);
         const chain::Moments sum = chain::stream_moments(layout, Vector{SV}, offsets, sites);
@@ -217,9 +220,13 @@ void POLY_POLYRESULTS(const Real* SV1, const Real* SV2, const Int* NSS, const In
     const chain::Layout layout{*NSS, Vector{K0, *NSS}, Vector{KTYPE, *NSS}, ByComponent{MW},
                                PolymerData::locate(chain::moment_parts)};
     chain::MomentOffsets offsets{layout.data.polymers(), *NS > 1};
-    const Vector mass{PMASS, *NS}, segment_weight{PMRS, *NS}, number_weight{PMWN, *NS},
-        weight_weight{PMWW, *NS};
-    const Vector number_length{PDPN, *NS}, weight_length{PDPW, *NS}, polydispersity{PPDI, *NS};
+    const Vector mass{PMASS, *NS};
+    const Vector segment_weight{PMRS, *NS};
+    const Vector number_weight{PMWN, *NS};
+    const Vector weight_weight{PMWW, *NS};
+    const Vector number_length{PDPN, *NS};
+    const Vector weight_length{PDPW, *NS};
+    const Vector polydispersity{PPDI, *NS};
     for (Int t = 1; t <= *NS; ++t) {
         const auto sites = chain::Sites::of_entry(t, *NS);
         const auto moments = [&](const Real* stream) {

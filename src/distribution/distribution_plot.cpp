@@ -6,9 +6,11 @@
 
 using namespace polyprops;
 
-void POLY_CSDPLOT(const void* CONTEXT, const void*, const void*, const void*, const void*, const void*,
-                  const void*, const void*, const void*, const void*, const Int* N, const Real* X,
-                  const Real* Y, const Int* NC, const Real* SCALE, const Int* SCALED, const Int* GPC)
+void POLY_CSDPLOT(const void* CONTEXT, const void* /*UNUSED1*/, const void* /*UNUSED2*/,
+                  const void* /*UNUSED3*/, const void* /*UNUSED4*/, const void* /*UNUSED5*/,
+                  const void* /*UNUSED6*/, const void* /*UNUSED7*/, const void* /*UNUSED8*/,
+                  const void* /*UNUSED9*/, const Int* N, const Real* X, const Real* Y, const Int* NC,
+                  const Real* SCALE, const Int* SCALED, const Int* GPC)
 {
     const Matrix values{Y, *N};
     distribution::write_report(*N, Vector{X, *N}, Vector{values.column(1), *N}, *GPC != 0);

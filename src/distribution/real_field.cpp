@@ -19,9 +19,9 @@ Decimal to_decimal(Real value)
 {
     if (value == 0.0) return {false, {'0', '0', '0', '0'}, 1};
     std::array<char, 16> text;  // d.ddde±XX or d.ddde±XXX
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), std::fabs(value),
-                                   std::chars_format::scientific, 3)
-                         .ptr;
+    const char* const end = std::to_chars(text.data(), text.data() + text.size(), std::fabs(value),
+                                          std::chars_format::scientific, 3)
+                                .ptr;
     int exponent = 0;
     std::from_chars(text.data() + 7, end, exponent);
     if (text[6] == '-') exponent = -exponent;

@@ -27,7 +27,7 @@ public:
     ReportLine& integer(Int value, std::size_t width)
     {
         std::array<char, 20> digits;
-        const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+        const char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
         const auto count = static_cast<std::size_t>(end - digits.data());
         return blanks(width > count ? width - count : 0).text({digits.data(), count});
     }

@@ -108,7 +108,8 @@ void scale_attributes(const IntegerBlock& sentence, Int& status)
 
 using namespace polyprops;
 
-void POLY_CATSCALESEM(const Int* OP, const Int* SENTENCE, Int* STATUS, const Int*, const Int* LOCATED)
+void POLY_CATSCALESEM(const Int* OP, const Int* SENTENCE, Int* STATUS, const Int* /*UNUSED1*/,
+                      const Int* LOCATED)
 {
     constexpr Int check = 2;
     if (*OP != check) return;

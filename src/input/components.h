@@ -12,7 +12,8 @@ inline std::optional<Component> find_component(const NamePair& id)
     constexpr Int names_a_component = 2;
     Int status = 0;
     Int index = 0;
-    PS_FIND_COMPONENT(&id.words[0], &id.words[1], UT_COMPONENT_IDS, &status, &index);
+    const auto& [first, second] = id.words;
+    PS_FIND_COMPONENT(&first, &second, UT_COMPONENT_IDS, &status, &index);
     if (status != names_a_component) return std::nullopt;
     return Component{index};
 }

@@ -11,7 +11,7 @@ void compose_line(Int line, std::string_view text, const NamePair& first, const 
     constexpr std::size_t mark_length = 3;
     MessageLine out{line};
     out.append(margin);
-    for (auto mark = text.find('{'); mark != text.npos; mark = text.find('{')) {
+    for (auto mark = text.find('{'); mark != std::string_view::npos; mark = text.find('{')) {
         out.append({text.data(), mark});
         out.append(text[mark + 1] == '1' ? first : second);
         text.remove_prefix(mark + mark_length);

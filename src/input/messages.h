@@ -40,6 +40,8 @@ namespace messages {
 inline constexpr NamePair polsem{"POLSEM"};
 inline constexpr NamePair catscale{"CATSCALE"};
 
+// All texts spell their quotes in the same way, however many there are.
+// NOLINTBEGIN(modernize-raw-string-literal)
 // clang-format off
 inline constexpr Message no_sentences{polsem, 1, 2, Compose::when_not_zero, Print::always,
     {"THIS POLYMERS PARAGRAPH HAS NO SENTENCES."}};
@@ -108,6 +110,7 @@ inline constexpr Message catalyst_without_attributes{polsem, 31, 2, Compose::whe
 inline constexpr Message attribute_not_used{catscale, 1, 1, Compose::when_exactly_one, Print::when_composed,
     {"Component \"{1}\" does not use attribute \"{2}\".  Sentence ignored."}};
 // clang-format on
+// NOLINTEND(modernize-raw-string-literal)
 
 }  // namespace messages
 

@@ -67,8 +67,8 @@ void check_paragraph(const void* context, const Int* paragraph, Int* status)
 
 using namespace polyprops;
 
-void POLY_POLSEM(const Int*, const Int* OP, const void* CONTEXT, const Int* PARAGRAPH, const Int*,
-                 Int* STATUS)
+void POLY_POLSEM(const Int* /*UNUSED1*/, const Int* OP, const void* CONTEXT, const Int* PARAGRAPH,
+                 const Int* /*UNUSED2*/, Int* STATUS)
 {
     constexpr Int check = 2;
     constexpr Int answer = 5;

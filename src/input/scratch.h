@@ -16,12 +16,7 @@ class Scratch {
     static_assert(std::is_trivial_v<T>, "zeroed memory must be a valid entry");
 
 public:
-    explicit Scratch(Int count)
-        : entries_(
-              static_cast<T*>(std::calloc(static_cast<std::size_t>(std::max<Int>(count, 1)), sizeof(T)))),
-          count_(count)
-    {
-    }
+    explicit Scratch(Int count) : entries_(allocate(std::max<Int>(count, 1))), count_(count) {}
 
     bool is_allocated() const { return entries_ != nullptr; }
     Int count() const { return count_; }
@@ -29,9 +24,16 @@ public:
     T& operator()(Component c) const { return (*this)(c.index); }
 
 private:
+    // Exhausted memory is an answer here, not an exception: the library has none.
+    // NOLINTBEGIN(cppcoreguidelines-no-malloc, cppcoreguidelines-owning-memory)
+    static T* allocate(Int count)
+    {
+        return static_cast<T*>(std::calloc(static_cast<std::size_t>(count), sizeof(T)));
+    }
     struct Free {
         void operator()(T* entries) const { std::free(entries); }
     };
+    // NOLINTEND(cppcoreguidelines-no-malloc, cppcoreguidelines-owning-memory)
 
     std::unique_ptr<T[], Free> entries_;
     Int count_;
