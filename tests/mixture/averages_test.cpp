@@ -1,7 +1,7 @@
 // Averages over rows of a segment-count matrix: properties, chain weights and polydispersity.
 #include <cmath>
 
-#include "mixture/asked_once.h"
+#include "support/asked_once.h"
 #include "polyprops/polyprops.h"
 #include "support/world.h"
 

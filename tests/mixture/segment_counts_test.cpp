@@ -1,7 +1,7 @@
 // Segment counts straight from attributes: POLY_GETPOL and POLY_GETPALL side by side.
 #include <cmath>
 
-#include "mixture/asked_once.h"
+#include "support/asked_once.h"
 #include "polyprops/polyprops.h"
 #include "support/world.h"
 

@@ -1,6 +1,6 @@
 // Tables of a component list and the set-ups for special cases.
-#include "mixture/asked_once.h"
 #include "polyprops/polyprops.h"
+#include "support/asked_once.h"
 #include "support/world.h"
 
 using namespace support;
@@ -105,79 +105,37 @@ TEST(SetUps, ScaleOnePolymerToItsWeight)
     const auto world = stream(), no_block = stream().without_polymer_block();
     const double weight = 7000;
     const Values mw = world.molecular_weights(), weightless(nc, 0.0);
+    const Values scaled = square({{{3, 1}, 1}, {{6, 1}, 1}, {{5, 2}, 60}, {{5, 4}, 20}});
     const struct {
         const char* name;
         World run;
         Int polymer;
         const Values& mw;
-        Ints list, flags;
+        Ints list;
+        std::map<Int, Int> flags;  // by component; others are kept
         Values scm;
         Ints segments;
         Values numbers;
         Int nseg;
     } cases[] = {
-        {"listed",
-         world,
-         5,
-         mw,
-         {3, 5, 6},
-         {kept, kept, 0, kept, 1, 0, kept},
-         square({{{3, 1}, 1}, {{6, 1}, 1}, {{5, 2}, 60}, {{5, 4}, 20}}),
-         {2, 4},
-         {3, 1},
-         2},
-        {"not listed",
-         world,
-         5,
-         mw,
-         {3},
-         {kept, kept, 0, kept, kept, kept, kept},
-         square({{{3, 1}, 1}}),
-         {2, 4},
-         {3, 1},
-         2},
-        {"weightless",
-         world,
-         5,
-         weightless,
-         {5},
-         {kept, kept, kept, kept, 1, kept, kept},
-         square({}),
-         {2, 4},
-         {3, 1},
-         2},
-        {"no segments",
-         world,
-         7,
-         mw,
-         {7},
-         {kept, kept, kept, kept, kept, kept, 1},
-         square({}),
-         {0, 0},
-         {kept, kept},
-         0},
-        {"no polymer block",
-         no_block,
-         5,
-         mw,
-         {5},
-         {kept, kept, kept, kept, 1, kept, kept},
-         square({}),
-         {kept, kept},
-         {kept, kept},
-         0},
+        {"listed", world, 5, mw, {3, 5, 6}, {{3, 0}, {5, 1}, {6, 0}}, scaled, {2, 4}, {3, 1}, 2},
+        {"not listed", world, 5, mw, {3}, {{3, 0}}, square({{{3, 1}, 1}}), {2, 4}, {3, 1}, 2},
+        {"weightless", world, 5, weightless, {5}, {{5, 1}}, square({}), {2, 4}, {3, 1}, 2},
+        {"no segments", world, 7, mw, {7}, {{7, 1}}, square({}), {0, 0}, {kept, kept}, 0},
+        {"no polymer block", no_block, 5, mw, {5}, {{5, 1}}, square({}), {kept, kept}, {kept, kept}, 0},
     };
     for (auto c : cases) {
         SCOPED_TRACE(c.name);
         c.run.host();
         Values scm(nc * nc, kept), numbers(2, kept);
-        Ints flags(nc, kept), iseg(2, kept);
+        Ints flags(nc, kept), iseg(2, kept), expected_flags = flags;
+        for (const auto& [component, flag] : c.flags) expected_flags[component - 1] = flag;
         Int nseg = kept;
         const Int n = std::ssize(c.list);
         POLY_GETPMIX(&c.polymer, &weight, &n, c.list.data(), &nc, c.mw.data(), flags.data(), scm.data(),
                      &nseg, iseg.data(), numbers.data());
         EXPECT_EQ(std::tie(flags, iseg, scm, numbers, nseg),
-                  std::tie(c.flags, c.segments, c.scm, c.numbers, c.nseg));
+                  std::tie(expected_flags, c.segments, c.scm, c.numbers, c.nseg));
     }
 }
 

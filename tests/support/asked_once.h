@@ -14,6 +14,7 @@ struct AskedOnce {
              {"ST_FIND_I", "ST_FIND_M", "CC_FIND_ATTR", "CC_IS_POLYMER", "CC_IS_OLIGOMER"})
             EXPECT_TRUE(log.repeated(service).empty()) << service;
         EXPECT_LE(log.count("CC_POLYMER_BLOCK"), 1);
+        EXPECT_EQ(log.count("CC_INDEX"), 0);
     }
     minihost::ServiceLog log;
 };
