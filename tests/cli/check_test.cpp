@@ -10,11 +10,13 @@
 #include "cli/load.h"
 #include "cli/report.h"
 #include "support/capture.h"
+#include "support/edited.h"
 #include "support/scratch.h"
 
 namespace {
 
 using cli::Format;
+using support::with;
 using Json = nlohmann::json;
 using Lines = std::vector<std::string>;
 
@@ -108,13 +110,6 @@ public:
         support::scratch() /
         (std::string{testing::UnitTest::GetInstance()->current_test_info()->name()} + ".toml");
 };
-
-std::string with(std::string text, const std::string& old, const std::string& replacement)
-{
-    const auto at = text.find(old);
-    EXPECT_NE(at, std::string::npos) << old;
-    return text.replace(at, old.size(), replacement);
-}
 
 TEST(Check, ShowsWhatWasBuilt)
 {

@@ -2,8 +2,11 @@
 
 #include "cli/case_reader.h"
 #include "cli/load.h"
+#include "support/edited.h"
 
 namespace {
+
+using support::with;
 
 // Line numbers below count from the first line after the opening bracket.
 const std::string good = R"([components.WATER]
@@ -43,13 +46,6 @@ Lines diagnose(const std::string& text)
     const auto checked = cli::check_input(input);
     EXPECT_TRUE(checked.messages.empty());
     return cli::add_streams(input, checked).lines("c.toml");
-}
-
-std::string with(std::string text, const std::string& old, const std::string& replacement)
-{
-    const auto at = text.find(old);
-    EXPECT_NE(at, std::string::npos) << old;
-    return text.replace(at, old.size(), replacement);
 }
 
 TEST(CaseDiagnostics, AcceptsAGoodCase)

@@ -2,9 +2,11 @@
 
 #include "cli/case_reader.h"
 #include "cli/program.h"
+#include "support/edited.h"
 
 namespace {
 
+using support::with;
 using namespace cli_test;
 
 // One polymer with three A to one B in a chain, an oligomer of two B, a molecule that has no segments.
@@ -31,13 +33,6 @@ segments = { A-R = 10, B-R = 20 }
 inlet = "T"
 outlet = "S"
 )";
-
-std::string with(std::string text, const std::string& old, const std::string& replacement)
-{
-    const auto at = text.find(old);
-    EXPECT_NE(at, std::string::npos) << old;
-    return text.replace(at, old.size(), replacement);
-}
 
 TEST(Properties, AreAveragedAsTheCaseAsks)
 {

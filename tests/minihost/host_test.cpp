@@ -7,23 +7,15 @@
 #include <functional>
 
 #include "minihost/service_log.h"
+#include "support/refusal.h"
 #include "support/world.h"
 
 namespace minihost {
 namespace {
 
+using support::refusal;
 using support::SegmentType;
 using support::World;
-
-std::string refusal(const std::function<void()>& action)
-{
-    try {
-        action();
-    } catch (const Error& error) {
-        return error.what();
-    }
-    return "";
-}
 
 NamePair pair(const char* name)
 {
@@ -127,71 +119,6 @@ TEST(Host, ParameterVectorsExistWhenAComponentGivesThem)
     EXPECT_EQ(value(540, world.index("B")), 7);
     EXPECT_EQ(ST_POFF1[601 - 1], 0) << "given, but forced absent";
     EXPECT_EQ(ST_POFF1[684 - 1], 0) << "given by none";
-}
-
-TEST(Host, NameAndIdTablesHoldTheirText)
-{
-    auto world =
-        World{}.conventional("WATER", 18, "H2O").conventional("CAPROLAC", 113, "EPSILON-CAPROLACTAM");
-    auto& store = world.host().store();
-    const auto name_word = [](Int component) { return ST_WORDS[ST_POFF4[0] + 3 * (component - 1) + 1 - 1]; };
-    EXPECT_EQ(name_word(world.index("WATER")), text_word("H2O     "));
-    EXPECT_EQ(name_word(world.index("CAPROLAC")), text_word("EPSILON-"));
-    const Word* ids = ST_WORDS + store.integers(UT_COMPONENT_IDS[0]) - 1;
-    EXPECT_EQ(ids[0], 3);
-    EXPECT_EQ(name_of(ids + 1 + 6 * (world.index("CAPROLAC") - 1)), "CAPROLAC");
-    EXPECT_EQ(pair("ZMOM")[1], text_word("        "));
-}
-
-TEST(Host, PolymerBlockHoldsListsInAscendingOrder)
-{
-    auto world = World{}
-                     .oligomer("Z", {{"B", 3}, {"A", 2}})
-                     .segments({{"B", 50}, {"A", 100, SegmentType::branch3}})
-                     .polymer("Q")
-                     .polymer("P")
-                     .oligomer("O", {{"A", 1}});
-    auto& store = world.host().store();
-    BlockId id = 0;
-    CC_POLYMER_BLOCK(&id);
-    const BlockId segments = store.integer(id, 2);
-    EXPECT_EQ(store.integer(segments, 1), 2);
-    EXPECT_EQ(store.integer(segments, 2), world.index("B"));
-    EXPECT_EQ(store.integer(segments, 5), 3) << "type of the second segment";
-    const BlockId polymers = store.integer(id, 3);
-    EXPECT_EQ(store.integer(polymers, 2), world.index("Q"));
-    const BlockId oligomers = store.integer(id, 6);
-    EXPECT_EQ(store.integer(oligomers, 2), world.index("Z"));
-    EXPECT_EQ(store.real(oligomers, 1), 3);
-    EXPECT_EQ(store.real(oligomers, 2), 2);
-    EXPECT_EQ(store.real(oligomers, 3), 0);
-    EXPECT_EQ(store.real(oligomers, 4), 1);
-    EXPECT_EQ(store.integer(store.integer(2, 200), 13), id) << "reached through block 2 and the root block";
-}
-
-TEST(Host, ClassesStandInBitZero)
-{
-    auto world = World{}.segments({"A"}).polymer("P").component("U", ComponentClass::polymer);
-    world.class_of("P", ComponentClass::conventional).host();
-    const Int p = world.index("P");
-    const Int u = world.index("U");
-    const Int a = world.index("A");
-    EXPECT_EQ(CC_IS_POLYMER(&p) & 1, 0);
-    EXPECT_EQ(CC_IS_POLYMER(&u) & 1, 1);
-    EXPECT_EQ(CC_IS_SEGMENT(&a) & 1, 1);
-    EXPECT_EQ(CC_IS_OLIGOMER(&a) & 1, 0);
-}
-
-TEST(Host, IndexOfAValueInAList)
-{
-    auto world = World{}.conventional("A");
-    world.host();
-    const Int list[] = {4, 9, 4};
-    const Int three = 3, none = 0, four = 4, nine = 9, other = 5;
-    EXPECT_EQ(CC_INDEX(list, &three, &nine), 2);
-    EXPECT_EQ(CC_INDEX(list, &three, &four), 1);
-    EXPECT_EQ(CC_INDEX(list, &three, &other), 0);
-    EXPECT_EQ(CC_INDEX(list, &none, &four), 0);
 }
 
 TEST(Host, RefusesWhatIsWrongWithStreamsAndAttributes)

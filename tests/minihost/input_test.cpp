@@ -1,5 +1,4 @@
-// The host's side of input processing: messages, sentences, keyword tables, forwarded sentences, scaling
-// blocks.
+// The host's side of input processing: messages, sentences, keyword tables, forwarded sentences.
 #include <gtest/gtest.h>
 #include <polyprops/host.h>
 
@@ -70,7 +69,6 @@ struct Delivered {
                         &extra, &integers, &integer_length, &extra, &reals, &real_length, &status);
     }
     Int word(Int k) const { return k <= integer_length ? ST_WORDS[integers + k - 2] : -1; }
-    double real(Int k) const { return k <= real_length ? real_of(ST_WORDS[reals + k - 2]) : -1; }
     std::string name(Int k) const { return name_of(ST_WORDS + integers + k - 2); }
 
     Int kind;
@@ -80,60 +78,6 @@ struct Delivered {
     Int reals = 0;
     Int real_length = 0;
 };
-
-TEST(Sentences, EveryKindIsReadBackThroughTheWordsThatNameItsLists)
-{
-    auto world = World{}.conventional("A");
-    PolymerParagraph& paragraph = world.host().paragraph();
-    paragraph.set({PolymerSentence{{"PS", "LONGNAME"}}, SegmentSentence{{{"STY-R", 2}, {"END", 1}}},
-                   AttributeSentence{{{"PS", {"ZMOM", "SFLOW"}}, {"CAT", {"CPSFLOW"}}}},
-                   OligomerSentence{{{"DIMER", "STY-R", 2}, {"", "END", 1.5}}},
-                   CatalystSentence{{{"CAT", 0.25}}}, SiteSentence{3, {11, 12, 13}, 0.5},
-                   DistributionSentence{{{"PS", 1, {7, 8, 9}, 0.75}}}, InitiatorSentence{{"BPO"}},
-                   SentenceWords{.kind = 9}});
-    EXPECT_EQ(world.host().store().integer(ST_TABLES[2 - 1], 3), 9);
-
-    const Delivered polymers(1);
-    EXPECT_EQ(polymers.kind, 1);
-    EXPECT_EQ(polymers.word(3), 2);
-    EXPECT_EQ(polymers.name(polymers.word(1) + 2), "LONGNAME");
-    const Delivered segments(2);
-    EXPECT_EQ(segments.word(3), 2);
-    EXPECT_EQ(segments.name(segments.word(1)), "STY-R");
-    EXPECT_EQ(segments.word(segments.word(1) + 2 * 2 + 1), 1) << "type of the second";
-    const Delivered attributes(3);
-    EXPECT_EQ(attributes.word(3), 2);
-    EXPECT_EQ(attributes.name(attributes.word(1) + 2), "CAT");
-    EXPECT_EQ(attributes.word(attributes.word(2)), 2);
-    EXPECT_EQ(attributes.name(attributes.word(attributes.word(2) + 1) + 2), "SFLOW");
-    EXPECT_EQ(attributes.name(attributes.word(attributes.word(2) + 3)), "CPSFLOW");
-    const Delivered oligomers(4);
-    EXPECT_EQ(oligomers.word(6), 2);
-    EXPECT_EQ(oligomers.name(oligomers.word(1)), "DIMER");
-    EXPECT_EQ(oligomers.word(oligomers.word(1) + 2), 0);
-    EXPECT_EQ(oligomers.name(oligomers.word(2) + 2), "END");
-    EXPECT_EQ(oligomers.real(oligomers.word(3) + 1), 1.5);
-    const Delivered catalysts(5);
-    EXPECT_EQ(catalysts.word(3), 1);
-    EXPECT_EQ(catalysts.name(catalysts.word(1)), "CAT");
-    EXPECT_EQ(catalysts.real(1), 0.25);
-    const Delivered sites(6);
-    EXPECT_EQ(sites.word(1), 3);
-    EXPECT_EQ(sites.word(13), 13);
-    EXPECT_EQ(sites.real(1), 0.5);
-    const Delivered distributions(7);
-    EXPECT_EQ(distributions.word(6), 1);
-    EXPECT_EQ(distributions.name(distributions.word(1)), "PS");
-    EXPECT_EQ(distributions.word(distributions.word(2)), 1);
-    for (Int k = 0; k < 3; ++k) EXPECT_EQ(distributions.word(distributions.word(3 + k)), 7 + k);
-    EXPECT_EQ(distributions.real(1), 0.75);
-    const Delivered initiators(8);
-    EXPECT_EQ(initiators.word(2), 1);
-    EXPECT_EQ(initiators.name(initiators.word(1)), "BPO");
-    EXPECT_EQ(Delivered(9).kind, 9);
-    EXPECT_THROW(Delivered(10), Error);
-    EXPECT_THROW(paragraph.set({PolymerSentence{{"NINECHARS"}}}), Error);
-}
 
 TEST(Sentences, DataStayThroughAllocationsAndGoWithTheNextSentence)
 {
@@ -152,6 +96,8 @@ TEST(Sentences, DataStayThroughAllocationsAndGoWithTheNextSentence)
     EXPECT_EQ(Delivered(1).status, 2);
     UT_END_SENTENCES(host.paragraph().handle());
     EXPECT_EQ(host.paragraph().times_ended(), 1);
+    EXPECT_THROW(Delivered(3), Error);
+    EXPECT_THROW(host.paragraph().set({PolymerSentence{{"NINECHARS"}}}), Error);
 }
 
 TEST(Components, AreFoundByTheirWholePairOfWords)
@@ -252,35 +198,6 @@ TEST(PropertySentences, WithAWrongWordAreRefused)
             EXPECT_THROW(sentence.process(), Error) << "word " << word << " of block " << sentence.*block;
         }
     EXPECT_TRUE(host.property_sentences().forwarded().empty());
-}
-
-TEST(CatalystScaling, BlocksNameEachOther)
-{
-    auto world =
-        World{}.segments({"A"}).sites(2).polymer("P", {{"ZMOM", 1}, {"CPSFLOW", {1, 2}}}).conventional("W");
-    Store& store = world.host().store();
-    const AttributeBlocks& blocks = world.host().lay_attribute_blocks();
-    const BlockId block = store.integer(ST_PROPTAB[7 - 1], world.index("P") + 1);
-    EXPECT_EQ(store.integer(block, 1), 2);
-    EXPECT_EQ(store.integer(block, 2), 3) << "rows: one of ZMOM, two of CPSFLOW";
-    EXPECT_EQ(store.integer(block, 4 * 2 + 1), name_pair("CPSFLOW")[0]);
-    EXPECT_EQ(store.integer(block, 4 * 2 + 3), 2);
-    const BlockId reals = store.integer(block, 4);
-    store.set_real(reals, store.integer(block, 4 * 2 + 4) + 2 * 3 + 2, 0.5);
-    EXPECT_EQ(blocks.values(world.index("P"), "CPSFLOW", 3), (std::vector<double>{0, 0.5}));
-    EXPECT_EQ(store.integer(store.integer(ST_PROPTAB[7 - 1], world.index("W") + 1), 1), 0);
-    EXPECT_EQ(store.integer(ST_PROPTAB[4 - 1], 2 * world.index("W") - 1), name_pair("W")[0]);
-    world.host().lay_attribute_blocks();
-    EXPECT_THROW(store.reals(reals), Error) << "replaced blocks are freed";
-
-    const BlockId sentence =
-        lay_scaling_sentence(store, world.host().components(), {{"P", "ZMOM", 0.1, 0.2}});
-    const BlockId data = store.integer(sentence, 4);
-    EXPECT_EQ(store.integer(data, 6), 1);
-    EXPECT_EQ(store.integer(store.integer(data, 11), 1), world.index("P"));
-    EXPECT_EQ(store.integer(store.integer(data, 12), 1), name_pair("ZMOM")[0]);
-    EXPECT_EQ(store.real(store.integer(data, 13), 1), 0.1);
-    EXPECT_EQ(store.real(store.integer(data, 14), 1), 0.2);
 }
 
 }  // namespace

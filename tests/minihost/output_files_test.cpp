@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "minihost/host.h"
+#include "support/refusal.h"
 #include "support/stored.h"
 #include "support/world.h"
 
@@ -12,18 +13,9 @@ namespace minihost {
 namespace {
 
 using support::content;
+using support::refusal;
 using support::World;
 namespace fs = std::filesystem;
-
-std::string refusal(const std::function<void()>& action)
-{
-    try {
-        action();
-    } catch (const Error& error) {
-        return error.what();
-    }
-    return "";
-}
 
 bool contains(const std::string& text, const std::string& part)
 {

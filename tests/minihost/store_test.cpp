@@ -7,20 +7,12 @@
 
 #include "minihost/error.h"
 #include "minihost/host.h"
+#include "support/refusal.h"
 
 namespace minihost {
 namespace {
 
-std::string refusal(const std::function<void()>& action)
-{
-    try {
-        action();
-    } catch (const Error& error) {
-        return error.what();
-    }
-    return "";
-}
-
+using support::refusal;
 class StoreModes : public testing::TestWithParam<Store::Mode> {};
 INSTANTIATE_TEST_SUITE_P(Store, StoreModes, testing::Values(Store::Mode::plain, Store::Mode::checked),
                          [](const auto& mode) {

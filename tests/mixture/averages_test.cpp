@@ -1,8 +1,8 @@
 // Averages over rows of a segment-count matrix: properties, chain weights and polydispersity.
 #include <cmath>
 
-#include "support/asked_once.h"
 #include "polyprops/polyprops.h"
+#include "support/asked_once.h"
 #include "support/world.h"
 
 using namespace support;

@@ -1,8 +1,8 @@
 // Segment counts straight from attributes: POLY_GETPOL and POLY_GETPALL side by side.
 #include <cmath>
 
-#include "support/asked_once.h"
 #include "polyprops/polyprops.h"
+#include "support/asked_once.h"
 #include "support/world.h"
 
 using namespace support;
