@@ -3,6 +3,9 @@
 # The same bits everywhere: no fused multiply-add behind the formula's back.
 add_compile_options(-ffp-contract=off)
 
+# Clang divides before it knows whether the quotient is needed, unless told that a host may trap.
+add_compile_options($<$<COMPILE_LANG_AND_ID:CXX,Clang>:-ffp-exception-behavior=maytrap>)
+
 # GCC 12 sees overlaps that are not there in `"text" + std::string`.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-Wno-restrict>)
