@@ -54,12 +54,6 @@ private:
     Int index_ = unasked;
 };
 
-template <class T>
-void clear_square(T* first, Int n)
-{
-    if (n > 0) clear(first, n * n);
-}
-
 struct MakeUp {
     SegmentTable segments;
     SegmentCountMatrix<Real> amounts;
@@ -200,8 +194,8 @@ void POLY_GETPSEG(const Int* N, const Int* IDX, const Int* NC, const Real* FAC, 
 {
     const ComponentList components{*N, IDX};
     const basis::MakeUp make_up{{KSEG, *NC}, {FSEG, *NC}};
-    basis::clear_square(KSEG, *NC);
-    basis::clear_square(FSEG, *NC);
+    clear_square(KSEG, *NC);
+    clear_square(FSEG, *NC);
     clear(IDXOUT, *NC);
     clear(IPOS, *NC);
     basis::settle_listed(make_up, components, *NC, Vector{DPN, *N}, ByComponent{IPOS, *NC});

@@ -157,4 +157,11 @@ void clear(T* first, Int count)
     if (count > 0) std::memset(first, 0, static_cast<std::size_t>(count) * sizeof(T));
 }
 
+// Sets a matrix of n rows and columns to zero.
+template <class T>
+void clear_square(T* first, Int n)
+{
+    if (n > 0) clear(first, n * n);
+}
+
 }  // namespace polyprops

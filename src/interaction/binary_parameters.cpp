@@ -59,11 +59,6 @@ void visit_selected(Real temperature, Int k, const Parameters& parameters, const
     }
 }
 
-void clear_square(Real* elements, Int order)
-{
-    if (order >= 1) clear(elements, order * order);
-}
-
 // A pair without a usable reference temperature has no parameter; nothing is divided by it.
 Real value_or_zero(const Parameters& parameters, Int k, Int i, Int j, ReducedTemperature& reduced)
 {
@@ -113,8 +108,8 @@ void POLY_TBKIJ4(const Real* T, const Int* N, const Int* K, const Int* M, const 
     const Matrix values{KIJ, *M};
     const Matrix derivatives{DKIJ, *M};
     const bool wants_derivative = *MODE == 2;
-    interaction::clear_square(KIJ, *M);
-    interaction::clear_square(DKIJ, *M);
+    clear_square(KIJ, *M);
+    clear_square(DKIJ, *M);
     if (*K == 0) return;  // there is no default reference temperature here
     interaction::visit_selected(*T, *K, {P, *N, *M}, interaction::Selection{SELECT},
                                 [&](Int i, Int j, const auto& p, auto& reduced) {
@@ -129,7 +124,7 @@ void POLY_KIJ5(const Real* T, const Int* N, const Int* K, const Int* M, const Re
 {
     const Matrix values{KIJ, *M};
     const Int positions = *N;
-    interaction::clear_square(KIJ, *M);
+    clear_square(KIJ, *M);
     interaction::visit_selected(*T, *K, {P, *N, *M}, {SELECT, MASK},
                                 [&](Int i, Int j, const auto& p, auto& reduced) {
                                     values(i, j) = interaction::value_by_positions(positions, p, reduced);
@@ -141,7 +136,7 @@ void POLY_DKIJ5(const Real* T, const Int* N, const Int* K, const Int* M, const R
 {
     const Matrix slopes{DKIJ, *M};
     const Int positions = *N;
-    interaction::clear_square(DKIJ, *M);
+    clear_square(DKIJ, *M);
     interaction::visit_selected(*T, *K, {P, *N, *M}, {SELECT, MASK},
                                 [&](Int i, Int j, const auto& p, auto& reduced) {
                                     slopes(i, j) = interaction::slope_by_positions(positions, p, reduced);

@@ -5,12 +5,6 @@
 
 namespace polyprops::mixture {
 
-// Sets a square matrix of one row and column per component to zero.
-inline void clear_square(Real* first, Int components)
-{
-    if (components >= 1) clear(first, components * components);
-}
-
 // Writes the run's segment list as component indices.
 inline void write_segment_list(const PolymerData& data, Int* first)
 {

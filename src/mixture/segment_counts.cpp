@@ -181,7 +181,7 @@ using namespace polyprops;
 void POLY_GETPOL(const Int* SEL, const Int* NC, const Real* MW, Int* NSEG, Int* ISEG, const Int* N,
                  const Int* IDX, Real* SCM)
 {
-    mixture::clear_square(SCM, *NC);
+    clear_square(SCM, *NC);
     const auto data = PolymerData::locate(PolymerData::every_part);
     if (!data.exists()) return;
     *NSEG = data.segments().count();

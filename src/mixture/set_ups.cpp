@@ -45,7 +45,7 @@ void POLY_GETPMIX(const Int* J, const Real* MWJ, const Int* N, const Int* IDX, c
                   Int* IFLAG, Real* SCM, Int* NSEG, Int* ISEG, Real* FRAC)
 {
     const Component polymer{*J};
-    mixture::clear_square(SCM, *NC);
+    clear_square(SCM, *NC);
     *NSEG = 0;
     const auto data = PolymerData::locate(basis::segment_make_up_parts);
     basis::list_segments(data, Species{own_selector, polymer}, *NSEG, Vector{ISEG}, Vector{FRAC});
@@ -66,7 +66,7 @@ void POLY_GETOLI(const Int* N, const Int* IDX, const Int* NC, const Real* A, Int
                  Int* IFLAG)
 {
     clear(IFLAG, *NC);
-    mixture::clear_square(B, *NC);
+    clear_square(B, *NC);
     const auto data = PolymerData::locate(PolymerData::segment_list | PolymerData::oligomer_block);
     *NSEG = data.segments().count();
     if (!data.exists()) return;

@@ -124,7 +124,7 @@ TEST(Lists, PickSubCompositionsLayOutAreasAndFindWater)
     auto world =
         World{}.conventional("2", 18, "h2o").conventional("3", 20, "H2O2").conventional("4", 18, "H2O");
     world.conventional("5", 18, "H2O     OTHER").host();
-    const std::pair<Ints, Int> waters[] = {{{2, 3, 4, 5}, 4}, {{5, 4}, 5}, {{3, 2}, 0}, {{}, 0}};
+    const std::pair<Ints, Int> waters[] = {{{2, 3, 4, 5}, 4}, {{5, 4}, 5}, {{3, 4}, 4}, {{3, 2}, 0}, {{}, 0}};
     for (const auto& [list, water] : waters) {
         Int found = -1;
         call(POLY_SETH2O, std::ssize(list), list, found);

@@ -47,6 +47,7 @@ TEST(SegmentsOfAComponent, AreThoseWithAPositiveAmount)
         {"no chains", polymer({{"ZMOM", 0}, {"SFLOW", {-1, 10, 4}}}), {2, 3, 4, 1, 1}},
         {"few chains", polymer({{"ZMOM", 1e-20}, {"SFLOW", {1e-20, 2e-20, 0}}}), {2, 2, 3, 1, 2}},
         {"missing flow", polymer({{"ZMOM", 1}, {"SFLOW", {0, missing, 0}}}), {1, 3, missing}},
+        {"part of a segment", segments().oligomer("O", {{"B", 0.25}}), {1, 3, 0.25}},
         {"conventional", polymer({}).class_of("P", ComponentClass::conventional), {0}},
         {"no polymer is listed", segments().component("P", ComponentClass::polymer), {-1}},
     };
@@ -115,6 +116,26 @@ TEST(ListMakeUp, TakesUsableAmountsElseTheFirstSegment)
     }
 }
 
+// Without a usable amount the first segment of the host stands in, here component 1 or the last one.
+TEST(ListMakeUp, FindsTheFirstSegmentAndMarksUnlistedChainsAtEitherEnd)
+{
+    auto first = World{}.class_of("UNNAMED", ComponentClass::segment).polymer("P").polymer("Q");
+    const ListMakeUp of_first(first, {2});
+    EXPECT_EQ((Ints{of_first.nout, of_first.out(1), of_first.kseg(2), of_first.kseg(3 + 2)}),
+              (Ints{1, 1, 1, 1}));
+    EXPECT_EQ(of_first.fseg(2), 1);
+    EXPECT_EQ(of_first.kseg(3), -1) << "the last component is not listed";
+
+    auto last = World{}.class_of("UNNAMED", ComponentClass::polymer).polymer("P").segments({"A"});
+    const ListMakeUp of_last(last, {2, 2});
+    EXPECT_EQ((Ints{of_last.nout, of_last.out(1), of_last.kseg(2), of_last.kseg(3 + 2)}), (Ints{1, 3, 1, 3}));
+    EXPECT_EQ(of_last.kseg(1), -1) << "component 1 is not listed";
+
+    auto none = World{}.polymer("P");
+    const ListMakeUp of_none(none, {2});
+    EXPECT_EQ((Ints{of_none.nout, of_none.out(1), of_none.kseg(2)}), (Ints{1, 2, 0})) << "stands for itself";
+}
+
 TEST(ListMakeUp, OfRepeatedEntriesScalesTwiceAsksOnceAndStaysWithinTheComponents)
 {
     auto world = polymer({{"DPN", 10}, {"SFLOW", {1, 0, 0}}}).conventional("W").oligomer("O", {{"A", 2}});
@@ -171,6 +192,7 @@ TEST(SegmentMeans, FallBackFromFlowsToFractionsToEqualSharesToTheOwnProperty)
         {"no flow given", of({{"SFLOW", {missing, missing}}}), {12, 14}},
         // The missing flow is 0 in the total 1.5 but 1/2 in the mean: (1.5 · 8 + 0.5 · 16) / 1.5.
         {"one flow not given", of({{"SFLOW", {1.5, missing}}}), {20 / 1.5, 12}},
+        {"one segment alone", World{}.segments({"A"}).conventional("3").polymer("P"), {8, 8}},
         {"oligomer", two().oligomer("O", {{"A", 3}, {"B", 1}}), {10, 12}},
         {"listed, but none to the host",
          two().oligomer("O", {{"A", 3}}).class_of("O", ComponentClass::conventional),

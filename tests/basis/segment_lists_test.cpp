@@ -69,6 +69,7 @@ TEST(SegmentLists, FromCountsStandInTheOrderOfFirstAppearance)
         << "a conventional entry comes with its own count";
     EXPECT_EQ(m.flows_to_segments({P, C, P, A}, {1, 2, 10, 3}), (List{{A, C, C, A}, {660, 440, 402, 3}}))
         << "a segment goes to every entry that holds it";
+    EXPECT_EQ(m.flows_to_segments({A, A, P, P}, {3, 4, 1, 1}), (List{{A, A, C}, {123, 124, 80}}));
     EXPECT_EQ(m.flows_to_segments({W, P}, {1e-20, 0}, 1).amounts, (Values{1, 0, 0}));
     EXPECT_EQ(m.flows_to_segments({W, W}, {1, -1}, 1).amounts, (Values{1, -1}))
         << "a sum of exactly 0 is left";
@@ -111,7 +112,8 @@ TEST(SegmentLists, FromAttributesSkipChainsWithoutSegmentData)
 
 TEST(SegmentProperties, OfAListMemberAreWeightedByItsCounts)
 {
-    const Mixture m = two_polymers();
+    Mixture m = two_polymers();
+    m.counts.at(W, A) = 7;  // beside its own count, and not read
     const Ints members{A, C, W, C, B};
     const auto properties = [&](const Ints& ids, const Values& given, const Values& expected_weights) {
         GuardedReals out(5), weights(5);
@@ -124,6 +126,8 @@ TEST(SegmentProperties, OfAListMemberAreWeightedByItsCounts)
     EXPECT_EQ(properties({W}, {6}, {0, 0, 2, 0, 0}), (Values{0, 0, 3, 0, 0})) << "divided by its own count";
     EXPECT_EQ(properties({P, C, Q}, {1, 10, 2}, {60, 20, 0, 20, 30}), (Values{1, 2.5, 0, 2.5, 2}))
         << "an entry of its own replaces what came before";
+    m.counts.at(P, A) = 0.25;
+    EXPECT_EQ(properties({P}, {3}, {0.25, 40, 0, 40, 0}), (Values{3, 3, 0, 3, 0}));
 }
 
 }  // namespace

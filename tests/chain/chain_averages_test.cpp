@@ -42,7 +42,6 @@ TEST(DegreeOfPolymerization, PrefersAttributeThenMomentsThenOne)
         {"zeroth moment above the zero bound",
          {{"ZMOM", above_zero_bound}, {"FMOM", 4 * above_zero_bound}},
          4},
-        {"first moment at the zero bound", {{"ZMOM", 1e-20}, {"FMOM", zero_bound}}, 1},
         {"never below one", {{"ZMOM", 100}, {"FMOM", 50}}, 1},
         {"neither zeroth moment nor end segments", {{"FMOM", 50}, {"SFLOW", {1, 1}}}, 1},
         {"nothing carried", {}, 1},
@@ -105,14 +104,18 @@ TEST(DegreeOfPolymerization, CountsTheMakeUpOfOligomersLeftAtOne)
         EXPECT_EQ(world.ask(POLY_GETMRF, "O"), (2 * 100 + 3 * 50) / 5.0);
     }
     auto unlisted = copolymer({}).component("O", ComponentClass::oligomer, 77);
-    EXPECT_EQ(unlisted.ask(POLY_GETDPN, "O"), 1);
-    EXPECT_EQ(unlisted.ask(POLY_GETMWN, "O"), 77);
+    EXPECT_EQ(unlisted.parameter("O", Parameter::dpn, 1 + 1e-11).ask(POLY_GETDPN, "O"), 1 + 1e-11);
+    EXPECT_EQ(unlisted.ask(POLY_GETMWN, "O"), 77 * (1 + 1e-11));
+    auto part_of_a_segment = World{}.segments({{"A", 100}}).oligomer("O", {{"A", 0.25}});
+    EXPECT_EQ(part_of_a_segment.ask(POLY_GETDPN, "O"), 1);
+    EXPECT_EQ(part_of_a_segment.ask(POLY_GETMRF, "O"), 100);
 }
 
 TEST(MeanSegmentWeight, PrefersAttributeThenFractionsThenFlowsThenPlainMean)
 {
     const Case cases[] = {
         {"attribute", {{"MWSEG", 60}, {"SFRAC", {1, 0}}}, 60},
+        {"attribute just above 1", {{"MWSEG", 1.25}}, 1.25},
         {"attribute of 1 is not usable", {{"MWSEG", 1.0}, {"SFRAC", {0.2, 0.6}}}, 62.5},
         {"missing attribute", {{"MWSEG", missing}, {"SFRAC", {0.2, 0.6}}}, 62.5},
         {"fractions before flows", {{"SFRAC", {0, 3}}, {"SFLOW", {3, 0}}}, 50},
@@ -149,6 +152,8 @@ TEST(MeanSegmentWeight, TakesTheMakeUpOfWhateverStandsInTheOligomerList)
     polymer_too.class_of("O", ComponentClass::polymer).attributes("O", {{"MWSEG", 60}});
     EXPECT_EQ(polymer_too.ask(POLY_GETMRF, "O"), 60);
 
+    auto one_segment = World{}.segments({{"A", 100}}).polymer("P", {}, 1000);
+    EXPECT_EQ(one_segment.ask(POLY_GETMRF, "P"), 100);
     auto no_segments = World{}.polymer("P", {}, 1000);
     EXPECT_EQ(no_segments.ask(POLY_GETMRF, "P"), 1000);
 }
@@ -180,6 +185,21 @@ TEST(Polydispersity, NeedsThreeMomentsWithinTheirBounds)
     }
     EXPECT_EQ(copolymer({{"ZMOM", 2}, {"SMOM", 50}, flows}).pdi_mode(99).ask(POLY_GETPDI, "P"), 1.5625);
     EXPECT_EQ(copolymer({}).ask(POLY_GETPDI, "P"), 1);
+
+    // The mass of the flows is held against the zero bound too, and may be it.
+    for (const auto& [segment_weight, expected] : {std::pair{1.0, 4.0}, {0.5, 3.0}}) {
+        auto light = World{}.segments({{"A", segment_weight}});
+        light.polymer("P", {{"ZMOM", 4 * zero_bound}, {"SMOM", zero_bound}, {"SFLOW", zero_bound}});
+        EXPECT_EQ(light.parameter("P", Parameter::pdi, 3).ask(POLY_GETPDI, "P"), expected);
+    }
+}
+
+TEST(ChainAverages, OfAPolymerInARunThatListsNoneAreItsOwn)
+{
+    auto world = World{}.segments({{"A", 100}}).component("P", ComponentClass::polymer, 1000);
+    world.attributes("P", {{"ZMOM", 2}, {"SMOM", 50}, {"SFLOW", 8}}).parameter("P", Parameter::pdi, 3);
+    EXPECT_EQ(world.ask(POLY_GETMRT, "P"), 1000);
+    EXPECT_EQ(world.ask(POLY_GETPDI, "P"), 3);
 }
 
 TEST(MolecularWeight, FromFlowsNeedsMassAboveTheZeroBound)

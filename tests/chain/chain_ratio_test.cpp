@@ -39,6 +39,14 @@ TEST(ChainRatio, DividesEachFractionByItsChainLength)
         {"segments at the zero bound", polymer({{"ZMOM", 8}, {"SFLOW", {zero_bound, 0}}}), {1}, 1},
         {"make-up for a parameter of 1", oligomer(1 + 1e-11, {{"A", 2}, {"B", 3}}), {1}, 5},
         {"parameter before make-up", oligomer(4, {{"A", 2}, {"B", 3}}), {1}, 4},
+        {"parameter without a make-up",
+         World{}
+             .segments({"A"})
+             .polymer("P")
+             .component("C", ComponentClass::oligomer)
+             .parameter("C", Parameter::dpn, 1 + 1e-11),
+         {1},
+         1 + 1e-11},
         {"a length of 0 counts as 1", oligomer(1, {}), {1}, 1},
         {"neither polymers nor oligomers", polymer(hundred).polymer_count(0), {1}, 1},
         {"no polymer block", polymer(hundred).without_polymer_block(), {1}, 1},

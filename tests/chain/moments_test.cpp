@@ -77,6 +77,15 @@ TEST(PolymerResults, AverageWhatTheSecondStreamHoldsBeyondTheFirst)
     }
 }
 
+TEST(PolymerResults, OfOneEntryAreThoseOfWholePolymersEvenBesideSites)
+{
+    auto world = World{}.segments({{"A", 100}}).sites(1).polymer("P", {}, 100).stream("1", {{}});
+    world.stream("2", {{.flows = {{"P", 8}},
+                        .attributes = {{"P", {{"ZMOM", 2}, {"SFLOW", 8}, {"SZMOM", 5}, {"SSFLOW", 9}}}}}});
+    EXPECT_EQ(results(world, "1", "2", 1, 1)[4], 4);
+    EXPECT_EQ(moments(world, "2", 1)[1](1), 8);
+}
+
 TEST(PolymerResults, AreZeroWithoutPolymersWhereMomentsStayUntouched)
 {
     auto world = World{}.segments({"A"}).oligomer("O", {{"A", 2}}).stream("1", {{.flows = {{"O", 3}}}});

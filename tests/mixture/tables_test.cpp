@@ -119,6 +119,16 @@ TEST(SetUps, ScaleOnePolymerToItsWeight)
         Int nseg;
     } cases[] = {
         {"listed", world, 5, mw, {3, 5, 6}, {{3, 0}, {5, 1}, {6, 0}}, scaled, {2, 4}, {3, 1}, 2},
+        {"listed first",
+         world,
+         5,
+         mw,
+         {5},
+         {{5, 1}},
+         square({{{5, 2}, 60}, {{5, 4}, 20}}),
+         {2, 4},
+         {3, 1},
+         2},
         {"not listed", world, 5, mw, {3}, {{3, 0}}, square({{{3, 1}, 1}}), {2, 4}, {3, 1}, 2},
         {"weightless", world, 5, weightless, {5}, {{5, 1}}, square({}), {2, 4}, {3, 1}, 2},
         {"no segments", world, 7, mw, {7}, {{7, 1}}, square({}), {0, 0}, {kept, kept}, 0},
@@ -159,7 +169,7 @@ TEST(SetUps, GiveTrueFractionsWithOnePolymerByWeight)
 
 TEST(SetUps, BreakOnlyOligomersIntoSegments)
 {
-    const Values a = square({{{5, 2}, 60}, {{6, 2}, 2}, {{6, 4}, -3}, {{7, 2}, 9}, {{6, 1}, 8}});
+    const Values a = square({{{5, 2}, 60}, {{6, 2}, -3}, {{6, 4}, 0.25}, {{7, 2}, 9}, {{6, 1}, 8}});
     const struct {
         World world;
         Ids listed;
@@ -167,7 +177,7 @@ TEST(SetUps, BreakOnlyOligomersIntoSegments)
         Ints flags, segments;
         Int nseg;
     } cases[] = {
-        {stream(), {"P", "O", "U"}, square({{{5, 1}, 1}, {{6, 2}, 2}}), {0, 0, 0, 0, 0, 1, 1}, {2, 4}, 2},
+        {stream(), {"P", "O", "U"}, square({{{5, 1}, 1}, {{6, 4}, 0.25}}), {0, 0, 0, 0, 0, 1, 1}, {2, 4}, 2},
         {stream(), {"P", "W"}, square({{{5, 1}, 1}, {{3, 1}, 1}}), Ints(nc, 0), {kept, kept}, 2},
         {stream().without_polymer_block(), {"P", "O"}, square({}), Ints(nc, 0), {kept, kept}, 0},
     };
