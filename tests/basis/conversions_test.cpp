@@ -120,6 +120,8 @@ TEST(Lists, PickSubCompositionsLayOutAreasAndFindWater)
     call(POLY_WRKPOINT, last, 0, areas, areas);
     EXPECT_EQ(areas, (Ints{101, 111, 111}));
     EXPECT_EQ(last, 115);
+    call(POLY_WRKPOINT, last, 1, Ints{7}, areas);
+    EXPECT_EQ(std::pair(areas[0], last), std::pair(Int{116}, Int{122}));
 
     auto world =
         World{}.conventional("2", 18, "h2o").conventional("3", 20, "H2O2").conventional("4", 18, "H2O");

@@ -70,6 +70,7 @@ TEST(SegmentLists, FromCountsStandInTheOrderOfFirstAppearance)
     EXPECT_EQ(m.flows_to_segments({P, C, P, A}, {1, 2, 10, 3}), (List{{A, C, C, A}, {660, 440, 402, 3}}))
         << "a segment goes to every entry that holds it";
     EXPECT_EQ(m.flows_to_segments({A, A, P, P}, {3, 4, 1, 1}), (List{{A, A, C}, {123, 124, 80}}));
+    EXPECT_EQ(m.flows_to_segments({P, A, P}, {1, 2, 10}), (List{{A, C, A}, {660, 440, 602}}));
     EXPECT_EQ(m.flows_to_segments({W, P}, {1e-20, 0}, 1).amounts, (Values{1, 0, 0}));
     EXPECT_EQ(m.flows_to_segments({W, W}, {1, -1}, 1).amounts, (Values{1, -1}))
         << "a sum of exactly 0 is left";
@@ -100,6 +101,7 @@ TEST(SegmentLists, FromAttributesSkipChainsWithoutSegmentData)
     };
     EXPECT_EQ(convert(4, 0), (List{{7, 2, 3}, {1, 8, 16}}));
     EXPECT_EQ(convert(4, 1).amounts, (Values{1.0 / 25, 8.0 / 25, 16.0 / 25}));
+    EXPECT_EQ(convert(1, 0), (List{{7}, {1}}));
     EXPECT_EQ(convert(0, 1), List{});
     PolymerLists lists;
     lists.segments = {{2}, {3}};

@@ -153,17 +153,17 @@ TEST(SetUps, GiveTrueFractionsWithOnePolymerByWeight)
 {
     const Int j = 2, n = 4;
     const double weight = 200, mw[] = {10, 100, 7};
-    const Ints list{1, 2, 3, 2};
+    const Ints list{2, 1, 3, 2};
     const std::pair<Values, Values> cases[] = {
-        {{0.5, 0.25, 0, 0.25}, {0.5 / 0.75, 0.125 / 0.75, 0, 0.125 / 0.75}},
-        {{0, 0.5, 0.75, 0}, {0, 0.25, 0.75, 0}},  // a weightless entry keeps its fraction
+        {{0.25, 0.5, 0, 0.25}, {0.125 / 0.75, 0.5 / 0.75, 0, 0.125 / 0.75}},
+        {{0.5, 0, 0.75, 0}, {0.25, 0, 0.75, 0}},  // a weightless entry keeps its fraction
         {{0, 0, 0, 0}, {0, 0, 0, 0}},
     };
     for (const auto& [x, expected] : cases) {
-        Values xt(4, kept), mwn{10, -1, 0, -1};
+        Values xt(4, kept), mwn{-1, 10, 0, -1};
         POLY_GETPMIX1(&j, &weight, &n, list.data(), x.data(), xt.data(), mwn.data(), nullptr, mw);
         EXPECT_EQ(xt, expected);
-        EXPECT_EQ(mwn, (Values{10, 200, 0, 200}));
+        EXPECT_EQ(mwn, (Values{200, 10, 0, 200}));
     }
 }
 
