@@ -15,13 +15,13 @@ using Reals = std::vector<double>;
 constexpr double bound = 1e35;
 constexpr double not_a_number = std::numeric_limits<double>::quiet_NaN();
 
-// K carries CPSFLOW with two site types, P a single DPN; W carries nothing.
+// K carries CPSFLOW with two site types, P a single ZMOM and two SZMOM; W carries nothing.
 class ScalingWorld {
 public:
     ScalingWorld()
     {
         world.check({PolymerSentence{{"P"}}, SegmentSentence{{{"A", 2}}}, SiteSentence{2},
-                     AttributeSentence{{{"P", {"ZMOM", "DPN", "SFLOW"}}, {"K", {"CVSFLOW", "CPSFLOW"}}}}});
+                     AttributeSentence{{{"P", {"ZMOM", "SFLOW", "SZMOM"}}, {"K", {"CVSFLOW", "CPSFLOW"}}}}});
         world.host.messages().clear();
         world.host.lay_attribute_blocks();
     }
@@ -61,17 +61,22 @@ TEST(CatalystScaling, WritesTheSecondValueIntoColumnOneAndTheFirstIntoColumnThre
         {"just below", below, below, below, below},
         {"not a number", not_a_number, not_a_number, 0, 0},
     };
+    constexpr std::pair<const char*, const char*> scaled[] = {
+        {"K", "CPSFLOW"}, {"P", "ZMOM"}, {"P", "SZMOM"}};
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
         ScalingWorld world;
-        EXPECT_EQ(world.scale({{"K", "CPSFLOW", c.first, c.second}, {"P", "DPN", c.first, c.second}}), -1);
-        EXPECT_EQ(world.column("K", "CPSFLOW", 1), (Reals{c.column_1, c.column_1}));
-        EXPECT_EQ(world.column("K", "CPSFLOW", 3), (Reals{c.column_3, c.column_3}));
-        EXPECT_EQ(world.column("P", "DPN", 1), (Reals{c.column_1}));
-        EXPECT_EQ(world.column("P", "DPN", 3), (Reals{c.column_3}));
+        std::vector<ScalingEntry> entries;
+        for (const auto& [id, attribute] : scaled) entries.push_back({id, attribute, c.first, c.second});
+        EXPECT_EQ(world.scale(entries), -1);
+        for (const auto& [id, attribute] : scaled) {
+            const std::size_t elements = std::string_view{attribute} == "ZMOM" ? 1 : 2;
+            EXPECT_EQ(world.column(id, attribute, 1), Reals(elements, c.column_1));
+            EXPECT_EQ(world.column(id, attribute, 2), Reals(elements, 0));
+            EXPECT_EQ(world.column(id, attribute, 3), Reals(elements, c.column_3));
+        }
         EXPECT_TRUE(world.world.host.messages().printed().empty());
         for (const Int column : {1, 2, 3}) EXPECT_EQ(world.column("K", "CVSFLOW", column), (Reals{0, 0}));
-        EXPECT_EQ(world.column("K", "CPSFLOW", 2), (Reals{0, 0}));
     }
 }
 
@@ -86,9 +91,11 @@ TEST(CatalystScaling, ReportsAnAttributeThatIsNotUsedAndAppliesTheRest)
     EXPECT_EQ(log.printed()[0].routine, "CATSCALE");
     EXPECT_EQ(log.printed()[0].severity, 1);
     EXPECT_EQ(log.printed()[0].number, 1);
+    using Lines = std::vector<std::string>;
+    EXPECT_EQ(log.printed()[0].lines,
+              Lines{"      Component \"K       \" does not use attribute \"DPN     \".  Sentence ignored."});
     EXPECT_EQ(log.printed()[1].lines,
-              (std::vector<std::string>{
-                  "      Component \"W       \" does not use attribute \"CPSFLOW \".  Sentence ignored."}));
+              Lines{"      Component \"W       \" does not use attribute \"CPSFLOW \".  Sentence ignored."});
     EXPECT_EQ(world.column("K", "CPSFLOW", 1), (Reals{7, 7})) << "the later entry stands";
 
     for (const Int answer : {0, 2}) {

@@ -71,8 +71,8 @@ TEST(RepeatedParagraph, GrowsAndShrinksItsBlocks)
 TEST(RepeatedParagraph, KeepsOligomersOnlyWhileTheirTableFitsTheSegments)
 {
     CheckedParagraph world;
-    world.check(paragraph({"P"}, {"A", "B"}, {{"O", "B", 2}}, 0));
-    world.check(paragraph({"P"}, {"A", "B"}, {}, 0));
+    world.check(paragraph({"P"}, {"B", "C"}, {{"O", "B", 2}}, 0));
+    world.check(paragraph({"P"}, {"B", "C"}, {}, 0));
     EXPECT_EQ(world.list(word::oligomers), "O");
     world.check(paragraph({"P"}, {"A", "B", "C"}, {}, 0));
     EXPECT_EQ(world.list(word::oligomers), "");
