@@ -129,11 +129,11 @@ TEST(InstantaneousDistribution, FirstIncrementIsShareOfEachSiteAndItsRepetitionC
     world.host();
     const TrapFloatingPoint trap;
     Running running;
-    running.beta = {0, 0.5};
+    running.beta = {0, 1.5};
     running.add({3, 1});
-    // s = 0.25 and 1; the second site couples chains: 0.5·x·0.5·1 + 0.5 is 1 and 1.5.
+    // s = 0.25 and 2; the second site couples chains: 0.5·x·1.5·2 + 0.5 is 3.5 and 6.5.
     const Reals expected{std::exp(-0.5) * 2 * 0.25 * 0.25 * 3 / 4, std::exp(-1.0) * 4 * 0.25 * 0.25 * 3 / 4,
-                         std::exp(-2.0) * 2 / 4, std::exp(-4.0) * 4 * 1.5 / 4};
+                         std::exp(-4.0) * 2 * 2 * 3.5 / 4, std::exp(-8.0) * 4 * 2 * 6.5 / 4};
     EXPECT_EQ(running.columns, expected);
     EXPECT_EQ(running.composite, (Reals{expected[0] + expected[2], expected[1] + expected[3]}));
     EXPECT_EQ(running.weights, (Reals{3, 1, 4}));
@@ -141,7 +141,7 @@ TEST(InstantaneousDistribution, FirstIncrementIsShareOfEachSiteAndItsRepetitionC
     const Running once = running;
     for (const Int odd : {-1, 1, 3}) {
         Running gpc;
-        gpc.beta = {0, 0.5};
+        gpc.beta = running.beta;
         gpc.add({3, 1}, odd);
         for (std::size_t e = 0; e < 4; ++e) EXPECT_DOUBLE_EQ(gpc.columns[e], once.columns[e] * once.x[e % 2]);
     }

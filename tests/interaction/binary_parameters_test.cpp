@@ -78,16 +78,18 @@ double one_pair(Routine* routine, double t, Int k, const Reals& block)
 
 TEST(BinaryParameter, ModeSaysWhichResultsAreFormed)
 {
-    const Reals p{1, 2, 0, 4, 8};
-    const double slope = 35.5 / 300;  // 4 − 2/4 + 2·8·2 over the reference temperature
+    const Reals p{1, 2, 6, 4, 8};
+    const double value = 42 + std::log(2.0) * 6;
+    const double slope = 38.5 / 300;  // 4 − 2/4 + 6/2 + 2·8·2 over the reference temperature
     const struct {
         Int mode;
         Reals expected;
-    } cases[] = {{-1, {0, 0}}, {0, {0, 0}}, {1, {42, 0}}, {2, {0, slope}}, {3, {42, slope}}, {4, {0, slope}}};
+    } cases[] = {{-1, {0, 0}},    {0, {0, 0}},         {1, {value, 0}},
+                 {2, {0, slope}}, {3, {value, slope}}, {4, {0, slope}}};
     const TrapFloatingPoint trap;
     for (const auto& c : cases) EXPECT_EQ(single_pair(600, p, 300, c.mode), c.expected) << "mode " << c.mode;
     EXPECT_EQ(single_pair(300, p, 0, 0), (Reals{0, 0})) << "nothing asked, nothing divided";
-    EXPECT_EQ(single_pair(300, p, -300, 2)[1], (4 - 2 - 16) / -300.0) << "no logarithm in a derivative";
+    EXPECT_EQ(single_pair(300, p, -300, 2)[1], (4 - 2 - 6 - 16) / -300.0) << "no logarithm in a derivative";
 }
 
 // Terms so large that the smaller ones survive only in the right order of summation.
