@@ -36,54 +36,32 @@ const Values nothing(7, 0.0);
 
 TEST(PolymerResults, AverageWhatTheSecondStreamHoldsBeyondTheFirst)
 {
-    const Attributes whole{{"ZMOM", 1}, {"SMOM", 400}, {"SFLOW", {4, 6}}};
+    constexpr double tiny = zero_bound;
+    const Attribute chains{"ZMOM", 1}, few_segments{"SFLOW", {tiny / 2, 0}};
+    const Attributes whole{chains, {"SMOM", 400}, {"SFLOW", {4, 6}}};
     struct Case {
         const char* name;
         double earlier, later;  // flow of the polymer
         Attributes attributes;
-        Int type;
         Values expected;
     };
-    constexpr double tiny = zero_bound;
     const Case cases[] = {
-        {"all new", 0, 10, whole, 1, {1000, 100, 1000, 4000, 10, 40, 4}},
-        {"nothing new", 10, 10, {}, 1, nothing},
-        {"skipped substream", 0, 10, whole, 3, nothing},
-        {"mass at the zero bound", 0, tiny / 128, whole, 1, {tiny, tiny / 10, tiny, tiny * 4, 10, 40, 4}},
-        {"mass below the zero bound", 0, tiny / 256, whole, 1, nothing},
-        {"chains at the zero bound",
-         0,
-         10,
-         {{"ZMOM", tiny}, {"SFLOW", {4, 6}}},
-         1,
-         {1000, 100, 0, 0, 0, 0, 0}},
-        {"segments below it",
-         0,
-         10,
-         {{"ZMOM", 1}, {"SFLOW", {tiny / 2, 0}}},
-         1,
-         {1000, 2000 / tiny, 1000, 0, tiny / 2, 0, 0}},
-        {"no segments", 0, 10, {{"ZMOM", 1}, {"SMOM", 400}}, 1, {1000, 0, 1000, 0, 0, 0, 0}},
+        {"all new", 0, 10, whole, {1000, 100, 1000, 4000, 10, 40, 4}},
+        {"nothing new", 10, 10, whole, nothing},
+        {"mass at the zero bound", 0, tiny / 128, whole, {tiny, tiny / 10, tiny, tiny * 4, 10, 40, 4}},
+        {"mass below the zero bound", 0, tiny / 256, whole, nothing},
+        {"chains at it", 0, 10, {{"ZMOM", tiny}, {"SFLOW", {4, 6}}}, {1000, 100, 0, 0, 0, 0, 0}},
+        {"segments below it", 0, 10, {chains, few_segments}, {1000, 2000 / tiny, 1000, 0, tiny / 2, 0, 0}},
+        {"no segments", 0, 10, {chains, {"SMOM", 400}}, {1000, 0, 1000, 0, 0, 0, 0}},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
-        const double weight = c.later < 1 ? 128 : 100;
-        auto world = World{}.segments({{"A", 100}, {"B", 50}}).polymer("P", {}, weight);
-        world.stream("1", {{.type = c.type, .flows = {{"P", c.earlier}}, .attributes = {{"P", whole}}}});
-        const auto& later = c.attributes.empty() ? whole : c.attributes;
-        world.stream("2", {{.type = c.type, .flows = {{"P", c.later}}, .attributes = {{"P", later}}}});
+        auto world = World{}.segments({"A", "B"}).polymer("P", {}, c.later < 1 ? 128 : 100);
+        world.stream("1", {{.flows = {{"P", c.earlier}}, .attributes = {{"P", whole}}}});
+        world.stream("2", {{.flows = {{"P", c.later}}, .attributes = {{"P", c.attributes}}}});
         const Values found = results(world, "1", "2", 1, 1);
         for (std::size_t k = 0; k < found.size(); ++k) EXPECT_DOUBLE_EQ(found[k], c.expected[k]) << k;
     }
-}
-
-TEST(PolymerResults, OfOneEntryAreThoseOfWholePolymersEvenBesideSites)
-{
-    auto world = World{}.segments({{"A", 100}}).sites(1).polymer("P", {}, 100).stream("1", {{}});
-    world.stream("2", {{.flows = {{"P", 8}},
-                        .attributes = {{"P", {{"ZMOM", 2}, {"SFLOW", 8}, {"SZMOM", 5}, {"SSFLOW", 9}}}}}});
-    EXPECT_EQ(results(world, "1", "2", 1, 1)[4], 4);
-    EXPECT_EQ(moments(world, "2", 1)[1](1), 8);
 }
 
 TEST(PolymerResults, AreZeroWithoutPolymersWhereMomentsStayUntouched)
@@ -98,7 +76,8 @@ TEST(PolymerResults, AreZeroWithoutPolymersWhereMomentsStayUntouched)
 
 TEST(Moments, OfSitesAddUpAndEachAttributeIsAskedForOnce)
 {
-    const Attributes p{{"SZMOM", {1, 2}}, {"SSMOM", {10, 40}}, {"SSFLOW", {1, 2, 3, 4}}};
+    const Attributes p{
+        {"SZMOM", {1, 2}}, {"SSMOM", {10, 40}}, {"SSFLOW", {1, 2, 3, 4}}, {"ZMOM", 4}, {"SFLOW", {7, 1}}};
     const Attributes q{{"SZMOM", {4, 8}}, {"SSMOM", {20, 80}}, {"SSFLOW", {5, 6, 7, 8}}};
     auto world =
         World{}.segments({{"A", 10}, {"B", 1}}).sites(2).polymer("P", {}, 100).polymer("Q", {}, 1000);
@@ -115,6 +94,10 @@ TEST(Moments, OfSitesAddUpAndEachAttributeIsAskedForOnce)
     EXPECT_EQ(results(world, "EMPTY", "FULL", 3, 2)[2], 146.0 / 12);
     EXPECT_EQ(log.count("CC_FIND_ATTR"), 6);
     EXPECT_TRUE(log.repeated("CC_FIND_ATTR").empty() && log.repeated("ST_FIND_I").empty());
+
+    // One entry is of whole polymers.
+    EXPECT_EQ(moments(world, "FULL", 1)[1](1), 16);
+    EXPECT_EQ(results(world, "EMPTY", "FULL", 1, 1)[4], 2);
 }
 
 TEST(Moments, KnowNoLimitOfSitesOrPolymers)

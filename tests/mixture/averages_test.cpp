@@ -2,14 +2,13 @@
 #include <cmath>
 
 #include "polyprops/polyprops.h"
+#include "support/arguments.h"
 #include "support/asked_once.h"
 #include "support/world.h"
 
 using namespace support;
 
 namespace {
-
-using Values = std::vector<double>;
 
 // Of five components 4 and 2 are segments, in this order.
 constexpr Int ld = 5, segments[] = {4, 2}, flags[] = {1, 0, 2, 0, 0}, row = 1;
@@ -36,7 +35,6 @@ TEST(SegmentAverages, ByNumberAndByMass)
         double total, number, listed, mass, own_or_mass;
     } cases[] = {
         {"both segments", 3, 1, 0, 2, 50, 12.5, 12.5, 4000.0 / 350, 4000.0 / 350},
-        {"own value given", 3, 1, 5, 2, 50, 12.5, 12.5, 4000.0 / 350, 5},
         {"own value at the zero bound", 3, 0, zero_bound, 2, 30, 10, 10, 10, 10},
         {"own value above it", 3, 0, above, 2, 30, 10, 10, 10, above},
         {"own value missing", 3, 0, missing, 2, 30, 10, 10, 10, 10},
@@ -78,50 +76,36 @@ World homopolymer(const Attributes& attributes)
     return world.parameter("P", Parameter::pdi, 0.5).parameter("W", Parameter::pdi, 1.5);
 }
 
-TEST(Polydispersity, OfAMixtureIsNeverBelowOneWhereMomentsGiveIt)
+TEST(Polydispersity, OfAMixtureIsAtLeastOneFromMomentsAndScalesChainWeights)
 {
-    const Attribute z{"ZMOM", 1}, flow{"SFLOW", 100};
+    const Attribute z{"ZMOM", 1}, flow{"SFLOW", 100}, second{"SMOM", 20000};
     const struct {
         const char* name;
-        Attributes attributes;
+        World world;
         double expected;
     } cases[] = {
-        {"from moments", {z, flow, {"SMOM", 20000}}, 2},
-        {"raised to 1", {z, flow, {"SMOM", 5000}}, 1},
-        {"second moment missing", {z, flow, {"SMOM", missing}}, 1},
-        {"second moment at the zero bound", {{"ZMOM", 1e30}, flow, {"SMOM", zero_bound}}, 1},
-        {"no second moment", {z, flow}, 0.5},
-        {"chains not carried", {flow, {"SMOM", 20000}}, 0.5},
-        {"chains at the zero bound", {{"ZMOM", zero_bound}, flow, {"SMOM", 1e30}}, 0.5},
-        {"chains missing", {{"ZMOM", missing}, flow, {"SMOM", 20000}}, 0.5},
-        {"flows below the zero bound", {z, {"SFLOW", zero_bound / 2}, {"SMOM", 1}}, 0.5},
-        {"flows not carried", {z, {"SMOM", 1}}, 0.5},
+        {"from moments", homopolymer({z, flow, second}), 2},
+        {"raised to 1", homopolymer({z, flow, {"SMOM", 5000}}), 1},
+        {"second moment missing", homopolymer({z, flow, {"SMOM", missing}}), 1},
+        {"second moment at the zero bound", homopolymer({{"ZMOM", 1e30}, flow, {"SMOM", zero_bound}}), 1},
+        {"no second moment", homopolymer({z, flow}), 0.5},
+        {"PDI mode of the parameters", homopolymer({z, flow, second}).pdi_mode(100), 0.5},
+        {"no polymer block", homopolymer({z, flow, second}).without_polymer_block(), 0.5},
+        // A zero bound of 0 lets flows of 0 pass; they are not divided by.
+        {"zero bound of 0", homopolymer({z, {"SFLOW", 0.0}, second}).bounds(missing, 0), 0.5},
     };
-    for (const auto& c : cases) {
+    for (auto c : cases) {
         SCOPED_TRACE(c.name);
-        EXPECT_EQ(homopolymer(c.attributes).ask(POLY_GETPOLI, {"W", "P"}), (Values{1.5, c.expected}));
-        EXPECT_EQ(homopolymer(c.attributes).pdi_mode(100).ask(POLY_GETPOLI, "P"), 0.5);
+        EXPECT_EQ(c.world.ask(POLY_GETPOLI, {"W", "P"}), (Values{1.5, c.expected}));
+        // Each of 60 segments has a weight of 1.
+        const AskedOnce once;
+        const Ints list{4, 3}, segment{2}, polymer_flags{0, 0, 1, 0};
+        const Values mw = c.world.molecular_weights(), scm(16, 60.0);
+        Values weight_averages(2);
+        call(POLY_GETWWP, 2, list, 4, mw, 1, segment, polymer_flags, scm, weight_averages);
+        EXPECT_EQ(weight_averages, (Values{27, 60 * c.expected}));
     }
-    const Attributes at_zero_bound{z, {"SFLOW", zero_bound}, {"SMOM", 20000}};
-    EXPECT_GT(homopolymer(at_zero_bound).ask(POLY_GETPOLI, "P"), 1);
-    EXPECT_EQ(homopolymer(at_zero_bound).without_polymer_block().ask(POLY_GETPOLI, "P"), 0.5);
-    // A zero bound of 0 lets flows of 0 pass; they are not divided by.
-    EXPECT_EQ(homopolymer({z, {"SFLOW", 0.0}, {"SMOM", 1}}).bounds(missing, 0).ask(POLY_GETPOLI, "P"), 0.5);
     EXPECT_EQ(homopolymer({}).without(Parameter::pdi).ask(POLY_GETPOLI, {"P", "W"}), (Values{1, 1}));
-}
-
-TEST(Polydispersity, TimesChainWeightIsTheWeightAverage)
-{
-    auto world = homopolymer({{"ZMOM", 1}, {"SFLOW", 100}, {"SMOM", 20000}});
-    world.host();
-    const auto list = world.indices({"W", "P"});
-    const auto mw = world.molecular_weights();
-    const Int nc = 4, one = 1, n = 2, segment = 2, polymer_flags[] = {0, 0, 1, 0};
-    const Values scm(16, 60.0);
-    Values out(2);
-    const AskedOnce once;
-    POLY_GETWWP(&n, list.data(), &nc, mw.data(), &one, &segment, polymer_flags, scm.data(), out.data());
-    EXPECT_EQ(out, (Values{27, 120}));
 }
 
 }  // namespace

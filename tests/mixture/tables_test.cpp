@@ -1,5 +1,6 @@
 // Tables of a component list and the set-ups for special cases.
 #include "polyprops/polyprops.h"
+#include "support/arguments.h"
 #include "support/asked_once.h"
 #include "support/world.h"
 
@@ -7,16 +8,14 @@ using namespace support;
 
 namespace {
 
-using Values = std::vector<double>;
-using Ints = std::vector<Int>;
 using Ids = std::vector<std::string>;
 
 constexpr Int nc = 7, kept = -5;
 
 // Components 1 UNNAMED, 2 A, 3 W, 4 B, 5 P, 6 O, 7 U: segments apart, an oligomer U without a make-up.
-World stream(double solvent_weight = 18)
+World stream()
 {
-    auto world = World{}.segments({{"A", 100}}).conventional("W", solvent_weight).segments({{"B", 50}});
+    auto world = World{}.segments({{"A", 100}}).conventional("W", 18).segments({{"B", 50}});
     return world.polymer("P", {{"ZMOM", 2}, {"FMOM", 8}, {"SFLOW", {6, 2}}}, 700)
         .oligomer("O", {{"A", 2}, {"B", 3}}, 175)
         .component("U", ComponentClass::oligomer, 30);
@@ -43,24 +42,20 @@ Tables tables(World world, const Ids& ids, const Values& x)
 {
     world.host();
     const auto list = world.indices(ids);
-    const auto weights = world.molecular_weights();
     const Int n = std::ssize(list);
     Values w1(nc), w2(nc);
     Tables a, b, c;
     {
         const AskedOnce once;
-        POLY_GETPOL1(&n, x.data(), list.data(), a.dpn.data(), a.mwn.data(), a.xt.data(), a.mrf.data(),
-                     w1.data(), w2.data(), &nc, weights.data(), a.flags.data(), a.mole.data(), a.mass.data(),
-                     &a.nseg, a.iseg.data());
+        call(POLY_GETPOL1, n, x, list, a.dpn, a.mwn, a.xt, a.mrf, w1, w2, nc, world.molecular_weights(),
+             a.flags, a.mole, a.mass, a.nseg, a.iseg);
     }
-    POLY_GETPOL2(&n, list.data(), b.dpn.data(), b.mwn.data(), b.mrf.data(), w1.data(), w2.data(), &nc,
-                 b.flags.data(), b.mole.data(), b.mass.data(), &b.nseg, b.iseg.data());
+    call(POLY_GETPOL2, n, list, b.dpn, b.mwn, b.mrf, w1, w2, nc, b.flags, b.mole, b.mass, b.nseg, b.iseg);
     b.xt = a.xt;
     EXPECT_EQ(a, b);
     const AskedOnce once;
-    POLY_GETPOL3(&n, list.data(), &nc, w1.data(), &c.nseg, c.iseg.data(), c.flags.data(), c.counts.data());
+    call(POLY_GETPOL3, n, list, nc, w1, c.nseg, c.iseg, c.flags, a.counts);
     EXPECT_EQ(std::tie(c.flags, c.iseg, c.nseg), std::tie(a.flags, a.iseg, a.nseg));
-    a.counts = c.counts;
     return a;
 }
 
@@ -78,12 +73,9 @@ TEST(Tables, HoldAveragesFractionsAndCounts)
     EXPECT_EQ(t.counts, square({{{5, 2}, 3}, {{5, 4}, 1}, {{3, 1}, 1}, {{6, 2}, 2}, {{6, 4}, 3}}));
 }
 
-TEST(Tables, KeepFractionsThatNothingScales)
+TEST(Tables, OfAnEmptyListHoldSegmentsOnly)
 {
-    const auto weightless = stream(0);
-    EXPECT_EQ(tables(weightless, {"P", "W"}, {0.5, 0.25}).xt, (Values{0.8, 0.2, 0, 0, 0, 0, 0}));
-    EXPECT_EQ(tables(weightless, {"P", "W"}, {0, 0}).xt, Values(nc, 0.0));
-    const auto empty = tables(weightless, {}, {});
+    const auto empty = tables(stream(), {}, {});
     EXPECT_EQ(empty.xt, Values(nc, 0.0));
     EXPECT_EQ(empty.counts, square({}));
     EXPECT_EQ(empty.iseg, (Ints{2, 4, 0, 0, 0, 0, 0}));
@@ -103,47 +95,36 @@ TEST(Tables, OfAHostWithoutPolymerData)
 TEST(SetUps, ScaleOnePolymerToItsWeight)
 {
     const auto world = stream(), no_block = stream().without_polymer_block();
-    const double weight = 7000;
-    const Values mw = world.molecular_weights(), weightless(nc, 0.0);
-    const Values scaled = square({{{3, 1}, 1}, {{6, 1}, 1}, {{5, 2}, 60}, {{5, 4}, 20}});
+    const Values mw = world.molecular_weights(), weightless(nc, 0.0), zero = square({});
+    const Values alone = square({{{5, 2}, 60}, {{5, 4}, 20}});
+    const Values among = square({{{3, 1}, 1}, {{6, 1}, 1}, {{5, 2}, 60}, {{5, 4}, 20}});
     const struct {
         const char* name;
         World run;
         Int polymer;
         const Values& mw;
-        Ints list;
-        std::map<Int, Int> flags;  // by component; others are kept
+        Ints list, flags;  // flags of the listed components; others are kept
         Values scm;
         Ints segments;
         Values numbers;
         Int nseg;
     } cases[] = {
-        {"listed", world, 5, mw, {3, 5, 6}, {{3, 0}, {5, 1}, {6, 0}}, scaled, {2, 4}, {3, 1}, 2},
-        {"listed first",
-         world,
-         5,
-         mw,
-         {5},
-         {{5, 1}},
-         square({{{5, 2}, 60}, {{5, 4}, 20}}),
-         {2, 4},
-         {3, 1},
-         2},
-        {"not listed", world, 5, mw, {3}, {{3, 0}}, square({{{3, 1}, 1}}), {2, 4}, {3, 1}, 2},
-        {"weightless", world, 5, weightless, {5}, {{5, 1}}, square({}), {2, 4}, {3, 1}, 2},
-        {"no segments", world, 7, mw, {7}, {{7, 1}}, square({}), {0, 0}, {kept, kept}, 0},
-        {"no polymer block", no_block, 5, mw, {5}, {{5, 1}}, square({}), {kept, kept}, {kept, kept}, 0},
+        {"listed", world, 5, mw, {3, 5, 6}, {0, 1, 0}, among, {2, 4}, {3, 1}, 2},
+        {"listed first", world, 5, mw, {5}, {1}, alone, {2, 4}, {3, 1}, 2},
+        {"not listed", world, 5, mw, {3}, {0}, square({{{3, 1}, 1}}), {2, 4}, {3, 1}, 2},
+        {"weightless", world, 5, weightless, {5}, {1}, zero, {2, 4}, {3, 1}, 2},
+        {"no segments", world, 7, mw, {7}, {1}, zero, {0, 0}, {kept, kept}, 0},
+        {"no polymer block", no_block, 5, mw, {5}, {1}, zero, {kept, kept}, {kept, kept}, 0},
     };
     for (auto c : cases) {
         SCOPED_TRACE(c.name);
         c.run.host();
         Values scm(nc * nc, kept), numbers(2, kept);
         Ints flags(nc, kept), iseg(2, kept), expected_flags = flags;
-        for (const auto& [component, flag] : c.flags) expected_flags[component - 1] = flag;
+        for (std::size_t i = 0; i < c.list.size(); ++i) expected_flags[c.list[i] - 1] = c.flags[i];
         Int nseg = kept;
-        const Int n = std::ssize(c.list);
-        POLY_GETPMIX(&c.polymer, &weight, &n, c.list.data(), &nc, c.mw.data(), flags.data(), scm.data(),
-                     &nseg, iseg.data(), numbers.data());
+        call(POLY_GETPMIX, c.polymer, 7000.0, std::ssize(c.list), c.list, nc, c.mw, flags, scm, nseg, iseg,
+             numbers);
         EXPECT_EQ(std::tie(flags, iseg, scm, numbers, nseg),
                   std::tie(expected_flags, c.segments, c.scm, c.numbers, c.nseg));
     }
@@ -151,9 +132,6 @@ TEST(SetUps, ScaleOnePolymerToItsWeight)
 
 TEST(SetUps, GiveTrueFractionsWithOnePolymerByWeight)
 {
-    const Int j = 2, n = 4;
-    const double weight = 200, mw[] = {10, 100, 7};
-    const Ints list{2, 1, 3, 2};
     const std::pair<Values, Values> cases[] = {
         {{0.25, 0.5, 0, 0.25}, {0.125 / 0.75, 0.5 / 0.75, 0, 0.125 / 0.75}},
         {{0.5, 0, 0.75, 0}, {0.25, 0, 0.75, 0}},  // a weightless entry keeps its fraction
@@ -161,7 +139,7 @@ TEST(SetUps, GiveTrueFractionsWithOnePolymerByWeight)
     };
     for (const auto& [x, expected] : cases) {
         Values xt(4, kept), mwn{-1, 10, 0, -1};
-        POLY_GETPMIX1(&j, &weight, &n, list.data(), x.data(), xt.data(), mwn.data(), nullptr, mw);
+        call(POLY_GETPMIX1, 2, 200.0, 4, Ints{2, 1, 3, 2}, x, xt, mwn, nullptr, Values{10, 100, 7});
         EXPECT_EQ(xt, expected);
         EXPECT_EQ(mwn, (Values{200, 10, 0, 200}));
     }
@@ -170,25 +148,26 @@ TEST(SetUps, GiveTrueFractionsWithOnePolymerByWeight)
 TEST(SetUps, BreakOnlyOligomersIntoSegments)
 {
     const Values a = square({{{5, 2}, 60}, {{6, 2}, -3}, {{6, 4}, 0.25}, {{7, 2}, 9}, {{6, 1}, 8}});
+    const Values a_of_o = square({{{6, 2}, 2}});
+    const auto run = stream();
     const struct {
         World world;
         Ids listed;
-        Values b;
+        Values a, b;
         Ints flags, segments;
         Int nseg;
     } cases[] = {
-        {stream(), {"P", "O", "U"}, square({{{5, 1}, 1}, {{6, 4}, 0.25}}), {0, 0, 0, 0, 0, 1, 1}, {2, 4}, 2},
-        {stream(), {"P", "W"}, square({{{5, 1}, 1}, {{3, 1}, 1}}), Ints(nc, 0), {kept, kept}, 2},
-        {stream().without_polymer_block(), {"P", "O"}, square({}), Ints(nc, 0), {kept, kept}, 0},
+        {run, {"P", "O", "U"}, a, square({{{5, 1}, 1}, {{6, 4}, 0.25}}), {0, 0, 0, 0, 0, 1, 1}, {2, 4}, 2},
+        {run, {"O"}, a_of_o, a_of_o, {0, 0, 0, 0, 0, 1, 0}, {2, 4}, 2},
+        {run, {"P", "W"}, a, square({{{5, 1}, 1}, {{3, 1}, 1}}), Ints(nc, 0), {kept, kept}, 2},
+        {stream().without_polymer_block(), {"P", "O"}, a, square({}), Ints(nc, 0), {kept, kept}, 0},
     };
     for (auto c : cases) {
         c.world.host();
-        const auto list = c.world.indices(c.listed);
-        const Int n = std::ssize(list);
         Int nseg = kept;
         Ints iseg(2, kept), flags(nc, kept);
         Values b(nc * nc, kept);
-        POLY_GETOLI(&n, list.data(), &nc, a.data(), &nseg, iseg.data(), b.data(), flags.data());
+        call(POLY_GETOLI, std::ssize(c.listed), c.world.indices(c.listed), nc, c.a, nseg, iseg, b, flags);
         EXPECT_EQ(std::tie(b, flags, iseg, nseg), std::tie(c.b, c.flags, c.segments, c.nseg));
     }
 }

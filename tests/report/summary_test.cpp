@@ -3,19 +3,17 @@
 #include <polyprops/host.h>
 #include <polyprops/polyprops.h>
 
+#include "support/arguments.h"
 #include "support/stored.h"
 #include "support/world.h"
 
 namespace {
 
-using support::World;
-using Int = std::int64_t;
-using Reals = std::vector<double>;
+using namespace support;
 
-void plot(World& world, const Reals& x, const Reals& y, Int sections, Int scale_switch)
+void plot(World& world, const Values& x, const Values& y, Int sections, Int scale_switch)
 {
-    const auto n = static_cast<Int>(x.size());
-    const Int gpc = 0;
+    const Int n = std::ssize(x), gpc = 0;
     const double scale = 100;
     POLY_CSDPLOT(world.host().summary().context("R101"), nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
                  nullptr, nullptr, nullptr, &n, x.data(), y.data(), &sections, &scale, &scale_switch, &gpc);
@@ -23,13 +21,13 @@ void plot(World& world, const Reals& x, const Reals& y, Int sections, Int scale_
 
 void write_site_results(World& world, Int sites)
 {
-    const Reals r[] = {{11, 12}, {21, 22}, {31, 32}, {41, 42}, {51, 52}, {61, 62}, {71, 72}};
-    POLY_WRTPOLSUM(world.host().summary().context("PRODUCT"), &sites, r[0].data(), r[1].data(), r[2].data(),
-                   r[3].data(), r[4].data(), r[5].data(), r[6].data());
+    const double r[][2] = {{11, 12}, {21, 22}, {31, 32}, {41, 42}, {51, 52}, {61, 62}, {71, 72}};
+    POLY_WRTPOLSUM(world.host().summary().context("PRODUCT"), &sites, r[0], r[1], r[2], r[3], r[4], r[5],
+                   r[6]);
 }
 
 // Words 2 to 4: current block, next data set, next block.
-std::vector<Int> counters()
+Ints counters()
 {
     return {ST_SUMGLOBAL[1], ST_SUMGLOBAL[2], ST_SUMGLOBAL[3]};
 }
@@ -43,8 +41,8 @@ TEST(DistributionSummary, TiesEveryBlockToItsAxesAndGoesOnNumbering)
     plot(world, {2, 4}, {0.25, 0.5, 1, 2, 3, 4}, 2, 1);
     plot(world, {3}, {1}, 0, 2);  // lengths are scaled by a switch of 1 alone
     plot(world, {}, {}, 0, 0);
-    EXPECT_EQ(summary.text(), support::stored(__FILE__, "distribution_tokens.txt"));
-    EXPECT_EQ(counters(), (std::vector<Int>{38, 22, 39}));
+    EXPECT_EQ(summary.text(), stored(__FILE__, "distribution_tokens.txt"));
+    EXPECT_EQ(counters(), (Ints{38, 22, 39}));
 }
 
 TEST(SiteSummary, WritesSeparatorsAfterTheFirstResultOnly)
@@ -53,8 +51,8 @@ TEST(SiteSummary, WritesSeparatorsAfterTheFirstResultOnly)
     auto& summary = world.host().summary();
     ST_SUMGLOBAL[3] = 5;
     for (const Int sites : {2, 0, -1}) write_site_results(world, sites);
-    EXPECT_EQ(summary.text(), support::stored(__FILE__, "site_tokens.txt"));
-    EXPECT_EQ(counters(), (std::vector<Int>{7, 1, 8}));
+    EXPECT_EQ(summary.text(), stored(__FILE__, "site_tokens.txt"));
+    EXPECT_EQ(counters(), (Ints{7, 1, 8}));
 }
 
 TEST(Summary, IsWrittenWhenTheRunWantsIt)
