@@ -61,6 +61,7 @@ TEST(PolymerResults, AverageWhatTheSecondStreamHoldsBeyondTheFirst)
         world.stream("2", {{.flows = {{"P", c.later}}, .attributes = {{"P", c.attributes}}}});
         const Values found = results(world, "1", "2", 1, 1);
         for (std::size_t k = 0; k < found.size(); ++k) EXPECT_DOUBLE_EQ(found[k], c.expected[k]) << k;
+        EXPECT_EQ(moments(world, "2", 1)[3](1) - moments(world, "1", 1)[3](1), found[0]);
     }
 }
 

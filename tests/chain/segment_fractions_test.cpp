@@ -67,8 +67,7 @@ TEST(SegmentFractions, LeaveTheOutputUntouchedWhereThereIsNothingToSay)
 {
     EXPECT_EQ(fractions(copolymer({{"SFLOW", {1, 3}}}), "W"), untouched);
     EXPECT_EQ(fractions(copolymer({{"SFLOW", {1, 3}}}).without_polymer_block(), "P"), untouched);
-    EXPECT_EQ(fractions(World{}.segments({"A", "B"}).component("P", ComponentClass::polymer), "P"),
-              untouched);
+    EXPECT_EQ(fractions(World{}.segments({"A"}).component("P", ComponentClass::polymer), "P"), untouched);
     EXPECT_EQ(fractions(World{}.polymer("P"), "P"), untouched) << "no segments";
 }
 

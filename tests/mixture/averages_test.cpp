@@ -14,15 +14,6 @@ namespace {
 constexpr Int ld = 5, segments[] = {4, 2}, flags[] = {1, 0, 2, 0, 0}, row = 1;
 constexpr double weights[] = {1, 50, 1, 100, 1};
 
-// Row 1 of a matrix with the counts of components 4 and 2; other elements must not count.
-Values matrix(double of_4, double of_2)
-{
-    Values scm(25, 77.0);
-    scm[15] = of_4;
-    scm[5] = of_2;
-    return scm;
-}
-
 TEST(SegmentAverages, ByNumberAndByMass)
 {
     World world;
@@ -34,39 +25,42 @@ TEST(SegmentAverages, ByNumberAndByMass)
         Int nseg;
         double total, number, listed, mass, own_or_mass;
     } cases[] = {
-        {"both segments", 3, 1, 0, 2, 50, 12.5, 12.5, 4000.0 / 350, 4000.0 / 350},
-        {"own value at the zero bound", 3, 0, zero_bound, 2, 30, 10, 10, 10, 10},
-        {"own value above it", 3, 0, above, 2, 30, 10, 10, 10, above},
-        {"own value missing", 3, 0, missing, 2, 30, 10, 10, 10, 10},
-        {"own value below missing", 3, 0, below, 2, 30, 10, 10, 10, below},
+        {"both segments", 3, 1, 0, 2, 44, 11, 11, 3400.0 / 350, 3400.0 / 350},
+        {"own value at the zero bound", 3, 0, zero_bound, 2, 24, 8, 8, 8, 8},
+        {"own value above it", 3, 0, above, 2, 24, 8, 8, 8, above},
+        {"own value missing", 3, 0, missing, 2, 24, 8, 8, 8, 8},
+        {"own value below missing", 3, 0, below, 2, 24, 8, 8, 8, below},
         {"no segments", 3, 1, -7, 0, 0, 0, -7, 0, 0},
-        {"row sum at the zero bound", zero_bound, 0, -7, 2, 10 * zero_bound, 10, -7, 10, 10},
-        {"row sum above it", above, 0, -7, 2, 10 * above, 10, 10, 10, 10},
-        {"row sum of exactly 0", 1, -1, -7, 2, -10, -10, -7, 0, 0},
-        {"weighted sum of exactly 0", 1, -2, -7, 2, -30, 30, -7, -1000, -1000},
+        {"row sum at the zero bound", zero_bound, 0, -7, 2, 8 * zero_bound, 8, -7, 8, 8},
+        {"row sum above it", above, 0, -7, 2, 8 * above, 8, 8, 8, 8},
+        {"row sum of exactly 0", 1, -1, -7, 2, -12, -12, -7, -4, -4},
+        {"weighted sum of exactly 0", 1, -2, -7, 2, -32, 32, -7, -1200, -1200},
     };
     const Int list[] = {3, 1}, n = 2;
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
-        const Values scm = matrix(c.of_4, c.of_2), q{c.own, 20, 33, 10, 0};
-        double each[2], number, twin, mass, own_or_mass, by_component[] = {-1, -1, -1}, by_position[2];
-        POLY_GETMAVG(&ld, q.data(), &c.nseg, segments, scm.data(), &n, list, each, flags);
+        const Values q{c.own, 20, 33, 8, 0};
+        Values scm(25, 77.0);  // elements other than those of components 4 and 2 must not count
+        scm[15] = c.of_4;
+        scm[5] = c.of_2;
+        double number, twin, mass, own_or_mass;
+        Values listed(2), by_component(3, -1.0), by_position(2);
+        POLY_GETMAVG(&ld, q.data(), &c.nseg, segments, scm.data(), &n, list, listed.data(), flags);
         POLY_GETFAVG(&ld, &c.nseg, segments, scm.data(), &row, q.data(), &number);
         POLY_GETFAVGT(&ld, &c.nseg, segments, scm.data(), &row, q.data(), &twin);
         POLY_GETSAVG(&ld, weights, &c.nseg, segments, scm.data(), &row, q.data(), &mass);
         POLY_GETPOLQ(&ld, weights, &c.nseg, segments, scm.data(), &row, q.data(), &own_or_mass);
-        POLY_GETMWS(&n, list, &ld, q.data(), &c.nseg, segments, flags, scm.data(), by_component);
-        POLY_GETMWP(&n, list, &ld, q.data(), &c.nseg, segments, flags, scm.data(), by_position);
-        const double seen[] = {
-            each[0],         each[1],         number,          twin,           mass,          own_or_mass,
-            by_component[0], by_component[1], by_component[2], by_position[0], by_position[1]};
+        POLY_GETMWS(&n, list, &ld, q.data(), &c.nseg, segments, flags, scm.data(), by_component.data());
+        POLY_GETMWP(&n, list, &ld, q.data(), &c.nseg, segments, flags, scm.data(), by_position.data());
+        EXPECT_EQ((Values{number, twin, mass, own_or_mass}),
+                  (Values{c.number, c.number, c.mass, c.own_or_mass}));
         // A flag of 2 is no flag: component 3 has its own 33.
-        const double expected[] = {33,       c.listed, c.number, c.number, c.mass, c.own_or_mass,
-                                   c.number, -1,       33,       33,       c.total};
-        for (std::size_t k = 0; k < std::size(seen); ++k) EXPECT_DOUBLE_EQ(seen[k], expected[k]) << k;
+        EXPECT_EQ(listed, (Values{33, c.listed}));
+        EXPECT_EQ(by_component, (Values{c.number, -1, 33}));
+        EXPECT_EQ(by_position, (Values{33, c.total}));
     }
     double out[2];
-    POLY_GETMAVG(&ld, weights, &n, segments, matrix(std::nan(""), 1).data(), &n, list, out, flags);
+    POLY_GETMAVG(&ld, weights, &n, segments, Values(25, std::nan("")).data(), &n, list, out, flags);
     EXPECT_EQ(out[1], 1) << "a row sum that is not a number";
 }
 
@@ -105,6 +99,7 @@ TEST(Polydispersity, OfAMixtureIsAtLeastOneFromMomentsAndScalesChainWeights)
         call(POLY_GETWWP, 2, list, 4, mw, 1, segment, polymer_flags, scm, weight_averages);
         EXPECT_EQ(weight_averages, (Values{27, 60 * c.expected}));
     }
+    EXPECT_EQ(homopolymer({z, flow, second}).ask(POLY_GETPOLI, "P"), 2);
     EXPECT_EQ(homopolymer({}).without(Parameter::pdi).ask(POLY_GETPOLI, {"P", "W"}), (Values{1, 1}));
 }
 

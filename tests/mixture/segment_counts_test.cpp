@@ -10,7 +10,6 @@ using namespace support;
 
 namespace {
 
-const double nan = std::nan("");
 constexpr Int kept = -5;
 
 // Outputs of both routines, kept where untouched.
@@ -104,7 +103,7 @@ TEST(SegmentCounts, OfAnOligomer)
         {"parameter below 1", 3, 0, 0.5, {3, 0}, {0.5, 0}, 0.5},
         {"negative count", -1, 3, 1, {0, 3}, {-1, 3}, 2},
         {"counts sum to 0", 1, -1, 1, {1, 0}, {1, -1}, 1},
-        {"parameter not a number", 2, 0, nan, {2, 0}, {2, 0}, 2},
+        {"parameter not a number", 2, 0, std::nan(""), {2, 0}, {2, 0}, 2},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
@@ -126,7 +125,7 @@ TEST(SegmentCounts, OfOtherComponentsStandInColumnOne)
 {
     auto world = copolymer({{"DPN", 4}}).conventional("W").conventional("V").conventional("N");
     world.parameter("W", Parameter::dpn, 0.5).parameter("V", Parameter::dpn, 7);
-    world.parameter("N", Parameter::dpn, nan);
+    world.parameter("N", Parameter::dpn, std::nan(""));
     const Counts counts(world, {"W", "V", "P", "N"});
     EXPECT_EQ(Values(counts.pol.begin(), counts.pol.begin() + 7), (Values{0, 0, 0, 0, 1, 7, 1}));
     EXPECT_EQ(Values(counts.all.begin(), counts.all.begin() + 7), (Values{0, 0, 0, 0, 1, 1, 1}));

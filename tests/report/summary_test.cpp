@@ -26,12 +26,6 @@ void write_site_results(World& world, Int sites)
                    r[6]);
 }
 
-// Words 2 to 4: current block, next data set, next block.
-Ints counters()
-{
-    return {ST_SUMGLOBAL[1], ST_SUMGLOBAL[2], ST_SUMGLOBAL[3]};
-}
-
 TEST(DistributionSummary, TiesEveryBlockToItsAxesAndGoesOnNumbering)
 {
     World world;
@@ -42,7 +36,8 @@ TEST(DistributionSummary, TiesEveryBlockToItsAxesAndGoesOnNumbering)
     plot(world, {3}, {1}, 0, 2);  // lengths are scaled by a switch of 1 alone
     plot(world, {}, {}, 0, 0);
     EXPECT_EQ(summary.text(), stored(__FILE__, "distribution_tokens.txt"));
-    EXPECT_EQ(counters(), (Ints{38, 22, 39}));
+    // The current block, the next data set and the next block.
+    EXPECT_EQ((Ints{ST_SUMGLOBAL[1], ST_SUMGLOBAL[2], ST_SUMGLOBAL[3]}), (Ints{38, 22, 39}));
 }
 
 TEST(SiteSummary, WritesSeparatorsAfterTheFirstResultOnly)
@@ -52,7 +47,7 @@ TEST(SiteSummary, WritesSeparatorsAfterTheFirstResultOnly)
     ST_SUMGLOBAL[3] = 5;
     for (const Int sites : {2, 0, -1}) write_site_results(world, sites);
     EXPECT_EQ(summary.text(), stored(__FILE__, "site_tokens.txt"));
-    EXPECT_EQ(counters(), (Ints{7, 1, 8}));
+    EXPECT_EQ((Ints{ST_SUMGLOBAL[1], ST_SUMGLOBAL[2], ST_SUMGLOBAL[3]}), (Ints{7, 1, 8}));
 }
 
 TEST(Summary, IsWrittenWhenTheRunWantsIt)
@@ -72,7 +67,7 @@ TEST(Summary, IsWrittenWhenTheRunWantsIt)
         const auto written = summary.tokens().size();
         plot(world, {1, 2}, {1, 1}, 0, 0);
         EXPECT_EQ(summary.tokens().size() > written, c.distribution);
-        EXPECT_EQ(counters()[2] > 1, c.distribution || c.sites);
+        EXPECT_EQ(ST_SUMGLOBAL[3] > 1, c.distribution || c.sites);
         EXPECT_NE(world.host().report().text().find("Area = "), std::string::npos)
             << "the report has its own way";
     }
