@@ -4,32 +4,29 @@
 #include <cmath>
 #include <limits>
 
-#include "support/guarded.h"
-#include "support/trap_floating_point.h"
+#include "support/arguments.h"
 
 namespace {
 
-using support::GuardedReals;
-using support::TrapFloatingPoint;
+using namespace support;
 using Int = std::int64_t;
-using Reals = std::vector<double>;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
-const double not_a_number = std::nan("");
+constexpr double not_a_number = std::numeric_limits<double>::quiet_NaN();
 
 // Value and derivative of one pair.
-Reals single_pair(double t, const Reals& p, double tr, Int mode)
+Values single_pair(double t, Values p, double tr, Int mode)
 {
-    Reals r{-1, -1};
-    POLY_TBPARA(&t, &p[0], &p[1], &p[2], &p[3], &p[4], &tr, &mode, &r[0], &r[1]);
+    Values r{-1, -1};
+    call(POLY_TBPARA, t, p[0], p[1], p[2], p[3], p[4], tr, mode, r[0], r[1]);
     return r;
 }
 
-// The parameter array of m components with block(i, j) for each ordered pair, and every matrix made of it.
+// The parameter array of m components with block(i, j) for each ordered pair, and the matrices made of it.
 struct Pairs {
     double t;
     Int n, k, m;
-    Reals p = {};
+    Values p = {};
 
     template <typename Block>
     Pairs(double temperature, Int position, Int components, Block block)
@@ -37,58 +34,45 @@ struct Pairs {
     {
         for (Int j = 1; j <= m; ++j)
             for (Int i = 1; i <= m; ++i) {
-                const Reals values = block(i, j);
-                n = static_cast<Int>(values.size());
+                const Values values = block(i, j);
+                n = std::ssize(values);
                 p.insert(p.end(), values.begin(), values.end());
             }
     }
-    template <typename Fill>
-    Reals filled(Fill fill) const
+    template <typename Routine, typename... Rest>
+    Values ask(Routine* routine, const Rest&... rest) const
     {
         GuardedReals values(static_cast<std::size_t>(m * m));
-        fill(values.data());
+        routine(&t, &n, &k, &m, p.data(), rest.data()..., values);
         EXPECT_TRUE(values.fence_holds());
         return values.values();
     }
-    Reals kij3() const
+    // Parameters and derivatives.
+    std::pair<Values, Values> kij4(const Values& rows, Int mode = 2) const
     {
-        return filled([&](double* out) { POLY_TBKIJ3(&t, &n, &k, &m, p.data(), out); });
-    }
-    Reals kij4(const Reals& rows, bool derivatives = false, Int mode = 2) const
-    {
-        Reals other(p.size());
-        return filled([&](double* out) {
-            POLY_TBKIJ4(&t, &n, &k, &m, p.data(), derivatives ? other.data() : out,
-                        derivatives ? out : other.data(), &mode, rows.data());
-        });
-    }
-    Reals dkij4(const Reals& rows, Int mode = 2) const { return kij4(rows, true, mode); }
-    template <typename Routine>
-    Reals ask(Routine* routine, const Reals& rows, const std::vector<Int>& mask) const
-    {
-        return filled([&](double* out) { routine(&t, &n, &k, &m, p.data(), rows.data(), mask.data(), out); });
+        GuardedReals values(static_cast<std::size_t>(m * m)), derivatives = values;
+        POLY_TBKIJ4(&t, &n, &k, &m, p.data(), values, derivatives, &mode, rows.data());
+        EXPECT_TRUE(values.fence_holds() && derivatives.fence_holds());
+        return {values.values(), derivatives.values()};
     }
 };
 
+// What a routine gives of the one pair whose row is selected.
 template <typename Routine>
-double one_pair(Routine* routine, double t, Int k, const Reals& block)
+double one_pair(Routine* routine, double t, Int k, const Values& block)
 {
-    return Pairs(t, k, 2, [&](Int, Int) { return block; }).ask(routine, {1, 0}, {0, 0})[2];
+    return Pairs(t, k, 2, [&](Int, Int) { return block; }).ask(routine, Values{1, 0}, Ints{0, 0})[2];
 }
 
 TEST(BinaryParameter, ModeSaysWhichResultsAreFormed)
 {
-    const Reals p{1, 2, 6, 4, 8};
+    const Values p{1, 2, 6, 4, 8};
     const double value = 42 + std::log(2.0) * 6;
     const double slope = 38.5 / 300;  // 4 − 2/4 + 6/2 + 2·8·2 over the reference temperature
-    const struct {
-        Int mode;
-        Reals expected;
-    } cases[] = {{-1, {0, 0}},    {0, {0, 0}},         {1, {value, 0}},
-                 {2, {0, slope}}, {3, {value, slope}}, {4, {0, slope}}};
-    const TrapFloatingPoint trap;
-    for (const auto& c : cases) EXPECT_EQ(single_pair(600, p, 300, c.mode), c.expected) << "mode " << c.mode;
-    EXPECT_EQ(single_pair(300, p, 0, 0), (Reals{0, 0})) << "nothing asked, nothing divided";
+    const std::pair<Int, Values> results[] = {{-1, {0, 0}},    {0, {0, 0}},         {1, {value, 0}},
+                                              {2, {0, slope}}, {3, {value, slope}}, {4, {0, slope}}};
+    for (const auto& [mode, expected] : results) EXPECT_EQ(single_pair(600, p, 300, mode), expected) << mode;
+    EXPECT_EQ(single_pair(300, p, 0, 0), (Values{0, 0})) << "nothing asked, nothing divided";
     EXPECT_EQ(single_pair(300, p, -300, 2)[1], (4 - 2 - 6 - 16) / -300.0) << "no logarithm in a derivative";
 }
 
@@ -97,19 +81,17 @@ TEST(BinaryParameter, EveryRoutineKeepsItsOrderOfSummation)
 {
     const double ln2 = std::log(2.0);
     const struct {
-        Reals p;
+        Values block;
         double single, logarithm_first, logarithm_last;
-    } cases[] = {{{1e17, -2e17, 1, 0, 0}, ln2, 0, ln2},
-                 {{1, -2e17, 0, 5e16, 0}, 0, 0, 1},
-                 {{0, -2e17, 1, 0, 2.5e16}, 0, 0, ln2}};
+    } cases[] = {{{1e17, -2e17, 1, 0, 0, 300}, ln2, 0, ln2},
+                 {{1, -2e17, 0, 5e16, 0, 300}, 0, 0, 1},
+                 {{0, -2e17, 1, 0, 2.5e16, 300}, 0, 0, ln2}};
     for (const auto& c : cases) {
-        Reals block = c.p;
-        block.push_back(300);
-        const Pairs pairs(600, 6, 2, [&](Int, Int) { return block; });
-        EXPECT_EQ(single_pair(600, c.p, 300, 1)[0], c.single);
-        EXPECT_EQ(pairs.kij3()[2], c.logarithm_first);
-        EXPECT_EQ(pairs.kij4({1, 1})[2], c.logarithm_first);
-        EXPECT_EQ(one_pair(POLY_KIJ5, 600, 6, block), c.logarithm_last);
+        const Pairs pairs(600, 6, 2, [&](Int, Int) { return c.block; });
+        EXPECT_EQ(single_pair(600, c.block, 300, 1)[0], c.single);
+        EXPECT_EQ(pairs.ask(POLY_TBKIJ3)[2], c.logarithm_first);
+        EXPECT_EQ(pairs.kij4({1, 1}).first[2], c.logarithm_first);
+        EXPECT_EQ(one_pair(POLY_KIJ5, 600, 6, c.block), c.logarithm_last);
     }
 }
 
@@ -118,24 +100,23 @@ TEST(BinaryParameterMatrix, FillsThePairsItsRoutineSelects)
     // At x = 1 the parameter of pair (i, j) is ij and T dK/dT is 300 ij; matrices stand column by column.
     const Pairs pairs(300, 6, 3, [](Int i, Int j) {
         const auto name = static_cast<double>(10 * i + j);
-        return Reals{-299 * name, 0, 0, 300 * name, 0, 300};
+        return Values{-299 * name, 0, 0, 300 * name, 0, 300};
     });
-    const Reals rows1and3{0, 0, 31, 12, 0, 32, 13, 0, 0};
-    EXPECT_EQ(pairs.kij3(), (Reals{11, 21, 31, 12, 22, 32, 13, 23, 33}));
-    EXPECT_EQ(pairs.kij4({1, 0.5, 1}), rows1and3);
-    EXPECT_EQ(pairs.dkij4({1, 0.5, 1}), rows1and3);
-    for (const Int mode : {0, 1, 3}) EXPECT_EQ(pairs.dkij4({1, 1, 1}, mode), Reals(9, 0.0));
+    const Values rows1and3{0, 0, 31, 12, 0, 32, 13, 0, 0}, none(9);
+    EXPECT_EQ(pairs.ask(POLY_TBKIJ3), (Values{11, 21, 31, 12, 22, 32, 13, 23, 33}));
+    EXPECT_EQ(pairs.kij4({1, 0.5, 1}), std::pair(rows1and3, rows1and3));
+    for (const Int mode : {0, 1, 3}) EXPECT_EQ(pairs.kij4({1, 0.5, 1}, mode), std::pair(rows1and3, none));
     const struct {
-        Reals rows;
-        std::vector<Int> mask;
-        Reals expected;
+        Values rows;
+        Ints mask;
+        Values expected;
     } cases[] = {{{1, 1, 1}, {0, 0, 0}, {0, 21, 31, 12, 0, 32, 13, 23, 0}},
                  {{1, std::nextafter(1, 2), 1}, {0, 0, 0}, rows1and3},
                  {{1, 1, 1}, {0, -1, 0}, {0, 0, 31, 0, 0, 0, 13, 0, 0}},
                  {{0, 1, 1}, {0, 0, 1}, {0, 21, 0, 0, 0, 0, 0, 0, 0}}};
     for (const auto& c : cases) {
         EXPECT_EQ(pairs.ask(POLY_KIJ5, c.rows, c.mask), c.expected);
-        Reals slopes = pairs.ask(POLY_DKIJ5, c.rows, c.mask);
+        Values slopes = pairs.ask(POLY_DKIJ5, c.rows, c.mask);
         for (double& slope : slopes) slope /= 300;
         EXPECT_EQ(slopes, c.expected);
     }
@@ -146,7 +127,7 @@ TEST(BinaryParameterMatrix, NumberOfPositionsNamesTheForm)
     const struct {
         const char* name;
         Int k;
-        Reals block;
+        Values block;
         double value, slope;  // at twice the reference temperature
     } cases[] = {
         {"linear", 0, {1, 3}, 7, 6},
@@ -171,42 +152,38 @@ TEST(BinaryParameterMatrix, NumberOfPositionsNamesTheForm)
 TEST(BinaryParameterMatrix, PairsWithoutUsableReferenceGetZero)
 {
     const TrapFloatingPoint trap;
-    const Reals references{0.0, -0.0, infinity, -300, not_a_number, 300, 300, -infinity, 150};
+    const Values references{0.0, -0.0, infinity, -300, not_a_number, 300, 300, -infinity, 150}, none(9);
     Pairs pairs(300, 6, 3, [&](Int i, Int j) {
-        return Reals{1, 2, 3, 4, 5, references[static_cast<std::size_t>(3 * (j - 1) + i - 1)]};
+        return Values{1, 2, 3, 4, 5, references[static_cast<std::size_t>(3 * (j - 1) + i - 1)]};
     });
-    EXPECT_EQ(pairs.kij3(), (Reals{0, 0, 0, 0, 0, 12, 12, 0, 30 + 3 * std::log(2.0)}));
+    EXPECT_EQ(pairs.ask(POLY_TBKIJ3), (Values{0, 0, 0, 0, 0, 12, 12, 0, 30 + 3 * std::log(2.0)}));
     for (const Int k : {-1, 0, 7}) {
         pairs.k = k;
-        for (const auto& none : {pairs.kij3(), pairs.kij4({1, 1, 1}), pairs.dkij4({1, 1, 1})})
-            EXPECT_EQ(none, Reals(9, 0.0)) << "k = " << k;
+        EXPECT_EQ(pairs.ask(POLY_TBKIJ3), none) << "k = " << k;
+        EXPECT_EQ(pairs.kij4({1, 1, 1}), std::pair(none, none)) << "k = " << k;
     }
 }
 
 TEST(ParameterCompletion, FillsTheOrderThatIsZero)
 {
     const struct {
-        Reals given, symmetric, antisymmetric;  // the pair's forward and backward entry
+        Values given, symmetric, antisymmetric;  // the pair's forward and backward entry
     } cases[] = {{{0.3, 0}, {0.3, 0.3}, {0.3, -0.3}},
-                 {{0, 0.3}, {0.3, 0.3}, {-0.3, 0.3}},
                  {{-0.0, 0.3}, {0.3, 0.3}, {-0.3, 0.3}},
-                 {{0.3, 0.4}, {0.3, 0.4}, {0.3, 0.4}},
-                 {{0, 0}, {0, 0}, {0, 0}}};
-    for (const auto& c : cases)
+                 {{0.3, 0.4}, {0.3, 0.4}, {0.3, 0.4}}};
+    for (const auto& [given, symmetric, antisymmetric] : cases)
         for (const Int mode : {1, 2})
-            for (const Int k : {-3, 0, 1, 2, 9}) {
+            for (const Int k : {-3, 1, 9}) {
                 // Two positions of components (1, 1), (2, 1), (1, 2), (2, 2); the diagonal holds 0 and 7.
-                const Int n = 2, m = 2;
-                GuardedReals p{0, 7, c.given[1], c.given[1], c.given[0], c.given[0], 7, 0};
-                POLY_TBPARI(&n, &m, p, &k, &mode);
-                const Reals& first = mode == 1 || k < 1 ? c.symmetric : c.antisymmetric;
-                const Reals& second = mode == 1 || k < 2 ? c.symmetric : c.antisymmetric;
-                EXPECT_EQ(p.values(), (Reals{0, 7, first[1], second[1], first[0], second[0], 7, 0}))
-                    << c.given[0] << ", " << c.given[1] << ", mode " << mode << ", k " << k;
+                GuardedReals p{0, 7, given[1], given[1], given[0], given[0], 7, 0};
+                call(POLY_TBPARI, 2, 2, p, k, mode);
+                const Values& first = mode == 1 || k < 1 ? symmetric : antisymmetric;
+                const Values& second = mode == 1 || k < 2 ? symmetric : antisymmetric;
+                EXPECT_EQ(p.values(), (Values{0, 7, first[1], second[1], first[0], second[0], 7, 0}))
+                    << given[0] << ", " << given[1] << ", mode " << mode << ", k " << k;
             }
-    const Int n = 1, m = 2;
     GuardedReals p{7, 0, not_a_number, 7};
-    POLY_TBPARI(&n, &m, p, &n, &n);
+    call(POLY_TBPARI, 1, 2, p, 1, 1);
     EXPECT_TRUE(std::isnan(p(2))) << "not a number counts as given";
 }
 
