@@ -26,17 +26,10 @@ Values grid(Int n, double longest_chain)
 
 TEST(ChainLengthGrid, IsLogarithmicWholeAndIncreasing)
 {
-    const struct {
-        double longest_chain;
-        Values expected;
-    } cases[] = {
-        {1e5, {10, 100, 1000, 10000, 100000}},
-        {10, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}},
-        {50.5, {2, 7, 18, 50}},
-        {0.5, {1, 2, 3, 4}},
-    };
-    for (const auto& [longest_chain, expected] : cases)
-        EXPECT_EQ(grid(std::ssize(expected), longest_chain), expected) << "longest " << longest_chain;
+    EXPECT_EQ(grid(5, 1e5), (Values{10, 100, 1000, 10000, 100000}));
+    EXPECT_EQ(grid(10, 10), (Values{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}));
+    EXPECT_EQ(grid(4, 50.5), (Values{2, 7, 18, 50}));
+    EXPECT_EQ(grid(4, 0.5), (Values{1, 2, 3, 4}));
     for (const double unusable : {0.0, -10.0, infinity, std::nan("")})
         EXPECT_EQ(grid(3, unusable), (Values{1, 2, 3})) << "longest " << unusable;
     const TrapFloatingPoint trap;
@@ -70,26 +63,19 @@ TEST(DistributionMixing, WeighsByAmountAboveTheZeroBound)
 {
     auto world = World{}.bounds(missing, 0.25);
     world.host();
-    struct {
-        const char* name;
-        Int n;
-        double w1, w2;
-        Values expected;  // untouched without one
-    } cases[] = {
-        {"the zero bound itself mixes nothing", 2, 0.125, 0.125, {}},
-        {"just above it does", 2, 0.25 * (1 + DBL_EPSILON), 0, {1, 10}},
-        {"negative total", 2, -3, 1, {}},
-        {"no points", 0, 1, 3, {}},
-    };
-    const Values first{1, 10}, second{3, 50};
-    for (auto& c : cases) {
+    const Values first{1, 10}, second{3, 50}, untouched(2, GuardedReals::sentinel);
+    const auto mixed = [&](Int n, double w1, double w2) {
         GuardedReals y(2);
         double w = -1;
-        call(POLY_CSDADD, c.n, first, c.w1, second, c.w2, y, w);
-        EXPECT_EQ(w, c.w1 + c.w2) << c.name;
-        EXPECT_TRUE(c.expected.empty() ? y.untouched() : y.values() == c.expected && y.fence_holds())
-            << c.name;
-    }
+        call(POLY_CSDADD, n, first, w1, second, w2, y, w);
+        EXPECT_EQ(w, w1 + w2);
+        EXPECT_TRUE(y.fence_holds());
+        return y.values();
+    };
+    EXPECT_EQ(mixed(2, 0.125, 0.125), untouched) << "the zero bound itself mixes nothing";
+    EXPECT_EQ(mixed(2, 0.25 * (1 + DBL_EPSILON), 0), first) << "just above it does";
+    EXPECT_EQ(mixed(2, -3, 1), untouched) << "negative total";
+    EXPECT_EQ(mixed(0, 1, 3), untouched) << "no points";
     Values y = second;
     double w = 3;
     call(POLY_CSDADD, 2, first, 1.0, y, w, y, w);

@@ -106,19 +106,16 @@ TEST(BinaryParameterMatrix, FillsThePairsItsRoutineSelects)
     EXPECT_EQ(pairs.ask(POLY_TBKIJ3), (Values{11, 21, 31, 12, 22, 32, 13, 23, 33}));
     EXPECT_EQ(pairs.kij4({1, 0.5, 1}), std::pair(rows1and3, rows1and3));
     for (const Int mode : {0, 1, 3}) EXPECT_EQ(pairs.kij4({1, 0.5, 1}, mode), std::pair(rows1and3, none));
-    const struct {
-        Values rows;
-        Ints mask;
-        Values expected;
-    } cases[] = {{{1, 1, 1}, {0, 0, 0}, {0, 21, 31, 12, 0, 32, 13, 23, 0}},
-                 {{1, std::nextafter(1, 2), 1}, {0, 0, 0}, rows1and3},
-                 {{1, 1, 1}, {0, -1, 0}, {0, 0, 31, 0, 0, 0, 13, 0, 0}},
-                 {{0, 1, 1}, {0, 0, 1}, {0, 21, 0, 0, 0, 0, 0, 0, 0}}};
-    for (const auto& c : cases) {
-        EXPECT_EQ(pairs.ask(POLY_KIJ5, c.rows, c.mask), c.expected);
-        Values slopes = pairs.ask(POLY_DKIJ5, c.rows, c.mask);
+    const std::tuple<Values, Ints, Values> cases[] = {
+        {{1, 1, 1}, {0, 0, 0}, {0, 21, 31, 12, 0, 32, 13, 23, 0}},
+        {{1, std::nextafter(1, 2), 1}, {0, 0, 0}, rows1and3},
+        {{1, 1, 1}, {0, -1, 0}, {0, 0, 31, 0, 0, 0, 13, 0, 0}},
+        {{0, 1, 1}, {0, 0, 1}, {0, 21, 0, 0, 0, 0, 0, 0, 0}}};
+    for (const auto& [rows, mask, expected] : cases) {
+        EXPECT_EQ(pairs.ask(POLY_KIJ5, rows, mask), expected);
+        Values slopes = pairs.ask(POLY_DKIJ5, rows, mask);
         for (double& slope : slopes) slope /= 300;
-        EXPECT_EQ(slopes, c.expected);
+        EXPECT_EQ(slopes, expected);
     }
 }
 
@@ -166,11 +163,10 @@ TEST(BinaryParameterMatrix, PairsWithoutUsableReferenceGetZero)
 
 TEST(ParameterCompletion, FillsTheOrderThatIsZero)
 {
-    const struct {
-        Values given, symmetric, antisymmetric;  // the pair's forward and backward entry
-    } cases[] = {{{0.3, 0}, {0.3, 0.3}, {0.3, -0.3}},
-                 {{-0.0, 0.3}, {0.3, 0.3}, {-0.3, 0.3}},
-                 {{0.3, 0.4}, {0.3, 0.4}, {0.3, 0.4}}};
+    // Forward and backward entry of a pair: given, completed by symmetry, by antisymmetry.
+    const Values cases[][3] = {{{0.3, 0}, {0.3, 0.3}, {0.3, -0.3}},
+                               {{-0.0, 0.3}, {0.3, 0.3}, {-0.3, 0.3}},
+                               {{0.3, 0.4}, {0.3, 0.4}, {0.3, 0.4}}};
     for (const auto& [given, symmetric, antisymmetric] : cases)
         for (const Int mode : {1, 2})
             for (const Int k : {-3, 1, 9}) {
