@@ -1,8 +1,7 @@
 // Calls a routine with its arguments by address, as a host that traps floating-point exceptions:
 //
 //   call(POLY_GETRAT, 1, 2, ids, fractions, ratio);
-#ifndef TESTS_SUPPORT_ARGUMENTS_H
-#define TESTS_SUPPORT_ARGUMENTS_H
+#pragma once
 
 #include "support/guarded.h"
 #include "support/trap_floating_point.h"
@@ -64,5 +63,3 @@ void call(Routine* routine, Arguments&&... arguments)
 }
 
 }  // namespace support
-
-#endif

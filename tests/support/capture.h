@@ -1,6 +1,5 @@
 // Runs a command of the program and keeps what it wrote.
-#ifndef TESTS_SUPPORT_CAPTURE_H
-#define TESTS_SUPPORT_CAPTURE_H
+#pragma once
 
 #include <cstdio>
 #include <filesystem>
@@ -40,5 +39,3 @@ Outcome capture(const Command& command, const std::filesystem::path& file, cli::
 }
 
 }  // namespace support
-
-#endif

@@ -1,6 +1,5 @@
 // Texts of cases with one place changed.
-#ifndef TESTS_SUPPORT_EDITED_H
-#define TESTS_SUPPORT_EDITED_H
+#pragma once
 
 #include <gtest/gtest.h>
 
@@ -17,5 +16,3 @@ inline std::string with(std::string text, const std::string& old, const std::str
 }
 
 }  // namespace support
-
-#endif

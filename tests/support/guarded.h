@@ -1,6 +1,5 @@
 // Arrays for outputs, filled with a sentinel and fenced by more of it, to see what a routine left untouched.
-#ifndef TESTS_SUPPORT_GUARDED_H
-#define TESTS_SUPPORT_GUARDED_H
+#pragma once
 
 #include <gtest/gtest.h>
 
@@ -62,5 +61,3 @@ using GuardedReals = Guarded<double>;
 using GuardedInts = Guarded<std::int64_t>;
 
 }  // namespace support
-
-#endif

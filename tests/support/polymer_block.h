@@ -1,7 +1,6 @@
 // Lays a polymer block with its four lists straight from plain data, also such as no paragraph check would
 // build.
-#ifndef TESTS_SUPPORT_POLYMER_BLOCK_H
-#define TESTS_SUPPORT_POLYMER_BLOCK_H
+#pragma once
 
 #include <map>
 #include <vector>
@@ -30,16 +29,14 @@ struct PolymerLists {
         Int component;
         std::map<Int, double> counts;  ///< segments per molecule, by the segment's component index
     };
-    std::vector<Segment> segments;  ///< any order; the list is laid in ascending index order
+    std::vector<Segment> segments;  ///< by component index
     std::vector<Int> polymers;
-    std::vector<Oligomer> oligomers;  ///< any order; laid in ascending index order
-    std::vector<Int> end_segments;    ///< in the order of the input
-    Int sites = 0;                    ///< catalyst site types
+    std::vector<Oligomer> oligomers;
+    std::vector<Int> end_segments;
+    Int sites = 0;  ///< catalyst site types
 };
 
-/// Lays the block and returns its id. Throws Error for an oligomer count of a component that is no segment.
+/// Lays the lists in the order given and returns the id of the block.
 BlockId lay_polymer_block(minihost::Store& store, const PolymerLists& lists);
 
 }  // namespace support
-
-#endif

@@ -1,6 +1,5 @@
 // What the embedded host says when it refuses.
-#ifndef TESTS_SUPPORT_REFUSAL_H
-#define TESTS_SUPPORT_REFUSAL_H
+#pragma once
 
 #include <functional>
 #include <string>
@@ -21,5 +20,3 @@ inline std::string refusal(const std::function<void()>& action)
 }
 
 }  // namespace support
-
-#endif

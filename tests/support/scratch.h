@@ -1,6 +1,5 @@
 // A folder for the files of one test process, so that tests may run side by side.
-#ifndef TESTS_SUPPORT_SCRATCH_H
-#define TESTS_SUPPORT_SCRATCH_H
+#pragma once
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -19,5 +18,3 @@ inline std::filesystem::path scratch()
 }
 
 }  // namespace support
-
-#endif

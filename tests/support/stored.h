@@ -1,6 +1,5 @@
 // Files that lie beside a test.
-#ifndef TESTS_SUPPORT_STORED_H
-#define TESTS_SUPPORT_STORED_H
+#pragma once
 
 #include <filesystem>
 #include <fstream>
@@ -23,5 +22,3 @@ inline std::string stored(const std::filesystem::path& test, const std::string& 
 }
 
 }  // namespace support
-
-#endif

@@ -1,7 +1,6 @@
 // Division by zero, invalid operations and overflow end the process while one of these exists, as in a host
 // that traps floating-point exceptions.
-#ifndef TESTS_SUPPORT_TRAP_FLOATING_POINT_H
-#define TESTS_SUPPORT_TRAP_FLOATING_POINT_H
+#pragma once
 
 #include <cfenv>
 
@@ -23,5 +22,3 @@ private:
 };
 
 }  // namespace support
-
-#endif

@@ -11,14 +11,12 @@
 // index of a component is never its position in a list by accident. The embedded host is made at the first
 // question, with a checked store; after that the facts stand. To ask one world takes the host from the one
 // asked before, which gets a new one when it is asked again.
-#ifndef TESTS_SUPPORT_WORLD_H
-#define TESTS_SUPPORT_WORLD_H
+#pragma once
 
 #include <initializer_list>
 #include <map>
 #include <memory>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -30,7 +28,6 @@ namespace support {
 using minihost::ComponentClass;
 using minihost::Int;
 using minihost::Parameter;
-using Real = double;
 
 inline constexpr double missing = 1e35;
 inline constexpr double zero_bound = 1e-15;
@@ -83,23 +80,30 @@ public:
     /// The parameter vector does not exist, whatever components give.
     World& without(Parameter parameter);
     /// What the host says of a component, whatever lists it stands in.
-    World& class_of(const std::string& id, ComponentClass component_class);
+    World& class_of(const std::string& id, ComponentClass given)
+    {
+        return set(at(id).component_class, given);
+    }
 
     /// Attributes of any component in the current stream.
     World& attributes(const std::string& id, const Attributes& attributes);
     /// The component carries the attribute, but the host gives an offset that is not positive.
-    World& hidden_attribute(const std::string& id, const std::string& attribute, Int offset = -1);
-    World& flow(const std::string& id, double flow);
+    World& hidden_attribute(const std::string& id, const std::string& attribute, Int offset = -1)
+    {
+        return set(hidden_[{id, attribute}], offset);
+    }
     World& stream(const std::string& name, const std::vector<Part>& parts);
 
-    World& sites(Int count);
-    World& end_segments(const std::vector<std::string>& ids);
+    World& sites(Int count) { return set(lists_.sites, count); }
+    World& end_segments(const std::vector<std::string>& ids)
+    {
+        return set(lists_.end_segments, indices(ids));
+    }
     World& bounds(double missing_value_bound, double zero_bound);
-    World& pdi_mode(Int mode);
-    World& polymer_count(Int count);
+    World& pdi_mode(Int mode) { return set(pdi_mode_, mode); }
+    World& polymer_count(Int count) { return set(polymer_count_, count); }
     /// The host gives this id (0 or less) for the polymer block.
-    World& without_polymer_block(minihost::BlockId id = 0);
-    World& store_mode(minihost::Store::Mode mode);
+    World& without_polymer_block(minihost::BlockId id = 0) { return set(polymer_block_, id); }
 
     // ---- questions
 
@@ -111,7 +115,7 @@ public:
     std::vector<double> molecular_weights() const;
     /// Component indices in segment-list order.
     std::vector<Int> segment_list() const;
-    const minihost::StreamView& view(const std::string& stream);
+    const minihost::StreamView& view(const std::string& stream) { return host().streams().view(stream); }
 
     /// Results of a routine with the arguments selector, N, IDX, OUT.
     template <typename Routine>
@@ -131,28 +135,22 @@ public:
     }
 
 private:
-    struct Slot {
-        std::unique_ptr<minihost::Host> host;
-    };
+    using Slot = std::unique_ptr<minihost::Host>;
 
-    World& add(minihost::Component component);
+    template <typename Fact, typename Value>
+    World& set(Fact& fact, const Value& value)
+    {
+        fact = value;
+        return *this;
+    }
     minihost::Component& at(const std::string& id);
-    PolymerLists lists() const;
-    std::vector<minihost::Stream> all_streams() const;
-    void carry_attributes(minihost::Host& host) const;
-    void set_records(minihost::Host& host) const;
-    std::unique_ptr<minihost::Host> make_host() const;
+    Slot make_host() const;
 
     std::vector<minihost::Component> components_;
-    std::vector<Segment> segments_;
-    std::vector<std::string> polymers_;
-    std::map<std::string, std::map<std::string, double>> oligomers_;
-    std::vector<std::string> end_segments_;
-    Part current_;
-    std::vector<std::pair<std::string, std::vector<Part>>> streams_;
+    PolymerLists lists_;
+    std::vector<minihost::Stream> streams_;  ///< the current one first
     std::map<std::pair<std::string, std::string>, Int> hidden_;
     minihost::Options options_;
-    Int sites_ = 0;
     std::optional<Int> pdi_mode_;
     std::optional<Int> polymer_count_;
     std::optional<minihost::BlockId> polymer_block_;
@@ -160,5 +158,3 @@ private:
 };
 
 }  // namespace support
-
-#endif
