@@ -7,108 +7,95 @@ using namespace minihost;
 
 namespace {
 
-using Lines = std::vector<std::string>;
-
-enum class Habit {
-    prints_always,    // composed on any answer but 0, printed whatever the answer
-    prints_composed,  // composed on any answer but 0, printed only then
-    composes_on_one,  // composed on the answer 1 alone, printed only then
-};
-
-struct Case {
-    Int number;
-    Int severity;
-    Habit habit;
-    std::vector<Sentence> sentences;
-    Lines lines;
-};
+using Texts = std::vector<std::string>;
 
 const PolymerSentence polymer{{"P"}};
-const SegmentSentence segments{{{"A", 2}, {"B", 2}}};
-const AttributeSentence attributes{{{"P", {"ZMOM", "SFLOW"}}}};
-const CatalystSentence catalyst{{{"K", 1}}};
-const char* const ignored = "COMPONENT ID.  SENTENCE WILL BE IGNORED.";
+const SegmentSentence segments{{{"A", 2}}};
 
-// clang-format off
-const std::vector<Case> cases{
-    {1, 2, Habit::prints_always, {}, {"THIS POLYMERS PARAGRAPH HAS NO SENTENCES."}},
-    {2, 2, Habit::prints_always, {segments},
-     {"NO POLYMER WAS SPECIFIED IN THIS PARAGRAPH", "PARAGRAPH WILL BE IGNORED."}},
-    {3, 2, Habit::prints_always, {polymer},
-     {"NO SEGMENT WAS SPECIFIED IN THIS PARAGRAPH", "PARAGRAPH WILL BE IGNORED."}},
-    {4, 2, Habit::prints_always, {PolymerSentence{{"P", "NYLON"}}, segments, attributes},
-     {"SPECIFIED POLYMER ID \"NYLON   \" IS NOT A VALID", ignored}},
-    {5, 2, Habit::prints_always, {PolymerSentence{{"P", "P"}}, segments, attributes},
-     {"SPECIFIED POLYMER ID \"P       \" HAS BEEN USED", "PREVIOUSLY.  SENTENCE WILL BE IGNORED."}},
-    {6, 2, Habit::prints_always, {polymer, SegmentSentence{{{"LONGNAME", 1}, {"A", 1}}}, attributes},
-     {"SPECIFIED SEGMENT ID \"LONGNAME\" IS NOT A VALID", ignored}},
-    {7, 2, Habit::prints_always, {segments, OligomerSentence{{{"OLIGO", "A", 1}}}},
-     {"SPECIFIED OLIGOMER ID \"OLIGO   \" IS NOT A VALID", ignored}},
-    {8, 2, Habit::prints_composed, {segments, OligomerSentence{{{"O", "X", 1}}}},
-     {"SPECIFIED SEGMENT ID \"X       \" FOR OLIGOMER \"O       \"",
-      "IS NOT A VALID COMPONENT ID.  SENTENCE WILL BE IGNORED."}},
-    {9, 2, Habit::prints_composed, {segments, OligomerSentence{{{"O", "C", 1}}}},
-     {"SPECIFIED SEGMENT ID \"C       \" FOR OLIGOMER \"O       \"",
-      "IS NOT A VALID SEGMENT ID.  SENTENCE WILL BE IGNORED."}},
-    {10, 2, Habit::prints_always, {CatalystSentence{{{"TICL4", 1}}}},
-     {"SPECIFIED CATALYST ID \"TICL4   \" IS NOT A VALID", ignored}},
-    {10, 2, Habit::prints_always, {InitiatorSentence{{"AIBN"}}},
-     {"SPECIFIED INITIATOR ID \"AIBN    \" IS NOT A VALID", ignored}},
-    {10, 2, Habit::prints_always, {DistributionSentence{{{"X", 7, {}, 0}}}},
-     {"SPECIFIED POLYMER ID FOR DISTRIBUTION \"X       \" IS NOT", "A VALID COMPONENT ID.  SENTENCE WILL BE IGNORED."}},
-    {11, 2, Habit::prints_always, {polymer, SegmentSentence{{{"A", 1}, {"A", 2}}}, attributes},
-     {"SPECIFIED SEGMENT ID \"A       \" HAS BEEN USED", "PREVIOUSLY.  SENTENCE WILL BE IGNORED."}},
-    {22, 2, Habit::composes_on_one, {AttributeSentence{{{"X", {"DPN"}}}}},
-     {"SPECIFIED COMPONENT ID \"X       \" IS NOT VALID.", "SENTENCE WILL BE IGNORED."}},
-    {24, 2, Habit::composes_on_one, {polymer, segments, AttributeSentence{{{"P", {"SFLOW"}}}}},
-     {"THE ZEROTH MOMENT ATTRIBUTE (ZMOM) MUST BE SPECIFIED", "FOR POLYMER COMPONENT \"P       \"."}},
-    {25, 2, Habit::composes_on_one, {polymer, segments, AttributeSentence{{{"P", {"ZMOM"}}}}},
-     {"THE SEGMENT FLOW ATTRIBUTE (SFLOW) MUST BE SPECIFIED", "FOR POLYMER COMPONENT \"P       \"."}},
-    {26, 2, Habit::composes_on_one, {catalyst, AttributeSentence{{{"K", {"CVSFLOW"}}}}},
-     {"THE POTENTIAL SITE ATTRIBUTE (CPSFLOW) MUST BE SPECIFIED", "FOR CATALYST COMPONENT \"K       \"."}},
-    {27, 2, Habit::composes_on_one, {catalyst, AttributeSentence{{{"K", {"CPSFLOW"}}}}},
-     {"THE VACANT SITE ATTRIBUTE (CVSFLOW) MUST BE SPECIFIED", "FOR CATALYST COMPONENT \"K       \"."}},
-    {28, 1, Habit::composes_on_one, {AttributeSentence{{{"W", {"EFRAC"}}}}},
-     {"The EFRAC attribute can only be used if one or more segments are",
-      "declared as end segments. Uncheck EFRAC in the attribute list on",
-      "the polymer characterization form or declare some segments as ends",
-      "in the segment characterization form."}},
-    {30, 2, Habit::composes_on_one, {polymer, segments},
-     {"A COMP-ATTR SENTENCE MUST BE ENTERED FOR POLYMER \"P       \"."}},
-    {31, 2, Habit::composes_on_one, {catalyst},
-     {"A COMP-ATTR SENTENCE MUST BE ENTERED FOR CATALYST \"K       \"."}},
+// P to I have attribute entries, although none is accepted; O is polymer and catalyst without any.
+const std::vector<Sentence> everything_wrong{
+    PolymerSentence{{"P", "NYLON", "P", "Q", "O"}},
+    SegmentSentence{{{"LONGNAME", 1}, {"A", 2}, {"A", 1}}},
+    OligomerSentence{{{"OLIGO", "A", 1}, {"O", "X", 1}, {"O", "C", 1}}},
+    CatalystSentence{{{"TICL4", 1}, {"K", 1}, {"I", 1}, {"O", 1}}},
+    InitiatorSentence{{"AIBN"}},
+    AttributeSentence{{{"X", {"DPN"}},
+                       {"P", {"SFLOW"}},
+                       {"Q", {"ZMOM"}},
+                       {"K", {"CVSFLOW"}},
+                       {"I", {"CPSFLOW"}},
+                       {"W", {"EFRAC"}}}},
+    DistributionSentence{{{"X", 7, {}, 0}}},
 };
-// clang-format on
+const Texts all_messages{
+    R"(4 / SPECIFIED POLYMER ID "NYLON   " IS NOT A VALID / COMPONENT ID.  SENTENCE WILL BE IGNORED.)",
+    R"(5 / SPECIFIED POLYMER ID "P       " HAS BEEN USED / PREVIOUSLY.  SENTENCE WILL BE IGNORED.)",
+    R"(6 / SPECIFIED SEGMENT ID "LONGNAME" IS NOT A VALID / COMPONENT ID.  SENTENCE WILL BE IGNORED.)",
+    R"(11 / SPECIFIED SEGMENT ID "A       " HAS BEEN USED / PREVIOUSLY.  SENTENCE WILL BE IGNORED.)",
+    R"(7 / SPECIFIED OLIGOMER ID "OLIGO   " IS NOT A VALID / COMPONENT ID.  SENTENCE WILL BE IGNORED.)",
+    R"(8 / SPECIFIED SEGMENT ID "X       " FOR OLIGOMER "O       " / )"
+    "IS NOT A VALID COMPONENT ID.  SENTENCE WILL BE IGNORED.",
+    R"(9 / SPECIFIED SEGMENT ID "C       " FOR OLIGOMER "O       " / )"
+    "IS NOT A VALID SEGMENT ID.  SENTENCE WILL BE IGNORED.",
+    R"(10 / SPECIFIED CATALYST ID "TICL4   " IS NOT A VALID / COMPONENT ID.  SENTENCE WILL BE IGNORED.)",
+    R"(10 / SPECIFIED INITIATOR ID "AIBN    " IS NOT A VALID / COMPONENT ID.  SENTENCE WILL BE IGNORED.)",
+    R"(22 / SPECIFIED COMPONENT ID "X       " IS NOT VALID. / SENTENCE WILL BE IGNORED.)",
+    R"(24 / THE ZEROTH MOMENT ATTRIBUTE (ZMOM) MUST BE SPECIFIED / FOR POLYMER COMPONENT "P       ".)",
+    R"(25 / THE SEGMENT FLOW ATTRIBUTE (SFLOW) MUST BE SPECIFIED / FOR POLYMER COMPONENT "Q       ".)",
+    R"(26 / THE POTENTIAL SITE ATTRIBUTE (CPSFLOW) MUST BE SPECIFIED / FOR CATALYST COMPONENT "K       ".)",
+    R"(27 / THE VACANT SITE ATTRIBUTE (CVSFLOW) MUST BE SPECIFIED / FOR CATALYST COMPONENT "I       ".)",
+    "28 / The EFRAC attribute can only be used if one or more segments are / "
+    "declared as end segments. Uncheck EFRAC in the attribute list on / "
+    "the polymer characterization form or declare some segments as ends / "
+    "in the segment characterization form.",
+    R"(30 / A COMP-ATTR SENTENCE MUST BE ENTERED FOR POLYMER "O       ".)",
+    R"(31 / A COMP-ATTR SENTENCE MUST BE ENTERED FOR CATALYST "O       ".)",
+    R"(10 / SPECIFIED POLYMER ID FOR DISTRIBUTION "X       " IS NOT / )"
+    "A VALID COMPONENT ID.  SENTENCE WILL BE IGNORED.",
+};
 
-Lines with_margin(Lines lines)
+// "7 / first line / second line" for each message.
+Texts printed(const MessageLog& log)
 {
-    for (auto& line : lines) line.insert(0, "      ");
-    return lines;
+    Texts texts;
+    for (const Message& message : log.printed()) {
+        EXPECT_EQ(message.routine, "POLSEM");
+        EXPECT_EQ(message.severity, message.number == 28 ? 1 : 2);
+        texts.push_back(std::to_string(message.number));
+        for (const std::string& line : message.lines) {
+            EXPECT_EQ(line.substr(0, 6), "      ");
+            texts.back() += " / " + line.substr(6);
+        }
+    }
+    return texts;
 }
 
 }  // namespace
 
 TEST(InputMessages, AreComposedAsTheHostAllows)
 {
+    struct Case {
+        std::vector<Sentence> sentences;
+        Texts messages;
+        std::vector<Int> composed_on_two;  // the others are composed on the answer 1 alone
+        Int printed_though_suppressed;     // the others are printed only when composed
+    };
+    const Case cases[] = {
+        {{}, {"1 / THIS POLYMERS PARAGRAPH HAS NO SENTENCES."}, {1}, 1},
+        {{segments}, {"2 / NO POLYMER WAS SPECIFIED IN THIS PARAGRAPH / PARAGRAPH WILL BE IGNORED."}, {2}, 1},
+        {{polymer}, {"3 / NO SEGMENT WAS SPECIFIED IN THIS PARAGRAPH / PARAGRAPH WILL BE IGNORED."}, {3}, 1},
+        {everything_wrong, all_messages, {4, 5, 6, 11, 7, 8, 9, 10, 10, 10}, 8},  // all of these but 8 and 9
+    };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.lines.front());
         CheckedParagraph world;
         MessageLog& log = world.host.messages();
         world.check(c.sentences);
-        ASSERT_EQ(log.printed().size(), 1u);
-        const Message& message = log.printed().front();
-        EXPECT_EQ(message.routine, "POLSEM");
-        EXPECT_EQ(message.number, c.number);
-        EXPECT_EQ(message.severity, c.severity);
-        EXPECT_EQ(message.lines, with_margin(c.lines));
-
-        log.answer(c.number, 2);
-        world.check(c.sentences);
-        EXPECT_EQ(log.printed().size(), c.habit == Habit::composes_on_one ? 0u : 1u);
-
-        log.suppress(c.number);
-        world.check(c.sentences);
-        EXPECT_TRUE(log.printed().empty());
-        EXPECT_EQ(log.prints_of_suppressed(), c.habit == Habit::prints_always ? 1 : 0);
+        EXPECT_EQ(printed(log), c.messages);
+        for (const auto& [answer, numbers] : {std::pair{2, c.composed_on_two}, {0, {}}}) {
+            for (Int number = 1; number <= 31; ++number) log.answer(number, answer);
+            world.check(c.sentences);
+            EXPECT_EQ(world.message_numbers(), numbers);
+        }
+        EXPECT_EQ(log.prints_of_suppressed(), c.printed_though_suppressed);
     }
 }

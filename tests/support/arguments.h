@@ -3,6 +3,8 @@
 //   call(POLY_GETRAT, 1, 2, ids, fractions, ratio);
 #pragma once
 
+#include <concepts>
+
 #include "support/guarded.h"
 #include "support/trap_floating_point.h"
 
@@ -29,30 +31,19 @@ struct CountMatrix {
 
 // Integers and reals stand for themselves, vectors for their elements, nullptr for an argument that is not
 // read.
-inline std::int64_t* address(std::int64_t& value)
-{
-    return &value;
-}
 inline const std::int64_t* address(const std::int64_t& value)
 {
     return &value;
 }
-inline double* address(double& value)
+template <typename Argument>
+requires(!std::same_as<Argument, int>) auto address(Argument& argument)
 {
-    return &value;
-}
-inline std::nullptr_t address(std::nullptr_t)
-{
-    return nullptr;
-}
-inline const double* address(const double* values)
-{
-    return values;
-}
-template <typename Array>
-auto address(Array& values) -> decltype(values.data())
-{
-    return values.data();
+    if constexpr (requires { argument.data(); })
+        return argument.data();
+    else if constexpr (std::is_convertible_v<Argument, const double*>)
+        return argument;
+    else
+        return &argument;
 }
 
 template <typename Routine, typename... Arguments>
