@@ -20,10 +20,11 @@ const AttributeSentence attributes{{{"P", {"ZMOM", "SFLOW"}}, {"Q", {"ZMOM", "SF
 TEST(PolymerParagraph, ListsSegmentsByIndexAndTheRestByOrderOfInput)
 {
     CheckedParagraph world;
+    // Of two sentences of a kind the last holds; no kind has the number 9.
     world.check(
-        {PolymerSentence{{"Q", "X", "P", "Q"}},
+        {SegmentSentence{{{"I", 1}}}, PolymerSentence{{"P", "X"}}, attributes, SentenceWords{9, {1, 2, 3}},
          SegmentSentence{{{"E", 1}, {"B", 4}, {"A", 1}, {"D", 3}, {"X", 1}, {"C", 9}, {"B", 2}, {"W", 2}}},
-         attributes});
+         PolymerSentence{{"Q", "X", "P", "Q"}}});
     EXPECT_EQ(world.list(word::segments), "W A B C D E");
     EXPECT_EQ(world.integers(world.block(word::segments), 8, 6), (Ints{2, 1, 4, 9, 3, 1}));
     EXPECT_EQ(world.list(word::end_segments), "E A");
@@ -48,8 +49,6 @@ TEST(PolymerParagraph, LaysOligomersByIndexWithTheLaterOfTwoCounts)
     EXPECT_EQ(world.list(word::oligomers), "P O R");
     EXPECT_EQ(world.reals(world.block(word::oligomers), 9), (Reals{0, 0, 0, 3, 1, 0, 0, 0, 5}));
     EXPECT_EQ(world.message_numbers(), (Ints{7, 7, 8}));
-    EXPECT_EQ(world.host.store().integer(world.block(word::parameters), 4), 3);
-    EXPECT_EQ(world.list(word::polymers), "");
 }
 
 TEST(PolymerParagraph, KeepsThePlacesOfUnknownCatalystsAndInitiators)
@@ -69,7 +68,7 @@ TEST(PolymerParagraph, KeepsThePlacesOfUnknownCatalystsAndInitiators)
     EXPECT_EQ(world.list(word::initiators), "-");
 }
 
-TEST(PolymerParagraph, CountsItsEntriesAndKeepsEarlierParametersWhereNewOnesAreZero)
+TEST(PolymerParagraph, CountsEntriesForItsParametersAndAttributeGroups)
 {
     CheckedParagraph world;
     world.check({PolymerSentence{{"P", "X"}},
@@ -79,27 +78,21 @@ TEST(PolymerParagraph, CountsItsEntriesAndKeepsEarlierParametersWhereNewOnesAreZ
     const BlockId parameters = world.block(word::parameters);
     EXPECT_EQ(world.integers(parameters, 1, 13), (Ints{3, 2, 6, 2, 1, 1, 1, 2, 1, 0, 21, 22, 23}));
     EXPECT_EQ(world.reals(parameters, 1), (Reals{0.25}));
+    const BlockId layout = world.block(word::layout);
+    // Six words, one more than segments, for each of five groups; four, one more than site types, for six.
+    EXPECT_EQ(world.integers(layout, 2, 22),
+              (Ints{1, 7, 13, 19, 25, 31, 35, 39, 43, 47, 51, 6, 6, 6, 6, 6, 4, 4, 4, 4, 4, 4}));
+    EXPECT_EQ(world.host.store().integer_length(layout), 23);
+    EXPECT_EQ(world.host.store().real_length(layout), 55);
 
     world.check({polymer, SegmentSentence{{{"A", 2}}}, attributes});
     EXPECT_EQ(world.block(word::parameters), parameters);
-    EXPECT_EQ(world.integers(parameters, 1, 13), (Ints{0, 1, 1, 2, 1, 1, 1, 2, 1, 0, 21, 22, 23}));
+    EXPECT_EQ(world.integers(parameters, 1, 13), (Ints{0, 1, 1, 2, 1, 1, 1, 2, 1, 0, 21, 22, 23}))
+        << "what would be zero now stays as it was, but for the site types";
     EXPECT_EQ(world.reals(parameters, 1), (Reals{0}));
-}
-
-TEST(PolymerParagraph, LaysAttributeGroupsEndToEnd)
-{
-    CheckedParagraph world;
-    world.check({polymer, SegmentSentence{{{"A", 1}, {"B", 2}, {"X", 2}}}, SiteSentence{4}, attributes});
-    const BlockId layout = world.block(word::layout);
-    EXPECT_EQ(world.integers(layout, 2, 22), (Ints{1, 4, 7, 10, 13, 16, 21, 26, 31, 36, 41,  //
-                                                   3, 3, 3, 3,  3,  5,  5,  5,  5,  5,  5}));
-    EXPECT_EQ(world.host.store().integer_length(layout), 23);
-    EXPECT_EQ(world.host.store().real_length(layout), 5 * 2 + 6 * 4 + 12);
-
-    world.check({InitiatorSentence{{"I"}}});
     EXPECT_FALSE(world.host.store().exists(layout)) << "a replaced table is freed";
     EXPECT_EQ(world.integers(world.block(word::layout), 2, 22),
-              (Ints{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1}));
+              (Ints{1, 3, 5, 7, 9, 11, 12, 13, 14, 15, 16, 2, 2, 2, 2, 2, 1, 1, 1, 1, 1, 1}));
 }
 
 TEST(PolymerParagraph, FilesDistributionRequestsByType)
@@ -125,16 +118,6 @@ TEST(PolymerParagraph, FilesDistributionRequestsByType)
 
     world.check({polymer, segments, attributes});
     EXPECT_EQ(world.integers(world.block(word::distributions), 1, 5), (Ints{4, 0, 0, 0, 0}));
-}
-
-TEST(PolymerParagraph, TakesTheLastSentenceOfAKindAndSkipsUnknownKinds)
-{
-    CheckedParagraph world;
-    world.check({SegmentSentence{{{"A", 1}}}, attributes, PolymerSentence{{"P", "X"}},
-                 SentenceWords{9, {1, 2, 3}}, PolymerSentence{{"Q"}}, SegmentSentence{{{"B", 1}, {"C", 1}}}});
-    EXPECT_TRUE(world.host.messages().printed().empty());
-    EXPECT_EQ(world.list(word::polymers), "Q");
-    EXPECT_EQ(world.list(word::end_segments), "B C");
 }
 
 TEST(PolymerParagraph, ReadsNothingBeyondAFaultySentence)
