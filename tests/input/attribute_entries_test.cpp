@@ -6,8 +6,6 @@
 using namespace support;
 using namespace minihost;
 
-using Ints = std::vector<Int>;
-
 TEST(AttributeEntries, AreForwardedWhenTheyHoldWhatTheirRolesNeed)
 {
     struct Case {
@@ -38,13 +36,12 @@ TEST(AttributeEntries, AreForwardedWhenTheyHoldWhatTheirRolesNeed)
          ""},
         {"suppressed: the next check follows", {{"Q", {"DPN"}}}, {24}, {25}, ""},
         {"suppressed: forwarded as it is", {{"Q", {"DPN"}}}, {24, 25}, {}, "Q:DPN"},
-        {"unknown and suppressed: no role", {{"X", {"DPN"}}}, {22}, {}, "X:DPN"},
-        {"EFRAC with an end segment", {{"W", {"DPN", "EFRAC"}}}, {}, {}, "W:DPN,EFRAC", 1},
-        {"EFRAC suppressed: scanning goes on",
-         {{"Q", {"EFRAC", "ZMOM", "SFLOW"}}},
-         {28},
+        {"suppressed: scanning goes on, and what is unknown has no role",
+         {{"Q", {"EFRAC", "ZMOM", "SFLOW"}}, {"X", {"DPN"}}},
+         {22, 28},
          {},
-         "Q:EFRAC,ZMOM,SFLOW"},
+         "Q:EFRAC,ZMOM,SFLOW X:DPN"},
+        {"EFRAC with an end segment", {{"W", {"DPN", "EFRAC"}}}, {}, {}, "W:DPN,EFRAC", 1},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);

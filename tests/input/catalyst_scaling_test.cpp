@@ -10,8 +10,6 @@ using namespace minihost;
 
 namespace {
 
-using Reals = std::vector<double>;
-
 constexpr double bound = 1e35;
 constexpr double not_a_number = std::numeric_limits<double>::quiet_NaN();
 

@@ -12,6 +12,8 @@
 namespace support {
 
 using minihost::Int;
+using Ints = std::vector<Int>;
+using Reals = std::vector<double>;
 
 /// Words of the polymer block.
 namespace word {
@@ -38,22 +40,22 @@ struct CheckedParagraph {
         return status;
     }
 
-    std::vector<Int> message_numbers()
+    Ints message_numbers()
     {
-        std::vector<Int> numbers;
+        Ints numbers;
         for (const auto& message : host.messages().printed()) numbers.push_back(message.number);
         return numbers;
     }
     minihost::BlockId block(Int word) { return host.store().integer(host.polymer_block(), word); }
-    std::vector<Int> integers(minihost::BlockId id, Int first, Int count)
+    Ints integers(minihost::BlockId id, Int first, Int count)
     {
-        std::vector<Int> words;
+        Ints words;
         for (Int k = 0; k < count; ++k) words.push_back(host.store().integer(id, first + k));
         return words;
     }
-    std::vector<double> reals(minihost::BlockId id, Int count)
+    Reals reals(minihost::BlockId id, Int count)
     {
-        std::vector<double> words;
+        Reals words;
         for (Int k = 1; k <= count; ++k) words.push_back(host.store().real(id, k));
         return words;
     }

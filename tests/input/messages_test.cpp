@@ -77,20 +77,25 @@ TEST(InputMessages, AreComposedAsTheHostAllows)
     struct Case {
         std::vector<Sentence> sentences;
         Texts messages;
-        std::vector<Int> composed_on_two;  // the others are composed on the answer 1 alone
-        Int printed_though_suppressed;     // the others are printed only when composed
+        Ints composed_on_two;           // the others are composed on the answer 1 alone
+        Int printed_though_suppressed;  // the others are printed only when composed
     };
     const Case cases[] = {
         {{}, {"1 / THIS POLYMERS PARAGRAPH HAS NO SENTENCES."}, {1}, 1},
         {{segments}, {"2 / NO POLYMER WAS SPECIFIED IN THIS PARAGRAPH / PARAGRAPH WILL BE IGNORED."}, {2}, 1},
         {{polymer}, {"3 / NO SEGMENT WAS SPECIFIED IN THIS PARAGRAPH / PARAGRAPH WILL BE IGNORED."}, {3}, 1},
+        {{OligomerSentence{{{"O", "A", 1}}}},
+         {"3 / NO SEGMENT WAS SPECIFIED IN THIS PARAGRAPH / PARAGRAPH WILL BE IGNORED."},
+         {3},
+         1},
         {everything_wrong, all_messages, {4, 5, 6, 11, 7, 8, 9, 10, 10, 10}, 8},  // all of these but 8 and 9
     };
     for (const Case& c : cases) {
         CheckedParagraph world;
         MessageLog& log = world.host.messages();
-        world.check(c.sentences);
+        EXPECT_EQ(world.check(c.sentences), 0);
         EXPECT_EQ(printed(log), c.messages);
+        EXPECT_EQ(world.host.polymer_block() > 0, c.messages == all_messages) << "given up at once";
         for (const auto& [answer, numbers] : {std::pair{2, c.composed_on_two}, {0, {}}}) {
             for (Int number = 1; number <= 31; ++number) log.answer(number, answer);
             world.check(c.sentences);

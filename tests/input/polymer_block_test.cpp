@@ -9,10 +9,8 @@ using namespace minihost;
 
 namespace {
 
-using Ints = std::vector<Int>;
-using Reals = std::vector<double>;
-
 const PolymerSentence polymer{{"P"}};
+const SegmentSentence segments{{{"A", 2}}};
 const AttributeSentence attributes{{{"P", {"ZMOM", "SFLOW"}}, {"Q", {"ZMOM", "SFLOW"}}}};
 
 }  // namespace
@@ -54,14 +52,14 @@ TEST(PolymerParagraph, LaysOligomersByIndexWithTheLaterOfTwoCounts)
 TEST(PolymerParagraph, KeepsThePlacesOfUnknownCatalystsAndInitiators)
 {
     CheckedParagraph world;
-    world.check({polymer, SegmentSentence{{{"A", 2}}}, attributes,
-                 CatalystSentence{{{"W", 1.5}, {"X", 2.5}, {"K", 3.5}}}, InitiatorSentence{{"X", "I"}}});
+    world.check({polymer, segments, attributes, CatalystSentence{{{"W", 1.5}, {"X", 2.5}, {"K", 3.5}}},
+                 InitiatorSentence{{"X", "I"}}});
     EXPECT_EQ(world.list(word::catalysts), "W - K");
     EXPECT_EQ(world.reals(world.block(word::catalysts), 3), (Reals{1.5, 0, 3.5}));
     EXPECT_EQ(world.list(word::initiators), "- I");
     EXPECT_EQ(world.message_numbers(), (Ints{10, 10, 31, 31}));
     // The same sentences again must not show indices of the first time.
-    world.check({polymer, SegmentSentence{{{"A", 2}}}, attributes, CatalystSentence{{{"X", 2.5}, {"K", 3.5}}},
+    world.check({polymer, segments, attributes, CatalystSentence{{{"X", 2.5}, {"K", 3.5}}},
                  InitiatorSentence{{"X"}}});
     EXPECT_EQ(world.list(word::catalysts), "- K");
     EXPECT_EQ(world.reals(world.block(word::catalysts), 2), (Reals{0, 3.5}));
@@ -85,7 +83,7 @@ TEST(PolymerParagraph, CountsEntriesForItsParametersAndAttributeGroups)
     EXPECT_EQ(world.host.store().integer_length(layout), 23);
     EXPECT_EQ(world.host.store().real_length(layout), 55);
 
-    world.check({polymer, SegmentSentence{{{"A", 2}}}, attributes});
+    world.check({polymer, segments, attributes});
     EXPECT_EQ(world.block(word::parameters), parameters);
     EXPECT_EQ(world.integers(parameters, 1, 13), (Ints{0, 1, 1, 2, 1, 1, 1, 2, 1, 0, 21, 22, 23}))
         << "what would be zero now stays as it was, but for the site types";
@@ -98,7 +96,6 @@ TEST(PolymerParagraph, CountsEntriesForItsParametersAndAttributeGroups)
 TEST(PolymerParagraph, FilesDistributionRequestsByType)
 {
     CheckedParagraph world;
-    const Sentence segments = SegmentSentence{{{"A", 2}}};
     world.check({polymer, segments, attributes,
                  DistributionSentence{{{"P", 4, {1, 2, 3}, 0.5},
                                        {"X", 4, {9, 9, 9}, 9},
@@ -107,10 +104,8 @@ TEST(PolymerParagraph, FilesDistributionRequestsByType)
                                        {"Q", 4, {7, 8, 9}, 2.5}}}});
     EXPECT_EQ(world.message_numbers(), (Ints{10}));
     const Ints directory = world.integers(world.block(word::distributions), 1, 5);
-    EXPECT_EQ(directory[0], 4);
-    EXPECT_EQ(directory[1], 0);
-    EXPECT_EQ(directory[3], 0);
-    const Int p = world.host.components().index("P"), q = world.host.components().index("Q");
+    EXPECT_EQ((Ints{directory[0], directory[1], directory[3]}), (Ints{4, 0, 0}));
+    constexpr Int p = 7, q = 8;
     EXPECT_EQ(world.integers(directory[2], 1, 6), (Ints{1, q, 2, 4, 5, 6}));
     EXPECT_EQ(world.reals(directory[2], 1), (Reals{1.5}));
     EXPECT_EQ(world.integers(directory[4], 1, 11), (Ints{2, p, q, 4, 4, 1, 7, 2, 8, 3, 9}));
@@ -131,7 +126,7 @@ TEST(PolymerParagraph, ReadsNothingBeyondAFaultySentence)
          SentenceWords{8, {4, -1, 0, p[0], p[1]}},   // less than no entries
          SentenceWords{5, {4, 0, 1, k[0], k[1]}},    // no reals
          SentenceWords{6, {-3}},                     // shorter than its kind
-         SegmentSentence{{{"A", 2}}}, attributes,
+         segments, attributes,
          SentenceWords{
              7, {7, 13, 13, 13, 13, 3, p[0], p[1], p[0], p[1], p[0], p[1], 1, 1, 1}}});  // lists share words
     EXPECT_EQ(world.message_numbers(), (Ints{31}));
@@ -158,33 +153,14 @@ TEST(PolymerParagraph, AcceptsOneThatNamesNeitherChainsNorSegments)
     EXPECT_EQ(world.host.paragraph().times_ended(), 1) << "only a paragraph that asks for it is ended";
 }
 
-TEST(PolymerParagraph, BuildsNothingWhenItEndsEarly)
+TEST(PolymerParagraph, BuildsNothingForAnotherOperationOrAfterAnUnreadableSentence)
 {
-    const Sentence segments = SegmentSentence{{{"A", 2}}};
-    struct Case {
-        const char* name;
-        std::vector<Sentence> sentences;
-        Int op;
-        Int failing_sentence;
-        Int status;
-        Ints messages;
-    };
-    const Case cases[] = {
-        {"another operation", {polymer, segments}, 3, 0, 0, {}},
-        {"answer only", {polymer, segments}, 5, 0, 5, {}},
-        {"no sentences", {}, 2, 0, 0, {1}},
-        {"segments without chains", {segments}, 2, 0, 0, {2}},
-        {"polymers without segments", {polymer}, 2, 0, 0, {3}},
-        {"oligomers without segments", {OligomerSentence{{{"O", "A", 1}}}}, 2, 0, 0, {3}},
-        {"unreadable sentence", {polymer, segments}, 2, 2, 2, {}},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        CheckedParagraph world;
-        world.host.paragraph().fail_at(c.failing_sentence);
-        EXPECT_EQ(world.check(c.sentences, c.op), c.status);
-        EXPECT_EQ(world.message_numbers(), c.messages);
-        EXPECT_LE(world.host.polymer_block(), 0);
-        EXPECT_EQ(world.host.paragraph().times_ended(), 0);
-    }
+    CheckedParagraph world;
+    EXPECT_EQ(world.check({polymer, segments}, 3), 0);
+    EXPECT_EQ(world.check({polymer, segments}, 5), 5) << "the answer alone";
+    world.host.paragraph().fail_at(2);
+    EXPECT_EQ(world.check({polymer, segments}), 2);
+    EXPECT_TRUE(world.host.messages().printed().empty());
+    EXPECT_LE(world.host.polymer_block(), 0);
+    EXPECT_EQ(world.host.paragraph().times_ended(), 0);
 }

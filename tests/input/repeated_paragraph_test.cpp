@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <iterator>
+#include <sstream>
+
 #include "input/checked_paragraph.h"
 
 using namespace support;
@@ -7,38 +10,10 @@ using namespace minihost;
 
 namespace {
 
-using Reals = std::vector<double>;
-
-const AttributeSentence attributes{
-    {{"P", {"ZMOM", "SFLOW"}}, {"Q", {"ZMOM", "SFLOW"}}, {"K", {"CPSFLOW", "CVSFLOW"}}}};
-
-// Every segment is an end segment.
-std::vector<Sentence> paragraph(const std::vector<std::string>& polymers,
-                                const std::vector<std::string>& segments,
-                                const std::vector<OligomerSentence::Entry>& oligomers, std::size_t catalysts)
+std::vector<std::string> ids(const std::string& text)
 {
-    SegmentSentence segment_list;
-    for (const auto& id : segments) segment_list.entries.push_back({id, 1});
-    return {PolymerSentence{polymers},
-            segment_list,
-            OligomerSentence{oligomers},
-            CatalystSentence{std::vector<CatalystSentence::Entry>(catalysts, {"K", 1})},
-            InitiatorSentence{std::vector<std::string>(catalysts, "I")},
-            attributes};
-}
-
-std::string lists(CheckedParagraph& world)
-{
-    std::string text;
-    for (const Int list : {word::polymers, word::segments, word::end_segments, word::oligomers,
-                           word::catalysts, word::initiators})
-        text += world.list(list) + "/";
-    return text;
-}
-
-Reals counts(CheckedParagraph& world, Int elements)
-{
-    return world.reals(world.block(word::oligomers), elements);
+    std::istringstream words(text);
+    return {std::istream_iterator<std::string>(words), {}};
 }
 
 }  // namespace
@@ -47,43 +22,57 @@ Reals counts(CheckedParagraph& world, Int elements)
 // after it was replaced, ends the test.
 TEST(RepeatedParagraph, GrowsAndShrinksItsBlocks)
 {
+    struct Step {
+        const char* polymers;
+        const char* segments;
+        const char* catalysts;
+        std::vector<OligomerSentence::Entry> oligomers;
+        const char* listed_oligomers;
+        Reals counts;
+        bool oligomers_stay;  // in their block, which has room
+        bool catalysts_stay;
+    };
+    const Step steps[] = {
+        {"P", "A B", "K", {{"O", "B", 2}}, "O", {0, 2}, false, false},
+        {"Q P",
+         "A B C D E",
+         "K K K K",
+         {{"O", "E", 3}, {"R", "A", 4}, {"", "B", 5}},
+         "O R",
+         {0, 0, 0, 0, 3, 4, 5, 0, 0, 0},
+         false,
+         false},
+        {"P", "C", "K K", {{"R", "C", 6}}, "R", {6}, true, true},
+        {"P Q", "A B C", "K K K", {{"O", "A", 1}, {"", "C", 2}}, "O", {1, 0, 2}, false, false},
+        // Without an oligomer sentence the table holds while it fits the number of segments.
+        {"P", "A B D", "", {}, "O", {1, 0, 2}, true, true},
+        {"P", "A B C D", "", {}, "", {}, true, true},
+        {"P", "A B", "", {{"R", "B", 3}}, "R", {0, 3}, false, true},
+        // One column of more rows needs a larger block.
+        {"P", "W A B C D E I", "", {{"R", "I", 4}}, "R", {0, 0, 0, 0, 0, 0, 4}, false, true},
+    };
     CheckedParagraph world;
-    world.check(paragraph({"P"}, {"A", "B"}, {{"O", "B", 2}}, 1));
-    EXPECT_EQ(lists(world), "P/A B/A B/O/K/I/");
-    EXPECT_EQ(counts(world, 2), (Reals{0, 2}));
-    const BlockId small = world.block(word::oligomers);
+    BlockId oligomers = 0, catalysts = 0;
+    for (const Step& step : steps) {
+        SCOPED_TRACE(step.segments);
+        SegmentSentence segments;
+        for (const auto& id : ids(step.segments)) segments.entries.push_back({id, 1});
+        CatalystSentence catalyst;
+        for (const auto& id : ids(step.catalysts)) catalyst.entries.push_back({id, 1});
+        world.check({PolymerSentence{ids(step.polymers)}, segments, OligomerSentence{step.oligomers},
+                     catalyst, InitiatorSentence{ids(step.catalysts)}});
+        EXPECT_EQ(world.list(word::polymers), step.polymers);
+        EXPECT_EQ(world.list(word::segments), step.segments);
+        EXPECT_EQ(world.list(word::end_segments), step.segments);
+        EXPECT_EQ(world.list(word::catalysts), step.catalysts);
+        EXPECT_EQ(world.list(word::initiators), step.catalysts);
+        EXPECT_EQ(world.list(word::oligomers), step.listed_oligomers);
+        EXPECT_EQ(world.reals(world.block(word::oligomers), std::ssize(step.counts)), step.counts);
 
-    world.check(
-        paragraph({"Q", "P"}, {"A", "B", "C", "D", "E"}, {{"O", "E", 3}, {"R", "A", 4}, {"", "B", 5}}, 4));
-    EXPECT_EQ(lists(world), "Q P/A B C D E/A B C D E/O R/K K K K/I I I I/");
-    EXPECT_EQ(counts(world, 10), (Reals{0, 0, 0, 0, 3, 4, 5, 0, 0, 0}));
-    EXPECT_FALSE(world.host.store().exists(small)) << "too small a block is freed";
-    const BlockId oligomers = world.block(word::oligomers), catalysts = world.block(word::catalysts);
-
-    world.check(paragraph({"P"}, {"C"}, {{"R", "C", 6}}, 2));
-    EXPECT_EQ(lists(world), "P/C/C/R/K K/I I/");
-    EXPECT_EQ(counts(world, 1), (Reals{6}));
-    EXPECT_EQ(world.block(word::oligomers), oligomers) << "a block with room is used again";
-    EXPECT_EQ(world.block(word::catalysts), catalysts);
-
-    world.check(paragraph({"P", "Q"}, {"A", "B", "C"}, {{"O", "A", 1}, {"", "C", 2}}, 3));
-    EXPECT_EQ(lists(world), "P Q/A B C/A B C/O/K K K/I I I/");
-    EXPECT_EQ(counts(world, 3), (Reals{1, 0, 2}));
-}
-
-TEST(RepeatedParagraph, KeepsOligomersOnlyWhileTheirTableFitsTheSegments)
-{
-    CheckedParagraph world;
-    world.check(paragraph({"P"}, {"B", "C"}, {{"O", "B", 2}}, 0));
-    world.check(paragraph({"P"}, {"B", "C"}, {}, 0));
-    EXPECT_EQ(world.list(word::oligomers), "O");
-    world.check(paragraph({"P"}, {"A", "B", "C"}, {}, 0));
-    EXPECT_EQ(world.list(word::oligomers), "");
-    world.check(paragraph({"P"}, {"A", "B"}, {{"R", "B", 3}}, 0));
-    EXPECT_EQ(world.list(word::oligomers), "R");
-    EXPECT_EQ(counts(world, 2), (Reals{0, 3}));
-    const BlockId oligomers = world.block(word::oligomers);
-    world.check(paragraph({"P"}, {"A", "B", "C", "D", "E", "W", "I"}, {{"R", "I", 4}}, 0));
-    EXPECT_NE(world.block(word::oligomers), oligomers) << "one column of more rows needs a larger block";
-    EXPECT_EQ(counts(world, 7), (Reals{0, 0, 0, 0, 0, 0, 4}));
+        EXPECT_EQ(world.block(word::oligomers) == oligomers, step.oligomers_stay);
+        EXPECT_EQ(world.block(word::catalysts) == catalysts, step.catalysts_stay);
+        EXPECT_TRUE(step.oligomers_stay || oligomers == 0 || !world.host.store().exists(oligomers));
+        oligomers = world.block(word::oligomers);
+        catalysts = world.block(word::catalysts);
+    }
 }

@@ -5,21 +5,14 @@
 namespace support {
 namespace {
 
-minihost::Stream stream_of(const std::string& name, const std::vector<Part>& parts)
+void give(minihost::Substream& substream, const std::string& id, const Attributes& attributes)
 {
-    minihost::Stream result{name, {}};
-    for (const Part& part : parts) {
-        minihost::Substream& substream = result.substreams.emplace_back(part.type, part.flows);
-        for (const auto& [id, attributes] : part.attributes)
-            for (const Attribute& attribute : attributes)
-                substream.attributes[id][attribute.name] = attribute.values;
-    }
-    return result;
+    for (const Attribute& attribute : attributes) substream.attributes[id][attribute.name] = attribute.values;
 }
 
 }  // namespace
 
-World::World() : streams_{stream_of("CURRENT", {Part{}})}
+World::World() : streams_{{"CURRENT"}}
 {
     options_.store_mode = minihost::Store::Mode::checked;
     conventional("UNNAMED", 17);
@@ -67,18 +60,12 @@ World& World::conventional(const std::string& id, double molecular_weight, const
 
 World& World::parameter(const std::string& id, Parameter parameter, double value)
 {
-    minihost::Component& component = at(id);
-    switch (parameter) {
-        case Parameter::molecular_weight:
-            return set(component.molecular_weight, value);
-        case Parameter::dpn:
-            return set(component.dpn, value);
-        case Parameter::cry:
-            return set(component.cry, value);
-        case Parameter::pdi:
-            return set(component.pdi, value);
-    }
-    return *this;
+    using minihost::Component;
+    static const std::map<Parameter, std::optional<double> Component::*> held{
+        {Parameter::dpn, &Component::dpn},
+        {Parameter::pdi, &Component::pdi},
+        {Parameter::cry, &Component::cry}};
+    return set(at(id).*held.at(parameter), value);
 }
 
 World& World::without(Parameter parameter)
@@ -89,14 +76,17 @@ World& World::without(Parameter parameter)
 
 World& World::attributes(const std::string& id, const Attributes& given)
 {
-    auto& held = streams_.front().substreams.front().attributes[id];
-    for (const Attribute& attribute : given) held[attribute.name] = attribute.values;
+    give(streams_.front().substreams.front(), id, given);
     return *this;
 }
 
 World& World::stream(const std::string& name, const std::vector<Part>& parts)
 {
-    streams_.push_back(stream_of(name, parts));
+    auto& substreams = streams_.emplace_back(name, std::vector<minihost::Substream>{}).substreams;
+    for (const Part& part : parts) {
+        substreams.push_back({.type = part.type, .flows = part.flows});
+        for (const auto& [id, given] : part.attributes) give(substreams.back(), id, given);
+    }
     return *this;
 }
 
