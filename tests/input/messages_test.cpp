@@ -80,14 +80,12 @@ TEST(InputMessages, AreComposedAsTheHostAllows)
         Ints composed_on_two;           // the others are composed on the answer 1 alone
         Int printed_though_suppressed;  // the others are printed only when composed
     };
+    const Texts no_segment{"3 / NO SEGMENT WAS SPECIFIED IN THIS PARAGRAPH / PARAGRAPH WILL BE IGNORED."};
     const Case cases[] = {
         {{}, {"1 / THIS POLYMERS PARAGRAPH HAS NO SENTENCES."}, {1}, 1},
         {{segments}, {"2 / NO POLYMER WAS SPECIFIED IN THIS PARAGRAPH / PARAGRAPH WILL BE IGNORED."}, {2}, 1},
-        {{polymer}, {"3 / NO SEGMENT WAS SPECIFIED IN THIS PARAGRAPH / PARAGRAPH WILL BE IGNORED."}, {3}, 1},
-        {{OligomerSentence{{{"O", "A", 1}}}},
-         {"3 / NO SEGMENT WAS SPECIFIED IN THIS PARAGRAPH / PARAGRAPH WILL BE IGNORED."},
-         {3},
-         1},
+        {{polymer}, no_segment, {3}, 1},
+        {{OligomerSentence{{{"O", "A", 1}}}}, no_segment, {3}, 1},
         {everything_wrong, all_messages, {4, 5, 6, 11, 7, 8, 9, 10, 10, 10}, 8},  // all of these but 8 and 9
     };
     for (const Case& c : cases) {
