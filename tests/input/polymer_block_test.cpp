@@ -58,12 +58,6 @@ TEST(PolymerParagraph, KeepsThePlacesOfUnknownCatalystsAndInitiators)
     EXPECT_EQ(world.reals(world.block(word::catalysts), 3), (Reals{1.5, 0, 3.5}));
     EXPECT_EQ(world.list(word::initiators), "- I");
     EXPECT_EQ(world.message_numbers(), (Ints{10, 10, 31, 31}));
-    // The same sentences again must not show indices of the first time.
-    world.check({polymer, segments, attributes, CatalystSentence{{{"X", 2.5}, {"K", 3.5}}},
-                 InitiatorSentence{{"X"}}});
-    EXPECT_EQ(world.list(word::catalysts), "- K");
-    EXPECT_EQ(world.reals(world.block(word::catalysts), 2), (Reals{0, 3.5}));
-    EXPECT_EQ(world.list(word::initiators), "-");
 }
 
 TEST(PolymerParagraph, CountsEntriesForItsParametersAndAttributeGroups)

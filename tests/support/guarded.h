@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <initializer_list>
@@ -17,13 +18,10 @@ public:
     static constexpr T sentinel = std::bit_cast<T>(std::int64_t{0x40C3'87AD'DEAD'BEEF});
 
     /// `size` elements that hold the sentinel.
-    explicit Guarded(std::size_t size) : words_(size + 2 * fence, sentinel), size_(size) {}
+    explicit Guarded(std::size_t size) : words_(size + 2 * fence, sentinel) {}
 
     /// The given elements.
-    Guarded(std::initializer_list<T> values) : Guarded(values.size())
-    {
-        std::copy(values.begin(), values.end(), data());
-    }
+    Guarded(std::initializer_list<T> values) : Guarded(values.size()) { std::ranges::copy(values, data()); }
 
     T* data() { return words_.data() + fence; }
     operator T*() { return data(); }
@@ -32,18 +30,14 @@ public:
     T& operator()(std::int64_t i) { return words_.at(fence + static_cast<std::size_t>(i - 1)); }
     T operator()(std::int64_t i) const { return words_.at(fence + static_cast<std::size_t>(i - 1)); }
 
-    std::vector<T> values() const
-    {
-        const auto first = words_.begin() + static_cast<std::ptrdiff_t>(fence);
-        return {first, first + static_cast<std::ptrdiff_t>(size_)};
-    }
+    std::vector<T> values() const { return {words_.begin() + fence, words_.end() - fence}; }
 
     /// Nothing was written beside the elements.
     bool fence_holds() const
     {
-        for (std::size_t k = 0; k < fence; ++k)
-            if (words_[k] != sentinel || words_[fence + size_ + k] != sentinel) return false;
-        return true;
+        const auto is_sentinel = [](T word) { return word == sentinel; };
+        return std::all_of(words_.begin(), words_.begin() + fence, is_sentinel) &&
+               std::all_of(words_.end() - fence, words_.end(), is_sentinel);
     }
 
     bool untouched(std::int64_t i) const { return (*this)(i) == sentinel; }
@@ -54,7 +48,6 @@ public:
 private:
     static constexpr std::size_t fence = 4;
     std::vector<T> words_;
-    std::size_t size_;
 };
 
 using GuardedReals = Guarded<double>;
