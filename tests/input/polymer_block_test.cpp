@@ -15,14 +15,24 @@ const AttributeSentence attributes{{{"P", {"ZMOM", "SFLOW"}}, {"Q", {"ZMOM", "SF
 
 }  // namespace
 
-TEST(PolymerParagraph, ListsSegmentsByIndexAndTheRestByOrderOfInput)
+TEST(PolymerParagraph, ListsSegmentsAndOligomersByIndexAndTheRestByOrderOfInput)
 {
+    const SegmentSentence unsorted{
+        {{"E", 1}, {"B", 4}, {"A", 1}, {"D", 3}, {"X", 1}, {"C", 9}, {"B", 2}, {"W", 2}}};
+    // A blank ID stands for the last one written, also when that was in error; of two counts the later holds.
+    const OligomerSentence oligomers{{{"R", "C", 5},
+                                      {"O", "A", 2},
+                                      {"", "B", 1},
+                                      {"", "A", 3},
+                                      {"X", "A", 7},
+                                      {"", "B", 8},
+                                      {"P", "X", 4}}};
     CheckedParagraph world;
     // Of two sentences of a kind the last holds; no kind has the number 9.
-    world.check(
-        {SegmentSentence{{{"I", 1}}}, PolymerSentence{{"P", "X"}}, attributes, SentenceWords{9, {1, 2, 3}},
-         SegmentSentence{{{"E", 1}, {"B", 4}, {"A", 1}, {"D", 3}, {"X", 1}, {"C", 9}, {"B", 2}, {"W", 2}}},
-         PolymerSentence{{"Q", "X", "P", "Q"}}});
+    world.check({SegmentSentence{{{"I", 1}}}, PolymerSentence{{"P", "X"}}, attributes,
+                 SentenceWords{9, {1, 2, 3}}, unsorted, PolymerSentence{{"Q", "X", "P", "Q"}}, oligomers,
+                 CatalystSentence{{{"W", 1.5}, {"X", 2.5}, {"K", 3.5}}}, InitiatorSentence{{"X", "I"}}});
+    EXPECT_EQ(world.message_numbers(), (Ints{4, 5, 6, 11, 7, 7, 8, 10, 10, 31, 31}));
     EXPECT_EQ(world.list(word::segments), "W A B C D E");
     EXPECT_EQ(world.integers(world.block(word::segments), 8, 6), (Ints{2, 1, 4, 9, 3, 1}));
     EXPECT_EQ(world.list(word::end_segments), "E A");
@@ -30,34 +40,12 @@ TEST(PolymerParagraph, ListsSegmentsByIndexAndTheRestByOrderOfInput)
     EXPECT_EQ(world.list(word::type_3), "D");
     EXPECT_EQ(world.list(word::type_4), "B");
     EXPECT_EQ(world.list(word::polymers), "Q P");
-    EXPECT_EQ(world.message_numbers(), (Ints{4, 5, 6, 11}));
-}
-
-TEST(PolymerParagraph, LaysOligomersByIndexWithTheLaterOfTwoCounts)
-{
-    CheckedParagraph world;
-    // Blank IDs stand for the last one written, also when that was in error.
-    world.check({SegmentSentence{{{"C", 2}, {"A", 2}, {"B", 2}}}, OligomerSentence{{{"R", "C", 5},
-                                                                                    {"O", "A", 2},
-                                                                                    {"", "B", 1},
-                                                                                    {"", "A", 3},
-                                                                                    {"X", "A", 7},
-                                                                                    {"", "B", 8},
-                                                                                    {"P", "X", 4}}}});
     EXPECT_EQ(world.list(word::oligomers), "P O R");
-    EXPECT_EQ(world.reals(world.block(word::oligomers), 9), (Reals{0, 0, 0, 3, 1, 0, 0, 0, 5}));
-    EXPECT_EQ(world.message_numbers(), (Ints{7, 7, 8}));
-}
-
-TEST(PolymerParagraph, KeepsThePlacesOfUnknownCatalystsAndInitiators)
-{
-    CheckedParagraph world;
-    world.check({polymer, segments, attributes, CatalystSentence{{{"W", 1.5}, {"X", 2.5}, {"K", 3.5}}},
-                 InitiatorSentence{{"X", "I"}}});
-    EXPECT_EQ(world.list(word::catalysts), "W - K");
+    EXPECT_EQ(world.reals(world.block(word::oligomers), 18),
+              (Reals{0, 0, 0, 0, 0, 0, 0, 3, 1, 0, 0, 0, 0, 0, 0, 5, 0, 0}));
+    EXPECT_EQ(world.list(word::catalysts), "W - K") << "the unknown one keeps its place";
     EXPECT_EQ(world.reals(world.block(word::catalysts), 3), (Reals{1.5, 0, 3.5}));
     EXPECT_EQ(world.list(word::initiators), "- I");
-    EXPECT_EQ(world.message_numbers(), (Ints{10, 10, 31, 31}));
 }
 
 TEST(PolymerParagraph, CountsEntriesForItsParametersAndAttributeGroups)
