@@ -12,19 +12,20 @@ using Texts = std::vector<std::string>;
 const PolymerSentence polymer{{"P"}};
 const SegmentSentence segments{{{"A", 2}}};
 
-// P to I have attribute entries, although none is accepted; O is polymer and catalyst without any.
+// P to I have attribute entries, although none is accepted; W, the first component, is polymer and catalyst
+// without any.
 const std::vector<Sentence> everything_wrong{
-    PolymerSentence{{"P", "NYLON", "P", "Q", "O"}},
+    PolymerSentence{{"P", "NYLON", "P", "Q", "W"}},
     SegmentSentence{{{"LONGNAME", 1}, {"A", 2}, {"A", 1}}},
     OligomerSentence{{{"OLIGO", "A", 1}, {"O", "X", 1}, {"O", "C", 1}}},
-    CatalystSentence{{{"TICL4", 1}, {"K", 1}, {"I", 1}, {"O", 1}}},
+    CatalystSentence{{{"TICL4", 1}, {"K", 1}, {"I", 1}, {"W", 1}}},
     InitiatorSentence{{"AIBN"}},
     AttributeSentence{{{"X", {"DPN"}},
                        {"P", {"SFLOW"}},
                        {"Q", {"ZMOM"}},
                        {"K", {"CVSFLOW"}},
                        {"I", {"CPSFLOW"}},
-                       {"W", {"EFRAC"}}}},
+                       {"R", {"EFRAC"}}}},
     DistributionSentence{{{"X", 7, {}, 0}}},
 };
 const Texts all_messages{
@@ -48,8 +49,8 @@ const Texts all_messages{
     "declared as end segments. Uncheck EFRAC in the attribute list on / "
     "the polymer characterization form or declare some segments as ends / "
     "in the segment characterization form.",
-    R"(30 / A COMP-ATTR SENTENCE MUST BE ENTERED FOR POLYMER "O       ".)",
-    R"(31 / A COMP-ATTR SENTENCE MUST BE ENTERED FOR CATALYST "O       ".)",
+    R"(30 / A COMP-ATTR SENTENCE MUST BE ENTERED FOR POLYMER "W       ".)",
+    R"(31 / A COMP-ATTR SENTENCE MUST BE ENTERED FOR CATALYST "W       ".)",
     R"(10 / SPECIFIED POLYMER ID FOR DISTRIBUTION "X       " IS NOT / )"
     "A VALID COMPONENT ID.  SENTENCE WILL BE IGNORED.",
 };
