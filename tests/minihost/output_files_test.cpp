@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 #include <polyprops/host.h>
-#include <unistd.h>
 
 #include <functional>
 
 #include "minihost/host.h"
 #include "support/refusal.h"
+#include "support/scratch.h"
 #include "support/stored.h"
 #include "support/world.h"
 
@@ -54,7 +54,7 @@ TEST(ReportFile, StartsAPageWhenLinesDoNotFitAndRefusesBadOnes)
 
 TEST(SummaryFile, RefusesTokensThatBreakARule)
 {
-    const Word none = -1, zero = 0, one = 1, two = 2, blank = text_word(" ");
+    const Word zero = 0, one = 1, two = 2;
     const Word packed = text_word("NPOINT"), longer[] = {text_word("YCSD"), text_word("S")};
     const double unset = 1e35;
     const struct {
@@ -70,18 +70,15 @@ TEST(SummaryFile, RefusesTokensThatBreakARule)
         {0, -1, &zero, 1.0, "an integer where none belongs"},
         {0, 6, &packed, unset, "four blanks"},
         {0, 11, longer, unset, "1 to 10 characters"},
-        {3, 4, longer, unset, ""},
         {7, 2, longer, unset, "beyond the length"},
         {1, 1, longer, unset, "beyond the length"},
         {8, 0, &two, unset, "the integer 1"},
-        {1, 1, &blank, unset, ""},
-        {0, -1, &none, 1.0, ""},
     };
     for (const auto& c : cases) {
         World world;
         const auto seen =
             refusal([&] { world.host().summary().write_token(c.kind, c.length, c.data, c.real); });
-        EXPECT_TRUE(*c.reason ? contains(seen, c.reason) : seen.empty()) << c.reason << ": " << seen;
+        EXPECT_TRUE(contains(seen, c.reason)) << c.reason << ": " << seen;
     }
     World world;
     auto& summary = world.host().summary();
@@ -91,7 +88,7 @@ TEST(SummaryFile, RefusesTokensThatBreakARule)
 
 TEST(OutputFiles, AreWrittenWholeOrNotAtAll)
 {
-    const fs::path directory = fs::temp_directory_path() / ("polyprops_output_" + std::to_string(::getpid()));
+    const fs::path directory = support::scratch() / "minihost";
     fs::create_directories(directory / "taken" / "by");
     World world;
     auto& host = world.host();
