@@ -1,161 +1,98 @@
 """Opens HTML reports in headless Chromium: no console error, charts drawn, table numbers equal to the JSON.
 
-    html_check.py PROGRAM CASE… [--screenshots DIR]
+    html_check.py PROGRAM CASE…
 
 Exits with 77, which CTest shows as skipped, where there is no Chromium.
 """
 
-import argparse
-import html.parser
+import html
 import json
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
 import tempfile
 
-SKIPPED = 77
-
-# Run in the page after its own scripts: what the page alone can tell goes into an attribute of its root.
+# Run in the page after its own scripts: what the page shows goes into an attribute of its root.
 PROBE = """
 <script>
-addEventListener("error", (event) => document.documentElement.setAttribute("data-error", event.message));
+const seen = { errors: [] };
+addEventListener("error", (event) => seen.errors.push(event.message));
 addEventListener("load", () => setTimeout(() => {
     const blank = (canvas) => {
         const pixels = canvas.getContext("2d").getImageData(0, 0, canvas.width, canvas.height).data;
         return canvas.width === 0 || !pixels.some((value, i) => i % 4 === 3 && value > 0);
     };
     const canvases = [...document.querySelectorAll("canvas")];
-    document.documentElement.setAttribute("data-blank", canvases.filter(blank).length);
-    document.documentElement.setAttribute("data-legends", Object.values(Chart.instances).map((chart) => {
+    seen.charts = canvases.length;
+    seen.blank = canvases.filter(blank).length;
+    seen.legends = Object.values(Chart.instances).filter((chart) => {
         const before = chart.isDatasetVisible(0);
         const box = chart.legend.legendHitBoxes[0];
         chart.options.plugins.legend.onClick.call(chart.legend, {}, chart.legend.legendItems[0], chart.legend);
         return box && before && !chart.isDatasetVisible(0);
-    }).join());
+    }).length;
+    seen.tables = [...document.querySelectorAll("table")].map((table) => {
+        const keys = [...table.tHead.rows[0].cells].map((head) => head.dataset.key);
+        const value = (cell) => "value" in cell.dataset ? Number(cell.dataset.value) : cell.textContent;
+        const rows = [...table.tBodies[0].rows].map((row) =>
+            Object.fromEntries([...row.cells].map((cell, i) => [keys[i], value(cell)])));
+        const section = table.closest("section").dataset;
+        return { place: [section.kind, section.name, table.dataset.table].join(" "), rows };
+    });
+    document.documentElement.setAttribute("data-seen", JSON.stringify(seen));
 }, 500));
 </script>
 """
 
 
-class Tables(html.parser.HTMLParser):
-    """Rows of numbers and texts by section and table, and the attributes of the root."""
-
-    def __init__(self):
-        super().__init__()
-        self.root, self.rows, self.canvases = {}, {}, 0
-        self.section = self.table = self.cell = None
-
-    def handle_starttag(self, tag, attributes):
-        found = dict(attributes)
-        if tag == "html":
-            self.root = found
-        elif tag == "section":
-            self.section = (found.get("data-kind"), found.get("data-name"))
-        elif tag == "canvas":
-            self.canvases += 1
-        elif tag == "table":
-            self.table = self.rows.setdefault((*self.section, found["data-table"]), {"keys": [], "rows": []})
-        elif tag == "th":
-            self.table["keys"].append(found["data-key"])
-        elif tag == "tr":
-            self.table["rows"].append([])
-        elif tag == "td":
-            value = found.get("data-value")
-            self.cell = None if value is not None else ""
-            self.table["rows"][-1].append(float(value) if value is not None else "")
-
-    def handle_data(self, data):
-        if self.cell is not None:
-            self.cell += data
-
-    def handle_endtag(self, tag):
-        if tag == "td" and self.cell is not None:
-            self.table["rows"][-1][-1] = self.cell
-            self.cell = None
-
-
-def chromium():
-    for name in ("chromium", "chromium-browser", "google-chrome"):
-        if path := shutil.which(name):
-            return path
-    return None
-
-
-def browse(browser, page, *options):
-    return subprocess.run(
-        [browser, "--headless", "--no-sandbox", "--disable-gpu", "--disable-dev-shm-usage", "--enable-logging=stderr",
-         "--log-level=0", "--virtual-time-budget=5000", *options, page.as_uri()],
-        capture_output=True, text=True, timeout=300)
-
-
 def faults_of(page, report, browser):
     probed = page.with_suffix(".probe.html")
     probed.write_text(page.read_text().replace("<script type=", PROBE + "<script type=", 1))
-    seen = browse(browser, probed, "--dump-dom")
-    tables = Tables()
-    tables.feed(seen.stdout)
-    faults = [line for line in seen.stderr.splitlines() if "CONSOLE" in line]
-    if "data-error" in tables.root:
-        faults.append(tables.root["data-error"])
-    if tables.root.get("data-blank") != "0":
-        faults.append(f"blank canvases: {tables.root.get('data-blank')}")
-    if any(switched != "true" for switched in tables.root.get("data-legends", "").split(",")) and tables.canvases:
-        faults.append(f"legends that switch nothing: {tables.root.get('data-legends')}")
+    browsed = subprocess.run(
+        [browser, "--headless", "--no-sandbox", "--disable-gpu", "--disable-dev-shm-usage", "--enable-logging=stderr",
+         "--log-level=0", "--virtual-time-budget=5000", "--dump-dom", probed.as_uri()],
+        capture_output=True, text=True, timeout=300)
+    seen = json.loads(html.unescape(re.search('data-seen="([^"]*)"', browsed.stdout)[1]))
+    faults = seen["errors"] + [line for line in browsed.stderr.splitlines() if "CONSOLE" in line]
+    charts = len(report.get("distributions", [])) + sum(
+        len({row["temperature"] for row in entry["binary_parameters"]}) > 1 for entry in report.get("parameters", []))
+    for what, count, expected in (("charts", seen["charts"], charts), ("blank charts", seen["blank"], 0),
+                                  ("legends that switch", seen["legends"], charts)):
+        if count != expected:
+            faults.append(f"{count} {what}, expected {expected}")
     if "http" in page.read_text().replace("https://www.chartjs.org", "").split("<script>")[0]:
         faults.append("an outside link")
-    return faults + differences(tables.rows, report), tables.canvases, len(tables.rows)
-
-
-def differences(shown, report):
-    faults = []
+    shown = {table["place"]: table["rows"] for table in seen["tables"]}
     for kind in ("stream", "reactor", "distribution", "parameter"):
         for section in report.get(kind + "s", []):
             for key, rows in section.items():
-                if not isinstance(rows, list) or not rows or key in ("distribution_curves", "gpc_curve"):
-                    continue
-                table = shown.get((kind, section["name"], key))
-                if table is None:
-                    faults.append(f"{kind} {section['name']}: no table {key}")
-                    continue
-                seen = [dict(zip(table["keys"], row)) for row in table["rows"] if row]
-                if seen != rows:
-                    faults.append(f"{kind} {section['name']}: {key} differs from the JSON")
-    return faults
+                if isinstance(rows, list) and rows and key not in ("distribution_curves", "gpc_curve"):
+                    place = f"{kind} {section['name']} {key}"
+                    if shown.get(place) != rows:
+                        faults.append(f"{place} is missing or differs from the JSON")
+    return faults, f"{len(shown)} tables, {charts} charts"
 
 
 def main():
-    parser = argparse.ArgumentParser()
-    parser.add_argument("program")
-    parser.add_argument("cases", nargs="+")
-    parser.add_argument("--screenshots", type=pathlib.Path)
-    options = parser.parse_args()
-    browser = chromium()
+    program, *cases = sys.argv[1:]
+    browser = next(filter(None, map(shutil.which, ("chromium", "chromium-browser", "google-chrome"))), None)
     if browser is None:
         print("skipped: no Chromium on this machine")
-        return SKIPPED
+        return 77
     status = 0
     with tempfile.TemporaryDirectory() as directory:
-        for case in options.cases:
+        for case in cases:
             # Status 1: a case with something to report, which the page reports as well.
-            ran = subprocess.run([options.program, "run", case, "--out", directory], capture_output=True, text=True)
+            ran = subprocess.run([program, "run", case, "--out", directory], capture_output=True, text=True)
             if ran.returncode > 1:
                 sys.exit(f"{case}: {ran.stderr}")
-            stem = pathlib.Path(directory) / pathlib.Path(case).stem
-            page = stem.with_name(stem.name + ".html")
-            report = json.loads(stem.with_name(stem.name + ".json").read_text())
-            faults, canvases, tables = faults_of(page, report, browser)
-            expected = len(report.get("distributions", [])) + sum(
-                len({row["temperature"] for row in entry["binary_parameters"]}) > 1
-                for entry in report.get("parameters", []))
-            if canvases != expected:
-                faults.append(f"{canvases} charts, expected {expected}")
-            print(f"{case}: {tables} tables, {canvases} charts, {'; '.join(faults) or 'sound'}")
+            page = pathlib.Path(directory, pathlib.Path(case).stem + ".html")
+            report = json.loads(page.with_suffix(".json").read_text())
+            faults, contents = faults_of(page, report, browser)
+            print(f"{case}: {contents}, {'; '.join(faults) or 'sound'}")
             status = status or bool(faults)
-            if options.screenshots:
-                options.screenshots.mkdir(parents=True, exist_ok=True)
-                shot = options.screenshots.resolve() / (stem.name + ".png")
-                browse(browser, page, f"--screenshot={shot}", "--window-size=1100,2600")
     return int(status)
 
 
