@@ -1,29 +1,19 @@
-#include <gtest/gtest.h>
-
-#include "cli/case_reader.h"
 #include "cli/load.h"
+#include "cli/program.h"
 #include "support/edited.h"
 
 namespace {
 
+using namespace cli_test;
 using support::with;
 
 // Line numbers below count from the first line after the opening bracket.
-const std::string good = R"([components.WATER]
-class = "conventional"
-molecular_weight = 18.015
-[components.A-R]
-class = "segment"
-molecular_weight = 100
-[components.B-E]
-class = "segment"
-molecular_weight = 50
-[components.P]
-class = "polymer"
-molecular_weight = 100
-[components.O]
-class = "oligomer"
-molecular_weight = 150
+const std::string good = R"([components]
+WATER = { class = "conventional", molecular_weight = 18.015 }
+A-R = { class = "segment", molecular_weight = 100 }
+B-E = { class = "segment", molecular_weight = 50 }
+P = { class = "polymer", molecular_weight = 100 }
+O = { class = "oligomer", molecular_weight = 150 }
 [polymers]
 segments = [{ id = "A-R", type = "repeat" }, { id = "B-E", type = "end" }]
 polymers = ["P"]
@@ -34,9 +24,23 @@ flows = { P = 1.0 }
 [streams.S.attributes.P]
 ZMOM = 0.5
 SFLOW = [1.0, 2.0]
+[streams.T]
+flows = { O = 1 }
+[properties.V]
+unit = "cm3/mol"
+segments = { A-R = 10, B-E = 20 }
+[reactors.R]
+inlet = "T"
+outlet = "S"
+[distributions.D]
+points = 9
+longest_chain = 99
+sites = [{ tau = 1, amount = 1 }]
+[parameters.K]
+components = ["P", "O"]
+temperatures = [300]
+pairs = [{ components = ["P", "O"], values = [0, 0, 0, 0, 0, 300] }]
 )";
-
-using Lines = std::vector<std::string>;
 
 Lines diagnose(const std::string& text)
 {
@@ -48,96 +52,134 @@ Lines diagnose(const std::string& text)
     return cli::add_streams(input, checked).lines("c.toml");
 }
 
-TEST(CaseDiagnostics, AcceptsAGoodCase)
+TEST(CaseDiagnostics, NamePlaceKeyValueAndExpectation)
 {
     EXPECT_EQ(diagnose(good), Lines{});
-}
-
-TEST(CaseDiagnostics, NamesPlaceKeyValueAndExpectation)
-{
     struct Row {
         const char* old;
         const char* replacement;
         const char* diagnostic;
     };
     const Row rows[] = {
-        {"ZMOM = 0.5", "zmon = 0.5", R"(24:1: unknown key "zmon"; did you mean "ZMOM"?)"},
-        {"class = \"conv", "clas = \"conv", R"(2:1: unknown key "clas"; did you mean "class"?)"},
+        {"ZMOM = 0.5", "zmon = 0.5", R"(15:1: unknown key "zmon"; did you mean "ZMOM"?)"},
+        {"class = \"conv", "clas = \"conv", R"(2:11: unknown key "clas"; did you mean "class"?)"},
         {"class = \"conventional\"", "colour = 1",
-         R"(2:1: unknown key "colour"; expected one of class, molecular_weight, name, dpn, pdi, cry)"},
+         R"(2:11: unknown key "colour"; expected one of class, molecular_weight, name, dpn, pdi, cry)"},
         {"\"conventional\"", "\"polymeric\"",
-         R"(2:1: components.WATER.class is "polymeric"; did you mean "polymer"?)"},
+         R"(2:11: components.WATER.class is "polymeric"; did you mean "polymer"?)"},
         {"18.015", "\"18\"",
-         R"(3:1: components.WATER.molecular_weight is "18"; expected a finite number greater than 0)"},
-        {"18.015", "-1",
-         "3:1: components.WATER.molecular_weight is -1; expected a finite number greater than 0"},
+         R"(2:35: components.WATER.molecular_weight is "18"; expected a finite number greater than 0)"},
         {"18.015", "0",
-         "3:1: components.WATER.molecular_weight is 0; expected a finite number greater than 0"},
-        {"18.015", "inf",
-         "3:1: components.WATER.molecular_weight is inf; expected a finite number greater than 0"},
-        {"molecular_weight = 18.015\n", "\n",
-         "1:13: components.WATER.molecular_weight is missing; expected a finite number greater than 0"},
-        {"18.015", "18.015\ndpn = true",
-         "4:1: components.WATER.dpn is true; expected a finite number, 0 or greater"},
-        {"18.015", "18.015\nname = 5", "4:1: components.WATER.name is 5; expected a text in quotes"},
-        {"components.WATER", "components.WATERBATH",
-         R"(1:13: component ID "WATERBATH" has 9 characters; expected at most 8)"},
-        {"components.WATER", "components.\"WA ER\"",
-         R"(1:13: component ID "WA ER" is not usable; expected 1 to 8 printable ASCII characters without blanks and quotes)"},
-        {"[polymers]", "[settings]\nzero_bound = 1e36\n[polymers]",
-         "16:2: settings.zero_bound is 1e+36; expected less than missing_value_bound, 1e+35"},
+         "2:35: components.WATER.molecular_weight is 0; expected a finite number greater than 0"},
+        {", molecular_weight = 18.015", "",
+         "2:1: components.WATER.molecular_weight is missing; expected a finite number greater than 0"},
+        {"WATER =", "WATERBATH =", R"(2:1: component ID "WATERBATH" has 9 characters; expected at most 8)"},
+        {"WATER =", "\"WA ER\" =",
+         R"(2:1: component ID "WA ER" is not usable; expected 1 to 8 printable ASCII characters without blanks and quotes)"},
+        {"[polymers]", "[settings]\nmissing_value_bound = 1e-15\n[polymers]",
+         "7:2: settings.zero_bound is 1e-15; expected less than missing_value_bound, 1e-15"},
         {"[polymers]", "[settings]\npdi_from = \"moment\"\n[polymers]",
-         R"(17:1: settings.pdi_from is "moment"; did you mean "moments"?)"},
-        {"\"repeat\"", "\"branch\"",
-         R"(17:27: polymers.segments[1].type is "branch"; did you mean "branch3"?)"},
-        {"[\"P\"]", "[\"P\", 7]", "18:18: polymers.polymers[2] is 7; expected a text in quotes"},
+         R"(8:1: settings.pdi_from is "moment"; did you mean "moments"?)"},
+        {"[polymers]", "[settings]\nmessage_level = 3\n[polymers]",
+         "8:1: settings.message_level is 3; expected a whole number from 0 to 2"},
+        {"[\"P\"]", "[\"P\", 7]", "9:18: polymers.polymers[2] is 7; expected a text in quotes"},
         {"[\"P\"]", "[\"P\", \"WATER\"]",
-         R"(18:18: polymers.polymers names "WATER", which is of class "conventional"; expected a component of class "polymer")"},
-        {"[\"P\"]", "[]",
-         R"(10:13: components.P is of class "polymer", but polymers.polymers does not list it)"},
+         R"(9:18: polymers.polymers names "WATER", which is of class "conventional"; expected a component of class "polymer")"},
         {"A-R = 1,", "A-R = -1,",
-         R"(19:39: polymers.oligomers[1].segments.A-R is -1; expected a finite number, 0 or greater)"},
+         R"(10:39: polymers.oligomers[1].segments.A-R is -1; expected a finite number, 0 or greater)"},
         {"[\"P\"]", "[\"P\", \"POLYSTYRENE\"]",
-         R"(18:18: polymers.polymers: ID "POLYSTYRENE" has 11 characters; expected at most 8)"},
+         R"(9:18: polymers.polymers: ID "POLYSTYRENE" has 11 characters; expected at most 8)"},
         {"oligomers = [", "oligomers = [{ segments = { A-R = 1 } }, ",
-         "19:14: polymers.oligomers[1].id is not given; only an entry behind another one continues its "
+         "10:14: polymers.oligomers[1].id is not given; only an entry behind another one continues its "
          "oligomer"},
         {"[\"P\"]", "[\"P\"]\ndistributions = [{ polymer = \"P\", type = 5 }]",
-         "19:35: polymers.distributions[1].type is 5; expected a whole number from 1 to 4"},
+         "10:35: polymers.distributions[1].type is 5; expected a whole number from 1 to 4"},
         {"[\"P\"]", "[\"P\"]\nsites = { count = 2, integers = [1, 2] }",
-         "19:22: polymers.sites.integers has 2 values; expected 3 whole numbers"},
+         "10:22: polymers.sites.integers has 2 values; expected 3 whole numbers"},
         {"[\"P\"]", "[\"P\"]\nsites = { count = 1.0 }",
-         "19:11: polymers.sites.count is 1; expected a whole number from 0 to 1000"},
-        {"[polymers]", "[settings]\nmessage_level = 3\n[polymers]",
-         "17:1: settings.message_level is 3; expected a whole number from 0 to 2"},
+         "10:11: polymers.sites.count is 1; expected a whole number from 0 to 1000"},
         {"[streams.S]", "[[catalyst_scaling]]\ncomponent = \"WATTER\"\nattribute = \"ZMOM\"\n[streams.S]",
-         R"(22:1: catalyst_scaling names "WATTER", which is not a component; did you mean "WATER"?)"},
+         R"(13:1: catalyst_scaling names "WATTER", which is not a component; did you mean "WATER"?)"},
         {"\"SFLOW\"]", "\"SFLOW\", \"FLOW\"]",
-         R"(20:60: polymers.attributes names "FLOW", which is not an attribute; did you mean "SFLOW"?)"},
-        {"\"SFLOW\"]", "\"SFLOW\", \"ZMOM\"]", R"(20:60: polymers.attributes names "ZMOM" twice for P)"},
+         R"(11:60: polymers.attributes names "FLOW", which is not an attribute; did you mean "SFLOW"?)"},
+        {"\"SFLOW\"]", "\"SFLOW\", \"ZMOM\"]", R"(11:60: polymers.attributes names "ZMOM" twice for P)"},
         {"P = 1.0", "P = 1.0, WATTER = 1",
-         R"(22:20: streams.S.flows names "WATTER", which is not a component; did you mean "WATER"?)"},
+         R"(13:20: streams.S.flows names "WATTER", which is not a component; did you mean "WATER"?)"},
         {"P = 1.0", "P = 1.0, A-R = 1",
-         R"(22:20: streams.S.flows names "A-R", which is a segment; segments are parts of polymers and have no flow or attributes of their own)"},
-        {"P = 1.0", "P = nan", "22:11: streams.S.flows.P is nan; expected a finite number, 0 or greater"},
+         R"(13:20: streams.S.flows names "A-R", which is a segment; segments are parts of polymers and have no flow or attributes of their own)"},
+        {"P = 1.0", "P = nan", "13:11: streams.S.flows.P is nan; expected a finite number, 0 or greater"},
         {"flows = { P = 1.0 }", "\n",
-         "21:10: streams.S.flows is missing; expected a table of component IDs and their mole flows"},
+         "12:10: streams.S.flows is missing; expected a table of component IDs and their mole flows"},
         {"ZMOM = 0.5", "SMOM = 0.5",
-         "24:1: streams.S.attributes.P.SMOM is not among the attributes that P carries (ZMOM, SFLOW)"},
+         "15:1: streams.S.attributes.P.SMOM is not among the attributes that P carries (ZMOM, SFLOW)"},
         {"attributes.P]", "attributes.O]\nZMOM = 1\n[streams.S.attributes.P]",
-         "24:1: streams.S.attributes.O.ZMOM: O carries no attributes"},
-        {"ZMOM = 0.5", "ZMOM = [0.5, 1]", "24:1: streams.S.attributes.P.ZMOM has 2 values; expected 1"},
-        {"[1.0, 2.0]", "[1, 2, 3]",
-         "25:1: streams.S.attributes.P.SFLOW has 3 values; the polymer has 2 segments (A-R, B-E)"},
+         "15:1: streams.S.attributes.O.ZMOM: O carries no attributes"},
         {"[1.0, 2.0]", "[1, \"2\"]",
-         R"(25:13: streams.S.attributes.P.SFLOW[2] is "2"; expected a finite number, 0 or greater)"},
+         R"(16:13: streams.S.attributes.P.SFLOW[2] is "2"; expected a finite number, 0 or greater)"},
         {"[1.0, 2.0]", "{ A-R = 1, C-E = 2 }",
-         R"(25:20: streams.S.attributes.P.SFLOW names "C-E", which is not a segment; did you mean "B-E"?)"},
+         R"(16:20: streams.S.attributes.P.SFLOW names "C-E", which is not a segment; did you mean "B-E"?)"},
         {"ZMOM = 0.5", "ZMOM = { A-R = 1 }",
-         "24:1: streams.S.attributes.P.ZMOM is a table; only attributes with one value per segment may be "
+         "15:1: streams.S.attributes.P.ZMOM is a table; only attributes with one value per segment may be "
          "given by segment ID"},
         {"ZMOM = 0.5\nSFLOW = [1.0, 2.0]", "",
-         "22:11: streams.S.attributes.P is missing; expected values, since P flows in this stream"},
+         "13:11: streams.S.attributes.P is missing; expected values, since P flows in this stream"},
+        {"segments = { A-R = 10, B-E = 20 }\n", "",
+         "19:13: properties.V.segments has no value for A-R, B-E; expected one for each segment"},
+        {"B-E = 20", "B-E = inf", "21:24: properties.V.segments.B-E is inf; expected a finite number"},
+        {"B-E = 20", "B-E = 20, C-E = 2",
+         R"(21:34: properties.V.segments names "C-E", which is not a segment; did you mean "B-E"?)"},
+        {"unit", "averaging = \"mass\"\nweight_factors = { A-R = 1, B-E = 1 }\nunit",
+         "21:1: properties.V.weight_factors and properties.V.averaging are both given; expected one of the "
+         "two"},
+        {"unit", "weight_factors = { A-R = 1, B-E = 0 }\nunit",
+         "20:29: properties.V.weight_factors.B-E is 0; expected a finite number greater than 0"},
+        {"unit", "weight_factors = { B-E = 2 }\nunit",
+         "19:13: properties.V.weight_factors has no value for A-R; expected one for each segment"},
+        {"unit", "components = { WATER = 2 }\nunit",
+         R"(20:16: properties.V.components names "WATER", which is not a polymer or oligomer; expected one of P, O)"},
+        {"\"cm3/mol\"", "\"\"", R"(19:13: properties.V.unit is empty; expected a unit, "1" for a ratio)"},
+        {"properties.V]", "properties.class]", R"(19:13: "class" is not usable as the name of a property)"},
+        {"\"T\"", "\"U\"",
+         R"(23:1: reactors.R.inlet names "U", which is not a stream; expected one of S, T)"},
+        {"\"T\"", "\"\"", R"(23:1: reactors.R.inlet is ""; expected the name of a stream)"},
+        {"inlet = \"T\"", "", "22:11: reactors.R.inlet is missing; expected the name of a stream"},
+        {"outlet = \"S\"", "outlet = \"T\"",
+         R"(24:1: reactors.R: inlet and outlet are both "T"; expected two streams)"},
+        {"points = 9", "points = 1",
+         "26:1: distributions.D.points is 1; expected a whole number from 2 to 100000"},
+        {"longest_chain = 99", "longest_chain = 1.5",
+         "27:1: distributions.D.longest_chain is 1.5; expected 2 or greater"},
+        {"points = 9", "stream = \"U\"\npoints = 9",
+         R"(26:1: distributions.D.stream names "U", which is not a stream; expected one of S, T)"},
+        {"sites = [{ tau = 1, amount = 1 }]\n", "",
+         "25:16: distributions.D has neither sites nor increments; expected one of them"},
+        {"[{ tau = 1, amount = 1 }]", "[]",
+         "28:1: distributions.D.sites is empty; expected at least one site"},
+        {"amount = 1", "amount = 0",
+         "25:16: distributions.D makes 0 in total; expected more than the zero bound, 1e-15"},
+        {"tau = 1", "tau = 0", "28:10: distributions.D.sites[1]: tau + beta is 0; expected greater than 0"},
+        {"tau = 1, ", "",
+         "28:10: distributions.D.sites[1].tau is missing; expected a finite number, 0 or greater"},
+        {"{ tau = 1", "{ name = \"A\", tau = 1, amount = 1 }, { name = \"A\", tau = 1",
+         "28:47: distributions.D.sites names \"A\" twice"},
+        {"sites = [{ tau = 1, amount = 1 }]",
+         "increments = [[{ tau = 1, amount = 1 }], [{ amount = 1 }, { tau = 1, amount = 1 }]]",
+         "28:42: distributions.D.increments[2] has 2 sites; the increment before it has 1"},
+        {"[\"P\", \"O\"]\n", "[\"P\", \"O\", \"X\"]\n",
+         R"(30:25: parameters.K.components names "X", which is not a component; expected one of WATER, A-R, B-E, P, O)"},
+        {"\"O\"], v", "\"R\"], v",
+         R"(32:31: parameters.K.pairs names "R", which is not in parameters.K.components; expected one of P, O)"},
+        {"\"O\"], v", "\"P\"], v", R"(32:31: parameters.K.pairs pairs "P" with itself)"},
+        {"0, 0, 0, 0, 0, 300", "0, 0",
+         "32:37: parameters.K.pairs[1].values has 2 values; expected 6, one for each position"},
+        {"300] }", "0] }",
+         "32:26: parameters.K.pairs: the reference temperature of P, O at position 6 is 0; expected greater "
+         "than 0"},
+        {"0, 0, 0, 0, 0, 300] }]", "0, 0, 0, 300] }]\npositions = 4",
+         "33:1: parameters.K.positions is 4; expected another number than 2 and 4, which stand for the "
+         "linear and the reciprocal form"},
+        {"0, 0, 0, 0, 0, 300] }]", "0, 0, 1, 300] }]\nform = \"reciprocal\"\nreference_position = 3",
+         "34:1: parameters.K.reference_position is 3; expected 0 or a position behind the 3 coefficients"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.replacement);
@@ -146,33 +188,30 @@ TEST(CaseDiagnostics, NamesPlaceKeyValueAndExpectation)
     }
 }
 
-TEST(CaseDiagnostics, ListsAllErrorsOfAFileInItsOrder)
+TEST(CaseDiagnostics, ListAllErrorsOfAFileInItsOrder)
 {
     auto text = with(good, "18.015", "-1");
     text = with(text, "P = 1.0", "P = -1.0");
     text = with(text, "polymers = [\"P\"]", "polymer = [\"P\"]");
     EXPECT_EQ(
         diagnose(text),
-        (Lines{"c.toml:3:1: components.WATER.molecular_weight is -1; expected a finite number greater than 0",
-               R"(c.toml:10:13: components.P is of class "polymer", but polymers.polymers does not list it)",
-               R"(c.toml:18:1: unknown key "polymer"; did you mean "polymers"?)",
-               "c.toml:22:11: streams.S.flows.P is -1; expected a finite number, 0 or greater"}));
+        (Lines{
+            "c.toml:2:35: components.WATER.molecular_weight is -1; expected a finite number greater than 0",
+            R"(c.toml:5:1: components.P is of class "polymer", but polymers.polymers does not list it)",
+            R"(c.toml:9:1: unknown key "polymer"; did you mean "polymers"?)",
+            "c.toml:13:11: streams.S.flows.P is -1; expected a finite number, 0 or greater"}));
     text = with(good, "ZMOM = 0.5", "ZMOM = [0.5, 1]");
     EXPECT_EQ(diagnose(with(text, "[1.0, 2.0]", "1")),
-              (Lines{"c.toml:24:1: streams.S.attributes.P.ZMOM has 2 values; expected 1",
-                     "c.toml:25:1: streams.S.attributes.P.SFLOW has 1 value; the polymer has 2 segments "
+              (Lines{"c.toml:15:1: streams.S.attributes.P.ZMOM has 2 values; expected 1",
+                     "c.toml:16:1: streams.S.attributes.P.SFLOW has 1 value; the polymer has 2 segments "
                      "(A-R, B-E)"}));
 }
 
-TEST(CaseDiagnostics, ReportsMissingSections)
+TEST(CaseDiagnostics, ReportMissingSectionsAndPlaceWhatIsNotToml)
 {
     EXPECT_EQ(diagnose("title = \"nothing\""),
               (Lines{"c.toml:1:1: components is missing; expected a table with at least one component",
                      "c.toml:1:1: streams is missing; expected a table with at least one stream"}));
-}
-
-TEST(CaseDiagnostics, PlacesWhatIsNotToml)
-{
     const auto lines = diagnose("title = \"a\"\n[settings]\n[settings]\n");
     ASSERT_EQ(lines.size(), 1u);
     EXPECT_EQ(lines.front().substr(0, 11), "c.toml:3:1:") << lines.front();

@@ -1,8 +1,4 @@
-#include "cli/gpc.h"
-
-#include "cli/file_contents.h"
-#include "program.h"
-#include "support/scratch.h"
+#include "cli/program.h"
 
 namespace {
 
@@ -18,26 +14,6 @@ segment_weight = 100
 sites = [{ tau = 0.01, amount = 1 }]
 )";
 
-struct File {
-    explicit File(const std::string& text = {}, const std::string& name = "polyprops_file")
-        : path(support::scratch() / name)
-    {
-        if (!text.empty()) std::ofstream{path} << text;
-    }
-    ~File() { std::filesystem::remove(path); }
-    std::filesystem::path path;
-};
-
-std::string refusal(const std::string& text)
-{
-    try {
-        cli::parse_gpc(text, "m.txt");
-    } catch (const std::exception& error) {
-        return error.what();
-    }
-    return "accepted";
-}
-
 TEST(MeasuredCurve, ReadsBothSeparatorsAndKeepsHeaderLinesAsNotes)
 {
     const std::string texts[] = {
@@ -52,26 +28,10 @@ TEST(MeasuredCurve, ReadsBothSeparatorsAndKeepsHeaderLinesAsNotes)
     }
 }
 
-TEST(MeasuredCurve, RefusesWhatIsNone)
-{
-    EXPECT_EQ(refusal("M,S\n1,2\n3;4\n"),
-              "m.txt:3: \"3;4\"; expected two numbers, molecular weight and signal");
-    EXPECT_EQ(refusal("1,2\n3,4,5\n"),
-              "m.txt:2: \"3,4,5\"; expected two numbers, molecular weight and signal");
-    EXPECT_EQ(refusal("1,2\n3,nan\n"),
-              "m.txt:2: \"3,nan\"; expected two numbers, molecular weight and signal");
-    EXPECT_EQ(refusal("0 2\n3 4\n"), "m.txt:1: \"0 2\"; expected a molecular weight greater than 0");
-    EXPECT_EQ(refusal("M S\n3 4\n"),
-              "m.txt: 1 line with two numbers; expected at least 2: molecular weight and signal");
-    EXPECT_EQ(
-        refusal("1 1\n3 1\n3 1\n4 1\n"),
-        "m.txt: molecular weights 3 and 3 stand side by side; expected all of them to rise or all to fall");
-}
-
 TEST(MeasuredCurve, AnExportedCompositeComesBackWithoutResidual)
 {
-    const File case_file{one_site, "case.toml"};
-    const File exported;
+    const File case_file{one_site};
+    const File exported{"", "measured"};
     cli::RunOptions options;
     options.export_gpc = exported.path;
     ASSERT_EQ(run(options, case_file.path, Format::json).status, 0);
@@ -109,14 +69,23 @@ TEST(MeasuredCurve, ResidualComparesCurvesOfAreaOne)
     EXPECT_DOUBLE_EQ(c.mw_measured, 0.5 * (0.5 * 10000 + 1.5 * 100000));
 }
 
-TEST(MeasuredCurve, SaysWhatACaseLacksForIt)
+TEST(MeasuredCurve, SaysWhatIsWrongWithItAndWhatACaseLacksForIt)
 {
     const auto second =
         "[distributions.E]\npoints = 2\nlongest_chain = 9\nsites = [{ tau = 1, amount = 1 }]\n";
-    struct Case {
+    const std::string two_numbers = "; expected two numbers, molecular weight and signal\n";
+    const struct {
         std::string text, measured, distribution, expected;
-    };
-    const Case cases[] = {
+    } cases[] = {
+        {one_site, "M,S\n1,2\n3;4\n", "", "/measured:3: \"3;4\"" + two_numbers},
+        {one_site, "1,2\n3,4,5\n", "", "/measured:2: \"3,4,5\"" + two_numbers},
+        {one_site, "1,2\n3,nan\n", "", "/measured:2: \"3,nan\"" + two_numbers},
+        {one_site, "0 2\n3 4\n", "", "/measured:1: \"0 2\"; expected a molecular weight greater than 0\n"},
+        {one_site, "M S\n3 4\n", "",
+         "/measured: 1 line with two numbers; expected at least 2: molecular weight and signal\n"},
+        {one_site, "1 1\n3 1\n3 1\n4 1\n", "",
+         "/measured: molecular weights 3 and 3 stand side by side; expected all of them to rise or all to "
+         "fall\n"},
         {one_site + second, "1000 1\n2000 1\n", "", "has 2 distributions; expected the name of one"},
         {one_site + second, "1000 1\n2000 1\n", "F", "has no distribution \"F\"; expected one of D, E"},
         {one_site + second, "1000 1\n2000 1\n", "E", "distributions.E has no segment weight"},
@@ -126,8 +95,8 @@ TEST(MeasuredCurve, SaysWhatACaseLacksForIt)
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.expected);
-        const File case_file{c.text, "case.toml"};
-        const File measured{c.measured};
+        const File case_file{c.text};
+        const File measured{c.measured, "measured"};
         cli::RunOptions options;
         options.gpc = measured.path;
         options.distribution = c.distribution;

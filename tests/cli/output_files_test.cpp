@@ -1,11 +1,9 @@
 #include "cli/output_files.h"
 
-#include "cli/case_reader.h"
 #include "cli/file_contents.h"
 #include "cli/html.h"
+#include "cli/program.h"
 #include "cli/selfcheck.h"
-#include "program.h"
-#include "support/scratch.h"
 
 namespace {
 
@@ -33,14 +31,6 @@ std::size_t count(const std::string& text, const std::string& part)
     std::size_t found = 0;
     for (auto at = text.find(part); at != text.npos; at = text.find(part, at + 1)) ++found;
     return found;
-}
-
-cli::Evaluation evaluated(const std::string& text)
-{
-    cli::Diagnostics diagnostics;
-    auto input = cli::parse_case(text, "c.toml", diagnostics);
-    EXPECT_TRUE(diagnostics.empty()) << diagnostics.lines("c.toml").front();
-    return cli::evaluate_case(std::move(input));
 }
 
 TEST_F(OutputDirectory, HoldsEveryFormOfTheResults)
@@ -79,23 +69,21 @@ TEST_F(OutputDirectory, IsAsItWasWhenOneFileCannotBeWritten)
 
 TEST_F(OutputDirectory, KeepsDistributionsApart)
 {
-    const std::string text =
-        "[components]\nP = { molecular_weight = 1 }\n"
-        "[distributions.\"A 1\"]\npoints = 2\nlongest_chain = 9\nsites = [{ tau = 1, amount = 1 }]\n";
+    const std::string curve = "points = 2\nlongest_chain = 9\nsites = [{ tau = 1, amount = 1 }]\n";
+    const auto text = "[components]\nP = { molecular_weight = 1 }\n[distributions.\"A 1\"]\n" + curve;
     auto good = evaluated(text);
     EXPECT_EQ(cli::output_files("n", good).back().name, "n.A_1.csv");
     good = {};
-    auto bad = evaluated(
-        text + "[distributions.A_1]\npoints = 2\nlongest_chain = 9\nsites = [{ tau = 1, amount = 1 }]\n");
+    auto bad = evaluated(text + "[distributions.A_1]\n" + curve);
     EXPECT_THROW(cli::output_files("n", bad), std::runtime_error);
 }
 
 TEST(Pages, HoldAsManyLinesAsTheCaseSays)
 {
     auto e = evaluated(
-        "title = \"Two\\nlines\"\n[settings]\nlines_per_page = 5\n[components]\nP = { molecular_weight = 1 "
-        "}\n"
-        "[parameters.S]\ncomponents = [\"P\"]\ntemperatures = [300]\n");
+        "title = \"Two\\nlines\"\n[settings]\nlines_per_page = 5\n"
+        "[components]\nP = { molecular_weight = 1 }\n[parameters.S]\ncomponents = [\"P\"]\ntemperatures = "
+        "[300]\n");
     const auto report = cli::output_files("n", e).front().content;
     EXPECT_EQ(report.find("Two lines "), 0u);
     std::istringstream pages{report};

@@ -1,34 +1,42 @@
-// The program without its command line, and its results as JSON.
+// The program without its command line, and its results as JSON or by their paths.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <map>
 #include <nlohmann/json.hpp>
 
+#include "cli/case_reader.h"
 #include "cli/commands.h"
+#include "cli/evaluation.h"
+#include "cli/numbers.h"
 #include "support/capture.h"
 #include "support/scratch.h"
 
 namespace cli_test {
 
 using cli::Format;
+using support::Outcome;
 using Json = nlohmann::json;
+using Lines = std::vector<std::string>;
 
 inline const std::filesystem::path examples{POLYPROPS_EXAMPLES};
 
-using support::Outcome;
+// A file for the time of a test.
+struct File {
+    explicit File(const std::string& text = {}, const std::string& name = "case.toml")
+        : path(support::scratch() / name)
+    {
+        if (!text.empty()) std::ofstream{path} << text;
+    }
+    ~File() { std::filesystem::remove(path); }
+    const std::filesystem::path path;
+};
 
 inline Outcome run(const std::filesystem::path& file, Format format)
 {
     return support::capture(cli::run, file, format);
-}
-
-inline Json run_json(const std::string& example)
-{
-    const auto [status, out, errors] = run(examples / example, Format::json);
-    EXPECT_EQ(status, 0) << errors;
-    return Json::parse(out);
 }
 
 // A run with options, of which `file` and `format` hold as well.
@@ -42,30 +50,34 @@ inline Outcome run(cli::RunOptions options, const std::filesystem::path& file, F
     return support::capture(command, file, format);
 }
 
-// The same of a case that stands in no file.
-inline Outcome run_text(const std::string& text, Format format)
+inline Json run_json(const std::filesystem::path& file)
 {
-    const auto file = support::scratch() / "case.toml";
-    std::ofstream{file} << text;
-    auto outcome = run(file, format);
-    std::filesystem::remove(file);
-    return outcome;
+    const auto [status, out, errors] = run(examples / file, Format::json);
+    EXPECT_EQ(status, 0) << errors;
+    return Json::parse(out);
 }
 
-// A row with these texts in a table of the named section.
-inline Json row(const Json& report, const std::string& name, const std::string& table, const Json& texts)
+// A case without errors in its text.
+inline cli::Case parsed(const std::string& text)
 {
-    for (const auto* kind : {"streams", "reactors", "distributions", "parameters"})
-        for (const auto& section : report.value(kind, Json::array())) {
-            if (section["name"] != name || !section.contains(table)) continue;
-            for (const auto& r : section[table]) {
-                auto merged = r;
-                merged.update(texts);
-                if (merged == r) return r;
-            }
-        }
-    ADD_FAILURE() << name << " has no row " << texts << " in " << table;
-    return {};
+    cli::Diagnostics diagnostics;
+    auto input = cli::parse_case(text, "c.toml", diagnostics);
+    EXPECT_TRUE(diagnostics.empty()) << diagnostics.lines("c.toml").front();
+    return input;
+}
+
+inline cli::Evaluation evaluated(const std::string& text)
+{
+    return cli::evaluate_case(parsed(text));
+}
+
+// The number of a report at the path that a sweep heads its column with.
+inline double number(const cli::Evaluation& e, const std::string& path)
+{
+    for (const auto& n : cli::numbers(e.report))
+        if (n.key() == path) return std::get<double>(n.value);
+    ADD_FAILURE() << "there is no " << path;
+    return 0;
 }
 
 }  // namespace cli_test

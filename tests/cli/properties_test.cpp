@@ -1,6 +1,3 @@
-#include <gtest/gtest.h>
-
-#include "cli/case_reader.h"
 #include "cli/program.h"
 #include "support/edited.h"
 
@@ -50,51 +47,40 @@ TEST(Properties, AreAveragedAsTheCaseAsks)
     };
     for (const auto& r : rows) {
         SCOPED_TRACE(r.averaging);
-        const auto [status, out, errors] =
-            run_text(with(good, "unit = \"cm3/mol\"", r.averaging), Format::json);
-        ASSERT_EQ(status, cli::exit_success) << errors;
-        const auto report = Json::parse(out);
-        EXPECT_DOUBLE_EQ(row(report, "S", "properties", {{"component", "P"}})["V"].get<double>(), r.polymer);
-        EXPECT_EQ(row(report, "S", "properties", {{"component", "O"}})["V"], r.oligomer);
-        EXPECT_EQ(report["streams"][0]["properties"].size(), 2u);
-        EXPECT_EQ(report["units"]["properties"]["V"], "1");
+        const auto e = evaluated(with(good, "unit = \"cm3/mol\"", r.averaging));
+        EXPECT_DOUBLE_EQ(number(e, "streams.S.properties.P.V"), r.polymer);
+        EXPECT_EQ(number(e, "streams.S.properties.O.V"), r.oligomer);
+        const auto& table = e.report.sections.front().tables.back();
+        EXPECT_EQ(table.rows.size(), 2u);
+        EXPECT_EQ(table.columns.back().unit, "1");
     }
 }
 
-// It weighs nothing as well: nothing else may come out as not a number.
-TEST(Properties, OfAChainWithoutSegmentsAreReported)
+// A chain without segments weighs nothing as well: nothing else may come out as not a number.
+TEST(Properties, ThatAreNotFiniteAreReported)
 {
-    const auto [status, out, errors] = run_text(with(good, "{ B-R = 2 }", "{ B-R = 0 }"), Format::json);
-    EXPECT_EQ(status, cli::exit_case_error);
-    EXPECT_NE(errors.find("case.toml: streams.S: V of O is nan; expected a finite result\n"),
-              std::string::npos);
-    EXPECT_EQ(std::ranges::count(errors, '\n'), 1) << errors;
+    EXPECT_EQ(evaluated(with(good, "{ B-R = 2 }", "{ B-R = 0 }")).errors,
+              Lines{"c.toml: streams.S: V of O is nan; expected a finite result"});
+    EXPECT_EQ(evaluated(with(good, "A-R = 10", "A-R = 1e308")).errors,
+              Lines{"c.toml: streams.S: V of P is inf; expected a finite result"});
 }
 
 // The segments of P weigh 87.5 g/mol on average: its 100 kg/h become 109.375 of 218 on the segment basis.
 TEST(Closures, ShowAttributesThatContradictTheSegments)
 {
     const auto text = with(good, "\"ZMOM\", \"SFLOW\"]", "\"ZMOM\", \"SFLOW\", \"MWSEG\"]");
-    const auto [status, out, errors] =
-        run_text(with(text, "ZMOM = 0.01,", "ZMOM = 0.01, MWSEG = 80,"), Format::json);
-    ASSERT_EQ(status, cli::exit_success) << errors;
-    const auto report = Json::parse(out);
-    for (const auto* average : {"mean_segment_weight", "mn", "mw"}) {
-        const auto p = row(report, "S", "chain_weights", {{"component", "P"}, {"average", average}});
-        EXPECT_NEAR(p["difference"].get<double>(), 7.5 / 80, 1e-14) << average;
-    }
-    EXPECT_EQ(row(report, "S", "closures", {{"basis", "true"}})["mass_difference"], 0);
-    EXPECT_NEAR(row(report, "S", "closures", {{"basis", "segment"}})["mass_difference"].get<double>(),
-                9.375 / 218, 1e-14);
+    const auto e = evaluated(with(text, "ZMOM = 0.01,", "ZMOM = 0.01, MWSEG = 80,"));
+    for (const std::string average : {"mean_segment_weight", "mn", "mw"})
+        EXPECT_NEAR(number(e, "streams.S.chain_weights." + average + ".P.difference"), 7.5 / 80, 1e-14);
+    EXPECT_EQ(number(e, "streams.S.closures.true.mass_difference"), 0);
+    EXPECT_NEAR(number(e, "streams.S.closures.segment.mass_difference"), 9.375 / 218, 1e-14);
 }
 
 TEST(Reactors, GiveTheWholePolymerWithoutMomentsBySite)
 {
     const auto text = with(good, "\"ZMOM\", \"SFLOW\"]", "\"ZMOM\", \"SMOM\", \"SFLOW\"]");
-    const auto [status, out, errors] =
-        run_text(with(text, "ZMOM = 0.01,", "ZMOM = 0.01, SMOM = 3200,"), Format::json);
-    ASSERT_EQ(status, cli::exit_success) << errors;
-    const auto reactor = Json::parse(out)["reactors"][0];
+    const File file{with(text, "ZMOM = 0.01,", "ZMOM = 0.01, SMOM = 3200,")};
+    const auto reactor = run_json(file.path)["reactors"][0];
     EXPECT_EQ(reactor["inlet"], "T");
     EXPECT_EQ(reactor["outlet"], "S");
     // Z = 0.01, F = 4, S = 3200, and the flow of 1 kmol/h weighs 100 kg/h.
@@ -106,58 +92,8 @@ TEST(Reactors, GiveTheWholePolymerWithoutMomentsBySite)
                                                      {"dpn", 400.0},
                                                      {"dpw", 800.0},
                                                      {"pdi", 2.0}}}));
-}
-
-TEST(Reactors, StandBehindTheStreamsInText)
-{
-    const auto [status, out, errors] = run_text(good, Format::text);
-    EXPECT_EQ(status, cli::exit_success) << errors;
-    EXPECT_NE(out.find("\nReactor R, from T to S\n\nPolymer made\n"), std::string::npos) << out;
-}
-
-TEST(CaseDiagnostics, NamePlaceKeyAndExpectationOfPropertiesAndReactors)
-{
-    const struct {
-        const char* old;
-        const char* replacement;
-        const char* diagnostic;
-    } rows[] = {
-        {"A-R = 10, B-R = 20", "A-R = 10",
-         "17:13: properties.V.segments has no value for B-R; expected one for each segment"},
-        {"segments = { A-R = 10, B-R = 20 }\n[rea", "[rea",
-         "17:13: properties.V.segments has no value for A-R, B-R; expected one for each segment"},
-        {"B-R = 20 }", "B-R = inf }", "19:24: properties.V.segments.B-R is inf; expected a finite number"},
-        {"B-R = 20 }", "B-R = 20, B-E = 2 }",
-         R"(19:34: properties.V.segments names "B-E", which is not a segment; did you mean "B-R"?)"},
-        {"unit", "averaging = \"masss\"\nunit",
-         R"(18:1: properties.V.averaging is "masss"; did you mean "mass"?)"},
-        {"unit", "averaging = \"mass\"\nweight_factors = { A-R = 1, B-R = 1 }\nunit",
-         "19:1: properties.V.weight_factors and properties.V.averaging are both given; expected one of the "
-         "two"},
-        {"unit", "weight_factors = { A-R = 1, B-R = 0 }\nunit",
-         "18:29: properties.V.weight_factors.B-R is 0; expected a finite number greater than 0"},
-        {"unit", "weight_factors = { B-R = 2 }\nunit",
-         "17:13: properties.V.weight_factors has no value for A-R; expected one for each segment"},
-        {"unit", "components = { W = 2 }\nunit",
-         R"(18:16: properties.V.components names "W", which is not a polymer or oligomer; expected one of P, O)"},
-        {"\"cm3/mol\"", "\"\"", R"(17:13: properties.V.unit is empty; expected a unit, "1" for a ratio)"},
-        {"unit", "units", R"(18:1: unknown key "units"; did you mean "unit"?)"},
-        {"properties.V]", "properties.class]", R"(17:13: "class" is not usable as the name of a property)"},
-        {"\"T\"", "\"U\"",
-         R"(21:1: reactors.R.inlet names "U", which is not a stream; expected one of S, T)"},
-        {"\"T\"", "\"\"", R"(21:1: reactors.R.inlet is ""; expected the name of a stream)"},
-        {"inlet = \"T\"", "", "20:11: reactors.R.inlet is missing; expected the name of a stream"},
-        {"outlet = \"S\"", "outlet = \"T\"",
-         R"(22:1: reactors.R: inlet and outlet are both "T"; expected two streams)"},
-        {"outlet = \"S\"", "outlet = 1", "22:1: reactors.R.outlet is 1; expected a text in quotes"},
-    };
-    for (const auto& r : rows) {
-        SCOPED_TRACE(r.diagnostic);
-        cli::Diagnostics diagnostics;
-        cli::parse_case(with(good, r.old, r.replacement), "c.toml", diagnostics);
-        EXPECT_EQ(diagnostics.lines("c.toml"),
-                  std::vector<std::string>{std::string{"c.toml:"} + r.diagnostic});
-    }
+    const auto text_form = run(file.path, Format::text).out;
+    EXPECT_NE(text_form.find("\nReactor R, from T to S\n\nPolymer made\n"), std::string::npos) << text_form;
 }
 
 }  // namespace

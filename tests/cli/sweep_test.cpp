@@ -3,14 +3,11 @@
 #include <unistd.h>
 
 #include <csignal>
-#include <map>
 
 #include "cli/file_contents.h"
 #include "cli/process_pool.h"
+#include "cli/program.h"
 #include "cli/sweep_grid.h"
-#include "cli/sweep_journal.h"
-#include "program.h"
-#include "support/scratch.h"
 
 namespace {
 
@@ -40,12 +37,11 @@ protected:
     }
     ~SweepFiles() override { std::filesystem::remove_all(directory); }
 
-    support::Outcome sweep()
+    Outcome sweep() const
     {
-        const auto command = [this](const auto&, Format, std::FILE*, std::FILE* errors) {
-            return cli::sweep(options, errors);
-        };
-        return support::capture(command, options.file, Format::text);
+        const support::Capture errors;
+        const int status = cli::sweep(options, errors.file);
+        return {status, "", errors.text()};
     }
 
     // Rows of the result by case number, cells by column.
@@ -58,11 +54,8 @@ protected:
         for (std::string line; std::getline(lines, line);) {
             auto& row = all.emplace_back();
             std::istringstream names{header}, cells{line};
-            for (std::string name, cell; std::getline(names, name, ',');) {
-                cell.clear();
-                std::getline(cells, cell, name == "error" ? '\n' : ',');
-                row[name] = cell;
-            }
+            for (std::string name; std::getline(names, name, ',');)
+                std::getline(cells, row[name], name == "error" ? '\n' : ',');
         }
         return all;
     }

@@ -1,0 +1,142 @@
+#include "cli/program.h"
+
+namespace {
+
+using namespace cli_test;
+
+// Fractions come from other routines than flows.
+TEST(Examples, CloseOnEveryBasisAndAgreeOnFractionsAndChainWeights)
+{
+    const auto expect_near = [](const Json& seen, double expected) {
+        EXPECT_NEAR(seen.get<double>(), expected, 1e-13);
+    };
+    for (const char* example :
+         {"polystyrene-blend.toml", "styrene-butadiene.toml", "nylon6-oligomers.toml", "slurry-hdpe.toml"}) {
+        const auto report = run_json(example);
+        for (const auto& stream : report["streams"]) {
+            SCOPED_TRACE(std::string{example} + " " + stream["name"].get<std::string>());
+            ASSERT_EQ(stream["closures"].size(), 3u);
+            for (const auto& closure : stream["closures"]) {
+                expect_near(closure["mole_fraction_sum"], 1);
+                expect_near(closure["mass_fraction_sum"], 1);
+                expect_near(closure["mass_difference"], 0);
+                for (const auto& a : stream[closure["basis"].get<std::string>() + "_composition"])
+                    for (const std::string kind : {"mole", "mass"})
+                        expect_near(a[kind + "_fraction"],
+                                    a[kind + "_flow"].get<double>() / closure[kind + "_flow"].get<double>());
+            }
+            EXPECT_EQ(stream["chain_weights"].size(), 3 * stream["segment_counts"].size());
+            for (const auto& weight : stream["chain_weights"]) expect_near(weight["difference"], 0);
+        }
+    }
+}
+
+TEST(Examples, GiveTheNumbersThatTheirCommentsDerive)
+{
+    const double sbr = 208999.916, nylon = 18010.455;  // g/mol of chains
+    const struct {
+        const char* example;
+        const char* path;
+        double value;
+    } rows[] = {
+        {"polystyrene-blend", "streams.BLEND.chain_averages.PS.dpn", 9000 / 0.43 / 104.152},
+        {"polystyrene-blend", "streams.BLEND.chain_averages.PS.mn", 9000 / 0.43},
+        {"polystyrene-blend", "streams.BLEND.chain_averages.PS.mw", 140000.0 / 3},
+        {"polystyrene-blend", "streams.BLEND.chain_averages.PS.pdi", 14 * 0.43 / 2.7},
+        {"polystyrene-blend", "streams.BLEND.true_composition.PS.mole_flow", 0.43 / 3},
+        {"polystyrene-blend", "streams.STD-30K.chain_averages.PS.mw", 30000},
+        {"polystyrene-blend", "streams.STD-30K.chain_averages.PS.pdi", 1},
+        {"styrene-butadiene", "streams.PRODUCT.chain_averages.SBR.dpn", 3401},
+        {"styrene-butadiene", "streams.PRODUCT.chain_averages.SBR.mn", sbr},
+        {"styrene-butadiene", "streams.PRODUCT.chain_averages.SBR.mw", 1.08 * sbr},
+        {"styrene-butadiene", "streams.PRODUCT.chain_averages.STYRENE.dpn", 1},
+        {"styrene-butadiene", "streams.PRODUCT.chain_averages.STYRENE.mw", 104.152},
+        {"styrene-butadiene", "streams.PRODUCT.segment_fractions.SBR.STY-R.mole_fraction", 25 / 170.05},
+        {"styrene-butadiene", "streams.PRODUCT.segment_fractions.SBR.STY-R.mass_fraction", 52076 / sbr},
+        {"styrene-butadiene", "streams.PRODUCT.true_composition.SBR.mole_flow", 0.05},
+        {"styrene-butadiene", "streams.PRODUCT.segment_composition.STY-R.mole_flow", 25},
+        {"styrene-butadiene", "streams.PRODUCT.closures.segment.mole_flow", 884.661},
+        {"styrene-butadiene", "streams.PRODUCT.segment_counts.SBR.BUTD-R", 2900},
+        {"styrene-butadiene", "streams.PRODUCT.properties.SBR.molar_volume", 223886.976 / 3401},
+        {"styrene-butadiene", "streams.PRODUCT.properties.SBR.glass_transition", 46090800 / sbr},
+        {"nylon6-oligomers", "streams.MELT.chain_averages.NYLON6.dpn", 159},
+        {"nylon6-oligomers", "streams.MELT.chain_averages.NYLON6.mn", nylon},
+        {"nylon6-oligomers", "streams.MELT.chain_averages.NYLON6.mw", (2 - 1.0 / 159) * nylon},
+        {"nylon6-oligomers", "streams.MELT.chain_averages.LIN-3.mw", 357.495},
+        {"nylon6-oligomers", "streams.CHIPS.chain_averages.CYC-2.dpn", 2},
+        {"nylon6-oligomers", "streams.CHIPS.chain_averages.CYC-2.pdi", 1},
+        {"nylon6-oligomers", "streams.MELT.segment_fractions.LIN-2.COOH-E.mass_fraction", 130.167 / 244.335},
+        {"nylon6-oligomers", "streams.MELT.segment_composition.COOH-E.mole_flow", 0.0509},
+        {"nylon6-oligomers", "streams.MELT.segment_composition.ACA-R.mole_flow", 8.0054},
+        {"nylon6-oligomers", "streams.MELT.segment_counts.LIN-3.ACA-R", 1},
+        {"slurry-hdpe", "reactors.FIRST.polymer_made.1.mw", 22415.146},
+        {"slurry-hdpe", "reactors.FIRST.polymer_made.2.mass_flow", 3366.48},
+        {"slurry-hdpe", "reactors.FIRST.polymer_made.total.pdi", 3.078625},
+        {"slurry-hdpe", "reactors.SECOND.polymer_made.1.mean_segment_weight", 28.75535},
+        {"slurry-hdpe", "reactors.SECOND.polymer_made.2.dpw", 31999},
+        {"slurry-hdpe", "reactors.SECOND.polymer_made.2.mn", 453352.64},
+        {"slurry-hdpe", "reactors.SECOND.polymer_made.total.mass_flow", 5700.5728},
+        {"slurry-hdpe", "reactors.SECOND.polymer_made.total.dpn", 80000.0 / 11},
+        {"slurry-hdpe", "streams.SLURRY-2.chain_averages.HDPE.pdi", 9.31624375},
+        {"interaction-parameters", "parameters.CHI.binary_parameters.400.PS.PMMA", 0.03775},
+        {"interaction-parameters", "parameters.CHI.binary_parameters.400.PI.PS", 0.0928},
+        {"interaction-parameters", "parameters.CHI.binary_parameters.400.PI.PMMA", 0},
+        {"interaction-parameters", "parameters.CHI.binary_parameters.400.PI.PI", 0},
+        {"interaction-parameters", "parameters.CHI.binary_parameter_slopes.400.PS.PI", -0.1785},
+        {"interaction-parameters", "parameters.CHI.binary_parameter_derivatives.400.PS.PI", -0.1785 / 400},
+        {"interaction-parameters", "parameters.PS-PI-298.binary_parameters.298.15.PS.PI", 0.15377677},
+    };
+    for (const auto& r : rows) {
+        SCOPED_TRACE(r.path);
+        cli::Diagnostics diagnostics;
+        const auto e =
+            cli::evaluate_case(cli::read_case(examples / (std::string{r.example} + ".toml"), diagnostics));
+        EXPECT_NEAR(number(e, r.path), r.value, 1e-9 * std::abs(r.value));
+    }
+}
+
+// The table in the comment of the example: by parameters and by moments of the stream. The composite has the
+// averages of the sum of its sites to six digits.
+TEST(Examples, HoldTheCurvesOfFiveSitesAgainstSitesParametersAndMoments)
+{
+    const auto section = run_json("ziegler-natta-5-site.toml")["distributions"][0];
+    const auto& averages = section["distribution_averages"];
+    ASSERT_EQ(averages.size(), 6u);
+    double area = 0, over = 0, times = 0;
+    for (std::size_t j = 1; j < 6; ++j) {
+        const double a = averages[j]["area"];
+        EXPECT_NEAR(a, averages[j]["amount"].get<double>(), 1e-4 * a);
+        area += a;
+        over += a / averages[j]["mn"].get<double>();
+        times += a * averages[j]["mw"].get<double>();
+    }
+    const std::pair<const char*, double> composite[] = {
+        {"area", area}, {"mn", 1 / over}, {"mw", times}, {"pdi", times * over}};
+    for (const auto& [key, value] : composite)
+        EXPECT_NEAR(averages[0][key].get<double>(), value, 1e-6 * value) << key;
+
+    for (const auto& row : section["distribution_curves"]) {
+        double sum = 0;
+        for (const char* site : {"site A", "site B", "site C", "site D", "site E"})
+            sum += row[site].get<double>();
+        ASSERT_NEAR(row["composite"].get<double>(), sum, 1e-12 * sum);
+    }
+    EXPECT_NEAR(section["distribution_curves"].back()["cumulative"].get<double>(), area, 1e-6);
+
+    const double pn[] = {100, 250, 1000, 2500, 10000, 1 / 0.00226};
+    const double pw[] = {200, 500, 2000, 5000, 20000, 4070};
+    const auto& checks = section["distribution_checks"];
+    ASSERT_EQ(checks.size(), 13u);
+    EXPECT_EQ(checks[0]["source"], "sum of the sites");
+    EXPECT_NEAR(checks[0]["pn_difference"].get<double>(), 0, 5e-7);
+    EXPECT_NEAR(checks[0]["pw_difference"].get<double>(), 0, 5e-7);
+    for (std::size_t i = 0; i < 12; ++i) {
+        const auto& check = checks[i + 1];
+        EXPECT_EQ(check["source"], i < 6 ? "site parameters" : "stream moments");
+        EXPECT_NEAR(check["pn_expected"].get<double>(), pn[i % 6], 1e-9 * pn[i % 6]);
+        EXPECT_NEAR(check["pw_expected"].get<double>(), pw[i % 6], 1e-9 * pw[i % 6]);
+        EXPECT_EQ(check["agrees"], "yes");
+    }
+}
+
+}  // namespace
