@@ -2,12 +2,10 @@
 // that go on without the entries in error.
 #include "cli/file_contents.h"
 #include "cli/program.h"
-#include "support/edited.h"
 
 namespace {
 
 using namespace cli_test;
-using support::with;
 
 // Paths as a user in the root of the project sees them.
 std::string shortened(std::string text)

@@ -1,11 +1,9 @@
 #include "cli/load.h"
 #include "cli/program.h"
-#include "support/edited.h"
 
 namespace {
 
 using namespace cli_test;
-using support::with;
 
 // Line numbers below count from the first line after the opening bracket.
 const std::string good = R"([components]

@@ -12,7 +12,7 @@
 #include "cli/evaluation.h"
 #include "cli/numbers.h"
 #include "support/capture.h"
-#include "support/scratch.h"
+#include "support/files.h"
 
 namespace cli_test {
 
@@ -55,6 +55,14 @@ inline Json run_json(const std::filesystem::path& file)
     const auto [status, out, errors] = run(examples / file, Format::json);
     EXPECT_EQ(status, 0) << errors;
     return Json::parse(out);
+}
+
+// The text with the first `old` replaced; it has to be there.
+inline std::string with(std::string text, const std::string& old, const std::string& replacement)
+{
+    const auto at = text.find(old);
+    EXPECT_NE(at, std::string::npos) << old;
+    return text.replace(at, old.size(), replacement);
 }
 
 // A case without errors in its text.

@@ -1,9 +1,7 @@
 #include "cli/program.h"
-#include "support/edited.h"
 
 namespace {
 
-using support::with;
 using namespace cli_test;
 
 // One polymer with three A to one B in a chain, an oligomer of two B, a molecule that has no segments.

@@ -1,7 +1,9 @@
 #include "cli/sweep.h"
 
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 
 #include "cli/file_contents.h"
@@ -120,6 +122,25 @@ TEST_F(SweepFiles, GoesOnWhereItWasInterrupted)
     EXPECT_EQ(all[1].at("error"), "kept before");
     EXPECT_EQ(all[3].at("streams.S.chain_averages.P.mn"), "300");
     EXPECT_EQ(all[3].at("error"), "");
+}
+
+TEST_F(SweepFiles, AnInterruptionEndsItWithTheRowsThatItHas)
+{
+    options.sets = {"streams.S.attributes.P.ZMOM=1:2:100000"};
+    const auto user = ::fork();
+    if (user == 0) {  // waits for a row behind the two lines of the head
+        while (std::ranges::count(support::content(partial), '\n') < 3) ::usleep(1000);
+        ::kill(::getppid(), SIGINT);
+        ::_exit(0);
+    }
+    const auto seen = sweep();
+    ::waitpid(user, nullptr, 0);
+    EXPECT_EQ(seen.status, cli::exit_interrupted);
+    const auto kept = std::ranges::count(support::content(partial), '\n') - 2;
+    EXPECT_EQ(seen.errors, "polyprops: interrupted after " + std::to_string(kept) +
+                               " of 100000 cases; the same command goes on from there (" + partial.string() +
+                               ")\n");
+    EXPECT_FALSE(std::filesystem::exists(options.out));
 }
 
 TEST_F(SweepFiles, RefusesTheRowsOfAnotherSweepAndKeysThatLeadNowhere)

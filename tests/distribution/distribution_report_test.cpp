@@ -11,7 +11,7 @@
 
 #include "minihost/service_log.h"
 #include "support/arguments.h"
-#include "support/stored.h"
+#include "support/files.h"
 #include "support/world.h"
 
 #ifdef HAS_FORTRAN

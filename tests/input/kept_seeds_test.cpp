@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "fuzz/paragraph_cases.h"
-#include "support/stored.h"
+#include "support/files.h"
 
 TEST(KeptSeeds, RunThroughTheParagraphCheck)
 {

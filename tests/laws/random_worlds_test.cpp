@@ -17,6 +17,8 @@ using namespace support;
 namespace {
 
 constexpr int worlds = 60;
+constexpr auto averages = {POLY_GETDPN, POLY_GETMRF, POLY_GETMWN, POLY_GETMRT,
+                           POLY_GETMWW, POLY_GETPDI, POLY_GETPOLI};
 
 // Polymers with moments and flows, oligomers, conventional components; every component is listed once.
 struct Mixture {
@@ -33,10 +35,12 @@ struct Mixture {
         for (int p = 0; p < polymers; ++p) add_polymer("P" + std::to_string(p), order);
         const int oligomers = whole(0, 3);
         for (int o = 0; o < oligomers; ++o) add_oligomer("O" + std::to_string(o));
-        for (int c = 0; c < 2; ++c)
-            list("C" + std::to_string(c), world.conventional("C" + std::to_string(c), number(10, 90)));
+        for (const char* id : {"C0", "C1"}) {
+            ids.push_back(id);
+            world.conventional(id, number(10, 90));
+        }
         world.host();
-        for (const auto& id : ids) idx.push_back(world.index(id));
+        idx = world.indices(ids);
         n = static_cast<Int>(idx.size());
         nc = world.component_count();
         mw = world.molecular_weights();
@@ -55,7 +59,6 @@ struct Mixture {
         for (double& value : all) value = number(from, to);
         return all;
     }
-    void list(const std::string& id, World&) { ids.push_back(id); }
     void add_polymer(const std::string& id, const std::vector<int>& order)
     {
         const Values flows = numbers(segment_count, 1, 9);
@@ -65,13 +68,15 @@ struct Mixture {
         const double segments = std::accumulate(flows.begin(), flows.end(), 0.0);
         const double chains = segments / number(2, 900);
         const double second = number(1, 8) * segments * segments / chains;
-        list(id, world.polymer(id, {{"ZMOM", chains}, {"SMOM", second}, sflow}, number(40, 400)));
+        ids.push_back(id);
+        world.polymer(id, {{"ZMOM", chains}, {"SMOM", second}, sflow}, number(40, 400));
     }
     void add_oligomer(const std::string& id)
     {
         std::map<std::string, double> counts;
         for (const auto& segment : segment_ids) counts[segment] = whole(1, 4);
-        list(id, world.oligomer(id, counts, number(50, 500)));
+        ids.push_back(id);
+        world.oligomer(id, counts, number(50, 500));
     }
     Values ask(auto* routine) { return world.ask(routine, ids); }
 
@@ -256,8 +261,7 @@ TEST(Laws, PermutedListsGivePermutedResults)
     in_every_world([](Mixture& m) {
         auto reversed = m.ids;
         std::reverse(reversed.begin(), reversed.end());
-        for (const auto routine :
-             {POLY_GETDPN, POLY_GETMRF, POLY_GETMWN, POLY_GETMRT, POLY_GETMWW, POLY_GETPDI, POLY_GETPOLI}) {
+        for (const auto routine : averages) {
             Values expected = m.ask(routine);
             std::reverse(expected.begin(), expected.end());
             EXPECT_EQ(m.world.ask(routine, reversed), expected);
@@ -269,14 +273,8 @@ TEST(Laws, PermutedSegmentsChangeNoAverage)
 {
     for (unsigned seed = 1; seed <= worlds; ++seed) {
         SCOPED_TRACE(seed);
-        Mixture m{seed};
-        std::vector<Values> expected;
-        const auto routines = {POLY_GETDPN, POLY_GETMRF, POLY_GETMWN, POLY_GETMRT,
-                               POLY_GETMWW, POLY_GETPDI, POLY_GETPOLI};
-        for (const auto routine : routines) expected.push_back(m.ask(routine));
-        Mixture reversed{seed, true};
-        std::size_t k = 0;
-        for (const auto routine : routines) expect_close(reversed.ask(routine), expected[k++], "average");
+        Mixture m{seed}, reversed{seed, true};
+        for (const auto routine : averages) expect_close(reversed.ask(routine), m.ask(routine), "average");
     }
 }
 
@@ -288,9 +286,7 @@ TEST(Laws, EmptyListsWriteNothing)
     for (const Int none : {0, -1}) {
         const Int one = 1;
         GuardedReals out(4);
-        for (const auto routine :
-             {POLY_GETDPN, POLY_GETMRF, POLY_GETMWN, POLY_GETMRT, POLY_GETMWW, POLY_GETPDI, POLY_GETPOLI})
-            call(routine, one, none, m.idx, out);
+        for (const auto routine : averages) call(routine, one, none, m.idx, out);
         for (const auto routine : {POLY_GETDPN1, POLY_GETDPN2})
             call(routine, m.nc, m.nseg, m.iseg, counts.scm, none, m.idx, out, counts.flags);
         call(POLY_GETMWN1, m.nc, m.mw, m.nseg, m.iseg, counts.scm, none, m.idx, out, counts.flags);

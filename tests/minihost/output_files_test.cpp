@@ -4,9 +4,8 @@
 #include <functional>
 
 #include "minihost/host.h"
+#include "support/files.h"
 #include "support/refusal.h"
-#include "support/scratch.h"
-#include "support/stored.h"
 #include "support/world.h"
 
 namespace minihost {

@@ -4,7 +4,7 @@
 #include <polyprops/polyprops.h>
 
 #include "support/arguments.h"
-#include "support/stored.h"
+#include "support/files.h"
 #include "support/world.h"
 
 namespace {

@@ -1,5 +1,8 @@
-// Files that lie beside a test.
+// Files that lie beside a test, and a folder for those that it writes.
 #pragma once
+
+#include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -19,6 +22,15 @@ inline std::string content(const std::filesystem::path& path)
 inline std::string stored(const std::filesystem::path& test, const std::string& name)
 {
     return content(test.parent_path() / name);
+}
+
+/// A folder of the test process, so that tests may run side by side.
+inline std::filesystem::path scratch()
+{
+    const auto folder =
+        std::filesystem::path{testing::TempDir()} / ("polyprops_" + std::to_string(::getpid()));
+    std::filesystem::create_directories(folder);
+    return folder;
 }
 
 }  // namespace support
