@@ -47,7 +47,7 @@ World& World::oligomer(const std::string& id, const std::map<std::string, double
                        double molecular_weight)
 {
     component(id, ComponentClass::oligomer, molecular_weight);
-    auto& listed = lists_.oligomers.emplace_back(component_count());
+    auto& listed = lists_.oligomers.emplace_back(PolymerLists::Oligomer{component_count(), {}});
     for (const auto& [segment, count] : counts) listed.counts[index(segment)] = count;
     return *this;
 }
@@ -82,7 +82,7 @@ World& World::attributes(const std::string& id, const Attributes& given)
 
 World& World::stream(const std::string& name, const std::vector<Part>& parts)
 {
-    auto& substreams = streams_.emplace_back(name, std::vector<minihost::Substream>{}).substreams;
+    auto& substreams = streams_.emplace_back(minihost::Stream{name, {}}).substreams;
     for (const Part& part : parts) {
         substreams.push_back({.type = part.type, .flows = part.flows});
         for (const auto& [id, given] : part.attributes) give(substreams.back(), id, given);
