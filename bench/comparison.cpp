@@ -13,7 +13,7 @@
 #include <string_view>
 #include <vector>
 
-#include "bench/host.h"
+#include "bench/benchmark_host.h"
 #include "polyprops/polyprops.h"
 
 namespace bench {

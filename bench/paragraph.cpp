@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <string>
 
-#include "minihost/host.h"
+#include "minihost/embedded_host.h"
 #include "polyprops/polyprops.h"
 
 namespace {

@@ -6,9 +6,9 @@
 #include <optional>
 #include <stdexcept>
 
-#include "cli/case_reader.h"
-#include "cli/load.h"
-#include "cli/report.h"
+#include "app/case/case_reader.h"
+#include "app/host_setup/loaded_case.h"
+#include "app/report/report.h"
 
 namespace cli {
 

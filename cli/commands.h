@@ -6,10 +6,12 @@
 #include <optional>
 #include <string>
 
-#include "cli/bases.h"
-#include "cli/report.h"
+#include "app/evaluation/bases.h"
+#include "app/report/report.h"
 
 namespace cli {
+
+using namespace app;
 
 enum class Format { text, csv, json };
 

@@ -5,14 +5,14 @@
 
 #include "cli/commands.h"
 #include "cli/selfcheck.h"
-#include "cli/sweep.h"
+#include "app/sweep/sweep.h"
 
 namespace {
 
 const std::map<std::string, cli::Format> formats{
     {"text", cli::Format::text}, {"csv", cli::Format::csv}, {"json", cli::Format::json}};
-const std::map<std::string, cli::Basis> bases{
-    {"apparent", cli::Basis::apparent}, {"true", cli::Basis::true_chains}, {"segment", cli::Basis::segment}};
+const std::map<std::string, app::Basis> bases{
+    {"apparent", app::Basis::apparent}, {"true", app::Basis::true_chains}, {"segment", app::Basis::segment}};
 
 // The command line: each command adds its options and, when it is the one, leaves its exit status.
 class Program {
@@ -105,7 +105,7 @@ private:
             ->check(CLI::Range(1, 1024));
         command->callback([this] {
             sweep_.file = file_;
-            status_ = cli::sweep(sweep_, stderr);
+            status_ = app::sweep(sweep_, stderr);
         });
     }
 
@@ -114,7 +114,7 @@ private:
     std::string format_ = "text";
     std::string stream_, from_, to_;
     cli::RunOptions run_;
-    cli::SweepOptions sweep_;
+    app::SweepOptions sweep_;
     int status_ = cli::exit_success;
 };
 

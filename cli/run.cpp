@@ -2,10 +2,10 @@
 
 #include <fmt/format.h>
 
-#include "cli/case_reader.h"
-#include "cli/evaluation.h"
-#include "cli/output_files.h"
-#include "minihost/whole_file.h"
+#include "app/case/case_reader.h"
+#include "app/evaluation/evaluation.h"
+#include "app/report/output_files.h"
+#include "app/io/whole_file.h"
 
 namespace cli {
 
@@ -34,7 +34,7 @@ int run_unguarded(const RunOptions& options, std::FILE* out, std::FILE* errors)
     print(e.notes, errors);
     if (!e.has_results) return exit_case_error;
     if (options.export_gpc)
-        minihost::write_whole_file(*options.export_gpc, format_gpc(e.distribution(options.distribution)));
+        write_whole_file(*options.export_gpc, format_gpc(e.distribution(options.distribution)));
     if (options.out) write_files(*options.out, output_files(options.file.stem().string(), e));
     write(formatted(e.report, options.format), out);
     return e.errors.empty() ? exit_success : exit_case_error;

@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-#include "minihost/host.h"
+#include "minihost/embedded_host.h"
 
 namespace polyprops_fuzz {
 namespace {

@@ -3,8 +3,7 @@
 // Attribute values follow the component flows of each substream. With k0 the position of component 1's flow
 // in a stream vector SV and j the attribute's offset, element e is SV(k0 + j + e - 1); an offset therefore
 // starts behind the flows of all components.
-#ifndef MINIHOST_ATTRIBUTES_H
-#define MINIHOST_ATTRIBUTES_H
+#pragma once
 
 #include <map>
 #include <optional>
@@ -13,15 +12,15 @@
 #include <unordered_map>
 #include <vector>
 
-#include "minihost/words.h"
+#include "minihost/store_words.h"
 
 namespace minihost {
 
-/// The counts that attribute lengths depend on.
+// The counts that attribute lengths depend on.
 struct AttributeDimensions {
     Int segments = 0;
     Int end_segments = 0;
-    Int sites = 0;  ///< catalyst site types; none counts as one, whose values stand for the whole catalyst
+    Int sites = 0;  // catalyst site types; none counts as one, whose values stand for the whole catalyst
     bool operator==(const AttributeDimensions&) const = default;
 };
 
@@ -30,17 +29,17 @@ enum class AttributeShape { scalar, by_segment, by_end_segment, by_site, by_segm
 struct AttributeKind {
     std::string_view name;
     AttributeShape shape;
-    bool extensive;  ///< an amount per time: a stream that does not give it holds 0, otherwise "missing"
+    bool extensive;  // an amount per time: a stream that does not give it holds 0, otherwise "missing"
     std::string_view meaning;
 };
 
-/// Every attribute that a component may carry.
+// Every attribute that a component may carry.
 const std::vector<AttributeKind>& attribute_kinds();
 
-/// The kind of a name, or null for a name that is no attribute.
+// The kind of a name, or null for a name that is no attribute.
 const AttributeKind* find_attribute_kind(std::string_view name);
 
-/// Number of values of an attribute.
+// Number of values of an attribute.
 Int attribute_length(const AttributeKind& kind, const AttributeDimensions& dimensions);
 
 class AttributeTable {
@@ -53,29 +52,29 @@ public:
 
     explicit AttributeTable(Int component_count);
 
-    /// Appends attributes to those that a component carries; one that it carries already stays where it is.
-    /// Throws Error for an unknown name and once values are laid out in a stream.
+    // Appends attributes to those that a component carries; one that it carries already stays where it is.
+    // Throws Error for an unknown name and once values are laid out in a stream.
     void carry(Int component, const std::vector<std::string>& names);
 
-    /// Makes the offset that is reported of a carried attribute one that is not positive (0 or less).
+    // Makes the offset that is reported of a carried attribute one that is not positive (0 or less).
     void hide(Int component, std::string_view name, Int offset);
 
-    /// Assigns offsets. Throws Error when the dimensions change after `freeze`.
+    // Assigns offsets. Throws Error when the dimensions change after `freeze`.
     void lay_out(const AttributeDimensions& dimensions);
 
-    /// Streams hold values from now on: the layout stays as it is.
+    // Streams hold values from now on: the layout stays as it is.
     void freeze() { frozen_ = true; }
     bool frozen() const { return frozen_; }
 
-    /// The attribute of a component, null when it does not carry it.
+    // The attribute of a component, null when it does not carry it.
     const Entry* find(Int component, std::string_view name) const;
 
-    /// What the library is told: the offset, 0 when the component does not carry the attribute.
+    // What the library is told: the offset, 0 when the component does not carry the attribute.
     Int reported_offset(Int component, std::string_view name) const;
 
     const std::vector<Entry>& carried_by(Int component) const;
 
-    /// Words of one substream from component 1's flow to its last attribute value.
+    // Words of one substream from component 1's flow to its last attribute value.
     Int substream_length() const { return substream_length_; }
 
 private:
@@ -90,5 +89,3 @@ private:
 };
 
 }  // namespace minihost
-
-#endif

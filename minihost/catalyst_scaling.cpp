@@ -2,7 +2,7 @@
 
 #include <polyprops/host.h>
 
-#include "minihost/components.h"
+#include "minihost/component_table.h"
 #include "minihost/error.h"
 #include "minihost/store.h"
 
@@ -10,7 +10,7 @@ namespace minihost {
 namespace {
 
 constexpr Int columns = 3;
-constexpr Int entry_words = 4;  ///< of an attribute in the directory of a component's attribute block
+constexpr Int entry_words = 4;  // of an attribute in the directory of a component's attribute block
 
 void set_name(Store& store, BlockId id, Int word, std::string_view name)
 {

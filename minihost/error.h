@@ -1,16 +1,13 @@
-#ifndef MINIHOST_ERROR_H
-#define MINIHOST_ERROR_H
+#pragma once
 
 #include <stdexcept>
 
 namespace minihost {
 
-/// What the host refuses. The text names the thing refused, what was seen and what was expected.
+// What the host refuses. The text names the thing refused, what was seen and what was expected.
 class Error : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
 }  // namespace minihost
-
-#endif

@@ -1,25 +1,24 @@
-#ifndef MINIHOST_KEYWORDS_H
-#define MINIHOST_KEYWORDS_H
+#pragma once
 
 #include <string>
 
-#include "minihost/words.h"
+#include "minihost/store_words.h"
 
 namespace minihost {
 
 class Store;
 
-/// The keyword tables: a table, named by word 1 of ST_TABLES, with one row per keyword, whose last word leads
-/// to a sub-table; the row of the sub-table leads to the value that stands for the keyword in a built
-/// sentence.
+// The keyword tables: a table, named by word 1 of ST_TABLES, with one row per keyword, whose last word leads
+// to a sub-table; the row of the sub-table leads to the value that stands for the keyword in a built
+// sentence.
 class KeywordTables {
 public:
     explicit KeywordTables(Store& store);
 
-    /// Number of a keyword of up to 12 characters. Throws Error for one that the table does not have.
+    // Number of a keyword of up to 12 characters. Throws Error for one that the table does not have.
     static Int number(const std::string& keyword);
 
-    /// Position of an item of a row of the table at a position.
+    // Position of an item of a row of the table at a position.
     static Position item(Position table, Int row, Int item);
 
     struct Reading {
@@ -27,10 +26,10 @@ public:
         Position position;
         Int length;
     };
-    /// Where a table entry leads. Throws Error for a number that is no table entry.
+    // Where a table entry leads. Throws Error for a number that is no table entry.
     Reading read(Int entry) const;
 
-    /// What word 1 of the keyword-value block of an ATTR-COMPS sentence holds.
+    // What word 1 of the keyword-value block of an ATTR-COMPS sentence holds.
     BlockId attribute_sentence_value() const { return value_; }
 
 private:
@@ -41,5 +40,3 @@ private:
 };
 
 }  // namespace minihost
-
-#endif

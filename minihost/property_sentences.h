@@ -1,12 +1,11 @@
 // Property sentences that the paragraph check builds and forwards: the way in which components get
 // attributes.
-#ifndef MINIHOST_PROPERTY_SENTENCES_H
-#define MINIHOST_PROPERTY_SENTENCES_H
+#pragma once
 
 #include <string>
 #include <vector>
 
-#include "minihost/words.h"
+#include "minihost/store_words.h"
 
 namespace minihost {
 
@@ -21,7 +20,7 @@ public:
         std::string component;
         std::vector<std::string> names;
         std::string
-            refusal;  ///< why the host did not take it; empty when the component carries the attributes
+            refusal;  // why the host did not take it; empty when the component carries the attributes
     };
 
     PropertySentences(const Store& store, const ComponentTable& components, const KeywordTables& keywords,
@@ -30,9 +29,9 @@ public:
     {
     }
 
-    /// Takes a forwarded ATTR-COMPS sentence. Returns false, and says why in its record, when the ID is not a
-    /// component or a name is not an attribute. Throws Error for blocks that are not laid out as they must
-    /// be.
+    // Takes a forwarded ATTR-COMPS sentence. Returns false, and says why in its record, when the ID is not a
+    // component or a name is not an attribute. Throws Error for blocks that are not laid out as they must
+    // be.
     bool process(BlockId head, BlockId descriptor);
 
     const std::vector<Forwarded>& forwarded() const { return forwarded_; }
@@ -53,5 +52,3 @@ private:
 };
 
 }  // namespace minihost
-
-#endif

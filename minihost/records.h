@@ -1,14 +1,11 @@
 // The records of <polyprops/host.h>: their sizes, and their state at the start of a run.
-#ifndef MINIHOST_RECORDS_H
-#define MINIHOST_RECORDS_H
+#pragma once
 
 namespace minihost {
 
-inline constexpr int record_size = 1024;  ///< words of every record but the store and the message buffer
+inline constexpr int record_size = 1024;  // words of every record but the store and the message buffer
 
-/// Clears every record and sets the values that stand for "nothing used yet".
+// Clears every record and sets the values that stand for "nothing used yet".
 void reset_records();
 
 }  // namespace minihost
-
-#endif

@@ -3,7 +3,6 @@
 #include <polyprops/host.h>
 
 #include "minihost/error.h"
-#include "minihost/whole_file.h"
 
 namespace minihost {
 namespace {
@@ -62,11 +61,6 @@ void ReportFile::start_page()
     if (pages_ > 0) text_.push_back('\f');
     text_ += heading(title_, ++pages_);
     lines_used() = 0;
-}
-
-void ReportFile::save(const std::filesystem::path& path) const
-{
-    write_whole_file(path, text_);
 }
 
 }  // namespace minihost

@@ -3,14 +3,12 @@
 // A page is a form feed (but before the first), a heading with title and page number, an empty line, and the
 // lines written to it. Lines per page counts the lines under the heading. Reserving lines starts a new page
 // when they do not fit; a routine that then writes more than it reserved gets them on the same page.
-#ifndef MINIHOST_REPORT_FILE_H
-#define MINIHOST_REPORT_FILE_H
+#pragma once
 
-#include <filesystem>
 #include <string>
 #include <string_view>
 
-#include "minihost/words.h"
+#include "minihost/store_words.h"
 
 namespace minihost {
 
@@ -18,21 +16,19 @@ class ReportFile {
 public:
     static constexpr Int default_lines_per_page = 60;
 
-    /// Heads every page that starts after it.
+    // Heads every page that starts after it.
     void set_title(std::string_view title) { title_ = title; }
-    /// Throws Error below 1.
+    // Throws Error below 1.
     void set_lines_per_page(Int lines);
 
-    /// Starts a new page when told to, or when the lines do not fit on this one; never behind an empty page.
+    // Starts a new page when told to, or when the lines do not fit on this one; never behind an empty page.
     void reserve(Int lines, bool new_page);
-    /// Throws Error for a unit that is not the report unit, a negative length, and a line end within the
-    /// line.
+    // Throws Error for a unit that is not the report unit, a negative length, and a line end within the
+    // line.
     void write_line(Int unit, Int length, const char* text);
 
     Int pages() const { return pages_; }
     const std::string& text() const { return text_; }
-    /// Writes the file whole or not at all. Throws Error.
-    void save(const std::filesystem::path& path) const;
 
 private:
     void start_page();
@@ -43,5 +39,3 @@ private:
 };
 
 }  // namespace minihost
-
-#endif

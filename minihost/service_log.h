@@ -1,15 +1,14 @@
-#ifndef MINIHOST_SERVICE_LOG_H
-#define MINIHOST_SERVICE_LOG_H
+#pragma once
 
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "minihost/words.h"
+#include "minihost/store_words.h"
 
 namespace minihost {
 
-/// One call of a service. `subject` is the block id or the component index that the call is about.
+// One call of a service. `subject` is the block id or the component index that the call is about.
 struct ServiceCall {
     std::string service;
     Int subject = 0;
@@ -18,8 +17,8 @@ struct ServiceCall {
     bool operator==(const ServiceCall&) const = default;
 };
 
-/// Keeps the services that the library calls while it exists, for tests of how often it asks. Logs do not
-/// nest.
+// Keeps the services that the library calls while it exists, for tests of how often it asks. Logs do not
+// nest.
 class ServiceLog {
 public:
     ServiceLog();
@@ -32,10 +31,10 @@ public:
     Int count() const { return static_cast<Int>(calls_.size()); }
     void clear() { calls_.clear(); }
 
-    /// Calls that were made more than once with the same subject, attribute and selector, each named once.
+    // Calls that were made more than once with the same subject, attribute and selector, each named once.
     std::vector<ServiceCall> repeated(std::string_view service) const;
 
-    /// What services.cpp tells; nothing is kept without a log.
+    // What services.cpp tells; nothing is kept without a log.
     static bool wanted() { return current_ != nullptr; }
     static void record(ServiceCall call) { current_->calls_.push_back(std::move(call)); }
 
@@ -45,5 +44,3 @@ private:
 };
 
 }  // namespace minihost
-
-#endif

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "minihost/host.h"
+#include "minihost/embedded_host.h"
 #include "minihost/service_log.h"
 
 namespace minihost {

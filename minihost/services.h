@@ -1,13 +1,10 @@
-#ifndef MINIHOST_SERVICES_H
-#define MINIHOST_SERVICES_H
+#pragma once
 
 namespace minihost {
 
 class Host;
 
-/// The Host that the services forward to, null when there is none. Referring to it links the services in.
+// The Host that the services forward to, null when there is none. Referring to it links the services in.
 Host*& active_host();
 
 }  // namespace minihost
-
-#endif

@@ -3,34 +3,33 @@
 // Plain mode reuses freed space first-fit and clears new blocks. Checked mode is for tests: every block
 // stands between guard words, every allocation moves every movable block, new, freed and vacated words hold a
 // pattern that is a signalling NaN and a huge count, and the address sanitizer sees nothing but live blocks.
-#ifndef MINIHOST_STORE_H
-#define MINIHOST_STORE_H
+#pragma once
 
 #include <string>
 #include <vector>
 
 #include "minihost/arena.h"
-#include "minihost/words.h"
+#include "minihost/store_words.h"
 
 namespace minihost {
 
 enum class BlockKind { integers, reals, two_part };
 
-/// Pinned blocks keep their position for life, whatever is allocated.
+// Pinned blocks keep their position for life, whatever is allocated.
 enum class Placement { movable, pinned };
 
 class Store {
 public:
     enum class Mode { plain, checked };
 
-    /// Words that the array has room for.
+    // Words that the array has room for.
     static constexpr Int capacity = 16'000'000;
 
-    /// What a new word holds in checked mode.
+    // What a new word holds in checked mode.
     static constexpr Word poison = 0x7FF4'DEAD'0BAD'F00D;
 
-    /// Checked when the environment variable POLYPROPS_CHECKED_STORE is set to anything but 0, otherwise
-    /// plain.
+    // Checked when the environment variable POLYPROPS_CHECKED_STORE is set to anything but 0, otherwise
+    // plain.
     static Mode default_mode();
 
     explicit Store(Mode mode);
@@ -40,41 +39,41 @@ public:
 
     Mode mode() const { return mode_; }
 
-    /// New blocks. Throw Error for a negative length and when the store is full.
+    // New blocks. Throw Error for a negative length and when the store is full.
     BlockId allocate_integers(Int length, Placement placement = Placement::movable);
     BlockId allocate_reals(Int length, Placement placement = Placement::movable);
     BlockId allocate_two_part(Int integers, Int reals, Placement placement = Placement::movable);
 
-    /// Gives an integer block a new length; the words that fit keep their contents.
+    // Gives an integer block a new length; the words that fit keep their contents.
     void resize_integers(BlockId id, Int length);
     void free(BlockId id);
 
-    /// Position of word 1. Throw Error for an id that was never given, was freed, or names another kind of
-    /// block.
+    // Position of word 1. Throw Error for an id that was never given, was freed, or names another kind of
+    // block.
     Position integers(BlockId id) const;
     Position reals(BlockId id) const;
-    Position keys(BlockId id) const;    ///< of a two-part block
-    Position values(BlockId id) const;  ///< of a two-part block
+    Position keys(BlockId id) const;    // of a two-part block
+    Position values(BlockId id) const;  // of a two-part block
 
     bool exists(BlockId id) const;
     BlockKind kind(BlockId id) const;
-    Int integer_length(BlockId id) const;  ///< of an integer block or of the keys of a two-part block
-    Int real_length(BlockId id) const;     ///< of a block of reals or of the values of a two-part block
+    Int integer_length(BlockId id) const;  // of an integer block or of the keys of a two-part block
+    Int real_length(BlockId id) const;     // of a block of reals or of the values of a two-part block
 
-    /// Word k of a block, range-checked: of its integers (keys) or of its reals (values).
+    // Word k of a block, range-checked: of its integers (keys) or of its reals (values).
     Word integer(BlockId id, Int k) const;
     void set_integer(BlockId id, Int k, Word value);
     double real(BlockId id, Int k) const;
     void set_real(BlockId id, Int k, double value);
 
-    /// Refuses a run of words that starts inside the store but does not lie wholly in it (plain mode) or in
-    /// one block (checked mode). Words outside the store are the caller's own and pass.
+    // Refuses a run of words that starts inside the store but does not lie wholly in it (plain mode) or in
+    // one block (checked mode). Words outside the store are the caller's own and pass.
     void check_run(const void* first, Int count, const char* service) const;
 
-    /// Throws Error, naming the block, when a guard word is damaged. Does nothing in plain mode.
+    // Throws Error, naming the block, when a guard word is damaged. Does nothing in plain mode.
     void verify() const;
 
-    /// Contents of all live blocks in the order of their ids, to compare before and after a call.
+    // Contents of all live blocks in the order of their ids, to compare before and after a call.
     std::vector<Word> contents() const;
 
     Int block_count() const { return live_; }
@@ -107,7 +106,7 @@ private:
     static Position word_of_extent(const Extent& extent, BlockId id, Int k, const char* what);
 
     Mode mode_;
-    Int guard_;  ///< guard words on either side of a block
+    Int guard_;  // guard words on either side of a block
     Arena pinned_;
     Arena halves_[2];
     int half_ = 0;
@@ -116,5 +115,3 @@ private:
 };
 
 }  // namespace minihost
-
-#endif

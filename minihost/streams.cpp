@@ -3,7 +3,7 @@
 #include <polyprops/host.h>
 
 #include "minihost/attributes.h"
-#include "minihost/components.h"
+#include "minihost/component_table.h"
 #include "minihost/error.h"
 #include "minihost/store.h"
 

@@ -1,14 +1,13 @@
 // Streams: vectors of reals in the store that hold, substream by substream, component flows and attribute
 // values.
-#ifndef MINIHOST_STREAMS_H
-#define MINIHOST_STREAMS_H
+#pragma once
 
 #include <map>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "minihost/words.h"
+#include "minihost/store_words.h"
 
 namespace minihost {
 
@@ -16,12 +15,12 @@ class AttributeTable;
 class ComponentTable;
 class Store;
 
-/// What a stream holds, by component ID. Flows that are not named are 0.
+// What a stream holds, by component ID. Flows that are not named are 0.
 struct Substream {
-    Int type = 1;  ///< type code; 3 holds no polymer for the moment routines
+    Int type = 1;  // type code; 3 holds no polymer for the moment routines
     std::map<std::string, double> flows = {};
     std::map<std::string, std::map<std::string, std::vector<double>>> attributes =
-        {};  ///< [component][attribute]
+        {};  // [component][attribute]
 };
 
 struct Stream {
@@ -29,8 +28,8 @@ struct Stream {
     std::vector<Substream> substreams = {Substream{}};
 };
 
-/// Where a stream stands. `values` points to word 1 of its vector; first_flow[i] is the 1-based position of
-/// component 1's flow of substream i+1 in it.
+// Where a stream stands. `values` points to word 1 of its vector; first_flow[i] is the 1-based position of
+// component 1's flow of substream i+1 in it.
 struct StreamView {
     const double* values = nullptr;
     Position position = 0;
@@ -46,12 +45,12 @@ public:
     {
     }
 
-    /// Lays a stream into the store. Throws Error for a name used twice, an unknown component, an attribute
-    /// that the component does not carry and a wrong number of values. Values that are not finite are
-    /// refused.
+    // Lays a stream into the store. Throws Error for a name used twice, an unknown component, an attribute
+    // that the component does not carry and a wrong number of values. Values that are not finite are
+    // refused.
     void add(const Stream& stream, double missing);
 
-    /// Makes a substream (1-based) the one whose attributes the library reads from the store.
+    // Makes a substream (1-based) the one whose attributes the library reads from the store.
     void select(std::string_view name, Int substream = 1) const;
 
     const StreamView& view(std::string_view name) const;
@@ -60,7 +59,7 @@ public:
 private:
     StreamView lay(const Stream& stream);
     void fill_flows(const Stream& stream, std::size_t i, const StreamView& view);
-    /// Every attribute that a component carries, without what the stream gives: 0 or missing.
+    // Every attribute that a component carries, without what the stream gives: 0 or missing.
     void fill_defaults(Int first, const StreamView& view, double missing);
     void fill_attributes(const Substream& substream, Int first, const StreamView& view);
     void check(const Stream& stream) const;
@@ -74,5 +73,3 @@ private:
 };
 
 }  // namespace minihost
-
-#endif

@@ -8,7 +8,6 @@
 #include <cstring>
 
 #include "minihost/error.h"
-#include "minihost/whole_file.h"
 
 namespace minihost {
 namespace {
@@ -179,11 +178,6 @@ std::string SummaryFile::text() const
     std::string text = "summary 1\n";
     for (const SummaryToken& token : tokens_) text += token.line() + "\n";
     return text;
-}
-
-void SummaryFile::save(const std::filesystem::path& path) const
-{
-    write_whole_file(path, text());
 }
 
 }  // namespace minihost

@@ -2,16 +2,14 @@
 //
 // A token comes as kind, length, data words and a real. What a kind does not use must hold the run's initial
 // values (ST_INITV), text must stand four characters to a word: anything else is refused.
-#ifndef MINIHOST_SUMMARY_FILE_H
-#define MINIHOST_SUMMARY_FILE_H
+#pragma once
 
-#include <filesystem>
 #include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "minihost/words.h"
+#include "minihost/store_words.h"
 
 namespace minihost {
 
@@ -31,34 +29,32 @@ struct SummaryToken {
     };
 
     Kind kind;
-    std::string text = {};     ///< of word, close ("" for one without a name), name, label, header
-    Int integer = 0;           ///< of integer
-    double real = 0.0;         ///< of real
-    std::string context = {};  ///< of header: what the block is about
+    std::string text = {};     // of word, close ("" for one without a name), name, label, header
+    Int integer = 0;           // of integer
+    double real = 0.0;         // of real
+    std::string context = {};  // of header: what the block is about
 
-    /// The token's line in the file, without its end.
+    // The token's line in the file, without its end.
     std::string line() const;
 };
 
 class SummaryFile {
 public:
-    /// Counters of data sets and blocks start at 1, the report switch at 1.
+    // Counters of data sets and blocks start at 1, the report switch at 1.
     SummaryFile();
 
-    /// The library writes summary tokens only when this is 1 or 2.
+    // The library writes summary tokens only when this is 1 or 2.
     void set_report_switch(Int value);
 
-    /// A context to hand to routines that write blocks: blocks are headed by its name.
+    // A context to hand to routines that write blocks: blocks are headed by its name.
     const void* context(const std::string& name) { return &*contexts_.insert(name).first; }
 
-    /// Append a token. Throw Error for one that breaks a rule.
+    // Append a token. Throw Error for one that breaks a rule.
     void write_token(Int kind, Int length, const Word* data, double real);
     void write_header(const void* context, const Word* block_name, Int zero);
 
     const std::vector<SummaryToken>& tokens() const { return tokens_; }
     std::string text() const;
-    /// Writes the file whole or not at all. Throws Error.
-    void save(const std::filesystem::path& path) const;
 
 private:
     std::set<std::string> contexts_;
@@ -66,5 +62,3 @@ private:
 };
 
 }  // namespace minihost
-
-#endif

@@ -2,7 +2,7 @@
 
 #include "input/attribute_sentence.h"
 #include "input/components.h"
-#include "input/messages.h"
+#include "input/input_messages.h"
 
 namespace polyprops::input {
 

@@ -5,7 +5,7 @@
 // suppresses a message, the entry is taken as though the check had passed.
 #pragma once
 
-#include "input/polymer_block.h"
+#include "input/polymer_block_room.h"
 #include "input/workspace.h"
 
 namespace polyprops::input {

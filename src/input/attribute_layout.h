@@ -3,7 +3,7 @@
 // the total.
 #pragma once
 
-#include "input/polymer_block.h"
+#include "input/polymer_block_room.h"
 
 namespace polyprops::input {
 

@@ -2,7 +2,7 @@
 // own translator would have made of it.
 #pragma once
 
-#include "input/sentences.h"
+#include "input/sentence_data.h"
 
 namespace polyprops::input {
 

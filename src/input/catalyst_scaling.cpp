@@ -2,7 +2,7 @@
 // and 3 of all its elements in the component's attribute data. Nothing is allocated, so blocks stay where
 // they are found.
 #include "input/blocks.h"
-#include "input/messages.h"
+#include "input/input_messages.h"
 #include "polyprops/polyprops.h"
 
 namespace polyprops::input {

@@ -2,7 +2,7 @@
 // then holds 0, so that nothing of an earlier paragraph shows through.
 #pragma once
 
-#include "input/polymer_block.h"
+#include "input/polymer_block_room.h"
 
 namespace polyprops::input {
 

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "input/components.h"
-#include "input/messages.h"
+#include "input/input_messages.h"
 
 namespace polyprops::input {
 

@@ -2,7 +2,7 @@
 // its requests column by column: polymer, type, three further integers; and one real for each.
 #pragma once
 
-#include "input/polymer_block.h"
+#include "input/polymer_block_room.h"
 
 namespace polyprops::input {
 

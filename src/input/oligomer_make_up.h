@@ -2,7 +2,7 @@
 // stand in one molecule: a table with one row per entry of the segment list and one column per oligomer.
 #pragma once
 
-#include "input/polymer_block.h"
+#include "input/polymer_block_room.h"
 #include "input/workspace.h"
 
 namespace polyprops::input {

@@ -1,7 +1,7 @@
 // The counts of the paragraph and the values of its catalyst-site sentence.
 #pragma once
 
-#include "input/polymer_block.h"
+#include "input/polymer_block_room.h"
 
 namespace polyprops::input {
 

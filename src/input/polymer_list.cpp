@@ -1,7 +1,7 @@
 #include "input/polymer_list.h"
 
 #include "input/components.h"
-#include "input/messages.h"
+#include "input/input_messages.h"
 
 namespace polyprops::input {
 

@@ -1,7 +1,7 @@
 // The polymers of the paragraph.
 #pragma once
 
-#include "input/polymer_block.h"
+#include "input/polymer_block_room.h"
 #include "input/workspace.h"
 
 namespace polyprops::input {

@@ -5,7 +5,7 @@
 #include "input/catalysts.h"
 #include "input/components.h"
 #include "input/distribution_requests.h"
-#include "input/messages.h"
+#include "input/input_messages.h"
 #include "input/oligomer_make_up.h"
 #include "input/parameter_block.h"
 #include "input/polymer_list.h"

@@ -2,7 +2,7 @@
 // types after them, and a list of each type in the order of the sentence.
 #pragma once
 
-#include "input/polymer_block.h"
+#include "input/polymer_block_room.h"
 #include "input/workspace.h"
 
 namespace polyprops::input {

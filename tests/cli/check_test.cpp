@@ -1,6 +1,6 @@
 // The paragraph check as the program shows it: messages with their places, tables of what was built, and runs
 // that go on without the entries in error.
-#include "cli/file_contents.h"
+#include "app/io/file_contents.h"
 #include "cli/program.h"
 
 namespace {
@@ -25,7 +25,7 @@ TEST(Check, BadInputIsAnsweredWithEveryMessageOnce)
         EXPECT_EQ(out, "") << file;
         seen += shortened(errors);
     }
-    EXPECT_EQ(seen, cli::file_contents(std::filesystem::path{POLYPROPS_CLI_TESTS} / "bad_input.txt"));
+    EXPECT_EQ(seen, app::file_contents(std::filesystem::path{POLYPROPS_CLI_TESTS} / "bad_input.txt"));
 }
 
 TEST(Check, HasNothingToSayOfTheOtherExamples)
@@ -124,7 +124,7 @@ TEST(Check, ShowsWhatWasBuiltInEveryForm)
 Lines places(const std::string& text)
 {
     Lines places;
-    for (const auto& [source, hint, message] : cli::check_input(parsed(text)).messages)
+    for (const auto& [source, hint, message] : app::check_input(parsed(text)).messages)
         places.push_back(std::to_string(message.number) + " at " + std::to_string(source.line) + ":" +
                          std::to_string(source.column));
     return places;

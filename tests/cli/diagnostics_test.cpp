@@ -1,4 +1,4 @@
-#include "cli/load.h"
+#include "app/host_setup/loaded_case.h"
 #include "cli/program.h"
 
 namespace {
@@ -42,12 +42,12 @@ pairs = [{ components = ["P", "O"], values = [0, 0, 0, 0, 0, 300] }]
 
 Lines diagnose(const std::string& text)
 {
-    cli::Diagnostics diagnostics;
-    const auto input = cli::parse_case(text, "c.toml", diagnostics);
+    app::Diagnostics diagnostics;
+    const auto input = app::parse_case(text, "c.toml", diagnostics);
     if (!diagnostics.empty()) return diagnostics.lines("c.toml");
-    const auto checked = cli::check_input(input);
+    const auto checked = app::check_input(input);
     EXPECT_TRUE(checked.messages.empty());
-    return cli::add_streams(input, checked).lines("c.toml");
+    return app::add_streams(input, checked).lines("c.toml");
 }
 
 TEST(CaseDiagnostics, NamePlaceKeyValueAndExpectation)

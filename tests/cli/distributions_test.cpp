@@ -7,13 +7,13 @@ using namespace cli_test;
 // Two components, of which distributions need none.
 const std::string head = "[components]\nP = { molecular_weight = 100 }\nQ = { molecular_weight = 50 }\n";
 
-cli::DistributionResults distribution(const std::string& text)
+app::DistributionResults distribution(const std::string& text)
 {
     return evaluated(head + "[distributions.D]\npoints = 200\nlongest_chain = 1e5\n" + text)
         .distributions.front();
 }
 
-const cli::Curve& curve(const cli::DistributionResults& results, const std::string& name)
+const app::Curve& curve(const app::DistributionResults& results, const std::string& name)
 {
     for (const auto& c : results.curves)
         if (c.name == name) return c;

@@ -88,9 +88,9 @@ TEST(Examples, GiveTheNumbersThatTheirCommentsDerive)
     };
     for (const auto& r : rows) {
         SCOPED_TRACE(r.path);
-        cli::Diagnostics diagnostics;
+        app::Diagnostics diagnostics;
         const auto e =
-            cli::evaluate_case(cli::read_case(examples / (std::string{r.example} + ".toml"), diagnostics));
+            app::evaluate_case(app::read_case(examples / (std::string{r.example} + ".toml"), diagnostics));
         EXPECT_NEAR(number(e, r.path), r.value, 1e-9 * std::abs(r.value));
     }
 }

@@ -1,7 +1,7 @@
-#include "cli/output_files.h"
+#include "app/report/output_files.h"
 
-#include "cli/file_contents.h"
-#include "cli/html.h"
+#include "app/io/file_contents.h"
+#include "app/report/format_html.h"
 #include "cli/program.h"
 #include "cli/selfcheck.h"
 
@@ -43,16 +43,16 @@ TEST_F(OutputDirectory, HoldsEveryFormOfTheResults)
     const std::string stem = "ziegler-natta-5-site.";
     EXPECT_EQ(names(), (std::vector<std::string>{stem + "PE.csv", stem + "csv", stem + "html", stem + "json",
                                                  stem + "rpt", stem + "sum"}));
-    EXPECT_EQ(cli::file_contents(path / (stem + "json")), seen.out);
-    const auto curves = cli::file_contents(path / (stem + "PE.csv"));
+    EXPECT_EQ(app::file_contents(path / (stem + "json")), seen.out);
+    const auto curves = app::file_contents(path / (stem + "PE.csv"));
     EXPECT_EQ(curves.find("chain_length,molecular_weight,cumulative,composite,site A,"), 0u);
     EXPECT_EQ(count(curves, "\n"), 2001u);
-    const auto report = cli::file_contents(path / (stem + "rpt"));
+    const auto report = app::file_contents(path / (stem + "rpt"));
     EXPECT_EQ(report.find("Polyethylene from five site types"), 0u);
     EXPECT_EQ(count(report, "*** POLYMER DISTRIBUTIONS ***"), 1u);
     EXPECT_NE(report.find("Pn =   450.6      Pw =   4084."), std::string::npos);
     // YCSD, XCSD and one section of YCSDS; seven results of five sites.
-    const auto summary = cli::file_contents(path / (stem + "sum"));
+    const auto summary = app::file_contents(path / (stem + "sum"));
     EXPECT_EQ(count(summary, "\nreal "), 3 * 2000 + 7 * 5u);
     EXPECT_EQ(count(summary, "header \"POLYRES\" \"PRODUCT\""), 1u);
 }
@@ -61,9 +61,9 @@ TEST_F(OutputDirectory, IsAsItWasWhenOneFileCannotBeWritten)
 {
     std::filesystem::create_directories(path / "case.html");
     std::ofstream{path / "case.rpt"} << "before";
-    const std::vector<cli::OutputFile> files{{"case.rpt", "after"}, {"case.html", "<p>"}};
-    EXPECT_THROW(cli::write_files(path, files), std::runtime_error);
-    EXPECT_EQ(cli::file_contents(path / "case.rpt"), "before");
+    const std::vector<app::OutputFile> files{{"case.rpt", "after"}, {"case.html", "<p>"}};
+    EXPECT_THROW(app::write_files(path, files), std::runtime_error);
+    EXPECT_EQ(app::file_contents(path / "case.rpt"), "before");
     EXPECT_EQ(names(), (std::vector<std::string>{"case.html", "case.rpt"}));
 }
 
@@ -72,10 +72,10 @@ TEST_F(OutputDirectory, KeepsDistributionsApart)
     const std::string curve = "points = 2\nlongest_chain = 9\nsites = [{ tau = 1, amount = 1 }]\n";
     const auto text = "[components]\nP = { molecular_weight = 1 }\n[distributions.\"A 1\"]\n" + curve;
     auto good = evaluated(text);
-    EXPECT_EQ(cli::output_files("n", good).back().name, "n.A_1.csv");
+    EXPECT_EQ(app::output_files("n", good).back().name, "n.A_1.csv");
     good = {};
     auto bad = evaluated(text + "[distributions.A_1]\n" + curve);
-    EXPECT_THROW(cli::output_files("n", bad), std::runtime_error);
+    EXPECT_THROW(app::output_files("n", bad), std::runtime_error);
 }
 
 TEST(Pages, HoldAsManyLinesAsTheCaseSays)
@@ -84,7 +84,7 @@ TEST(Pages, HoldAsManyLinesAsTheCaseSays)
         "title = \"Two\\nlines\"\n[settings]\nlines_per_page = 5\n"
         "[components]\nP = { molecular_weight = 1 }\n[parameters.S]\ncomponents = [\"P\"]\ntemperatures = "
         "[300]\n");
-    const auto report = cli::output_files("n", e).front().content;
+    const auto report = app::output_files("n", e).front().content;
     EXPECT_EQ(report.find("Two lines "), 0u);
     std::istringstream pages{report};
     for (std::string page; std::getline(pages, page, '\f');) EXPECT_LE(count(page, "\n"), 5 + 2u) << page;
@@ -97,7 +97,7 @@ TEST(Html, EscapesEveryText)
         "title = \"</title><script>alert(1)</script>&\\\"\"\n[components]\nP = { molecular_weight = 1 }\n"
         "[distributions.\"<b>\"]\npoints = 2\nlongest_chain = 9\nsites = [{ name = \"</script>\", tau = 1, "
         "amount = 1 }]\n");
-    const auto html = cli::format_html(e);
+    const auto html = app::format_html(e);
     EXPECT_EQ(html.find("<script>alert"), std::string::npos);
     EXPECT_EQ(html.find("<b>"), std::string::npos);
     EXPECT_NE(html.find("&lt;/title&gt;&lt;script&gt;alert(1)&lt;/script&gt;&amp;&quot;"), std::string::npos);

@@ -7,10 +7,10 @@
 #include <map>
 #include <nlohmann/json.hpp>
 
-#include "cli/case_reader.h"
+#include "app/case/case_reader.h"
 #include "cli/commands.h"
-#include "cli/evaluation.h"
-#include "cli/numbers.h"
+#include "app/evaluation/evaluation.h"
+#include "app/report/result_numbers.h"
 #include "support/capture.h"
 #include "support/files.h"
 
@@ -66,23 +66,23 @@ inline std::string with(std::string text, const std::string& old, const std::str
 }
 
 // A case without errors in its text.
-inline cli::Case parsed(const std::string& text)
+inline app::Case parsed(const std::string& text)
 {
-    cli::Diagnostics diagnostics;
-    auto input = cli::parse_case(text, "c.toml", diagnostics);
+    app::Diagnostics diagnostics;
+    auto input = app::parse_case(text, "c.toml", diagnostics);
     EXPECT_TRUE(diagnostics.empty()) << diagnostics.lines("c.toml").front();
     return input;
 }
 
-inline cli::Evaluation evaluated(const std::string& text)
+inline app::Evaluation evaluated(const std::string& text)
 {
-    return cli::evaluate_case(parsed(text));
+    return app::evaluate_case(parsed(text));
 }
 
 // The number of a report at the path that a sweep heads its column with.
-inline double number(const cli::Evaluation& e, const std::string& path)
+inline double number(const app::Evaluation& e, const std::string& path)
 {
-    for (const auto& n : cli::numbers(e.report))
+    for (const auto& n : app::numbers(e.report))
         if (n.key() == path) return std::get<double>(n.value);
     ADD_FAILURE() << "there is no " << path;
     return 0;

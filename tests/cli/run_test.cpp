@@ -1,10 +1,10 @@
-#include "cli/bases.h"
+#include "app/evaluation/bases.h"
 #include "cli/program.h"
 
 namespace {
 
 using namespace cli_test;
-using cli::Basis;
+using app::Basis;
 
 TEST(Run, TextLeavesOutWhatDoesNotFlow)
 {
@@ -26,7 +26,7 @@ std::string csv_of(const std::string& report)
         for (const auto& [key, value] : row.items())
             if (value.is_number())
                 csv += lead + table + "," + text(item) + text("component") + text("segment") + key + "," +
-                       cli::text(value.template get<double>()) + "," +
+                       app::text(value.template get<double>()) + "," +
                        json["units"][table][key].template get<std::string>() + "\n";
     };
     for (const std::string kind : {"stream", "reactor"})
@@ -89,13 +89,13 @@ TEST(Convert, GivesTheTablesOfTheRunForEachPairOfBases)
                                              {Basis::apparent, Basis::segment},
                                              {Basis::true_chains, Basis::segment}};
     for (const auto& [from, to] : pairs) {
-        SCOPED_TRACE(cli::text(to));
+        SCOPED_TRACE(app::text(to));
         const auto [status, out, errors] = convert("nylon6-oligomers.toml", {"MELT", from, to}, Format::json);
         EXPECT_EQ(status, cli::exit_success) << errors;
         const auto stream = Json::parse(out)["streams"][0];
         EXPECT_EQ(stream.size(), 4u);  // name, two compositions, closures
         for (const auto basis : {from, to}) {
-            const auto table = std::string{cli::text(basis)} + "_composition";
+            const auto table = std::string{app::text(basis)} + "_composition";
             EXPECT_EQ(stream[table], all[table]);
         }
     }

@@ -1,4 +1,4 @@
-#include "cli/sweep.h"
+#include "app/sweep/sweep.h"
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -6,10 +6,10 @@
 #include <algorithm>
 #include <csignal>
 
-#include "cli/file_contents.h"
-#include "cli/process_pool.h"
+#include "app/io/file_contents.h"
+#include "app/sweep/process_pool.h"
 #include "cli/program.h"
-#include "cli/sweep_grid.h"
+#include "app/sweep/sweep_grid.h"
 
 namespace {
 
@@ -42,14 +42,14 @@ protected:
     Outcome sweep() const
     {
         const support::Capture errors;
-        const int status = cli::sweep(options, errors.file);
+        const int status = app::sweep(options, errors.file);
         return {status, "", errors.text()};
     }
 
     // Rows of the result by case number, cells by column.
     std::vector<std::map<std::string, std::string>> rows() const
     {
-        std::istringstream lines{cli::file_contents(options.out)};
+        std::istringstream lines{app::file_contents(options.out)};
         std::vector<std::map<std::string, std::string>> all;
         std::string header;
         std::getline(lines, header);
@@ -64,7 +64,7 @@ protected:
 
     std::filesystem::path directory = support::scratch() / "polyprops_sweep";
     std::filesystem::path partial = directory / "s.csv.partial";
-    cli::SweepOptions options{directory / "case.toml", {}, directory / "s.csv", 3};
+    app::SweepOptions options{directory / "case.toml", {}, directory / "s.csv", 3};
 };
 
 TEST_F(SweepFiles, RunsEveryCombinationInOrder)
@@ -109,7 +109,7 @@ TEST_F(SweepFiles, GoesOnWhereItWasInterrupted)
     std::filesystem::create_directories(options.out);
     EXPECT_EQ(sweep().status, cli::exit_case_error);
     std::filesystem::remove(options.out);
-    auto journal = cli::file_contents(partial);
+    auto journal = app::file_contents(partial);
     const auto kept = journal.find("\n2,") + 1;
     // Only the row of case 2 is left, marked to be known again, and the torn row of another.
     const auto head = journal.substr(0, journal.find('\n', journal.find('\n') + 1) + 1);
@@ -135,7 +135,7 @@ TEST_F(SweepFiles, AnInterruptionEndsItWithTheRowsThatItHas)
     }
     const auto seen = sweep();
     ::waitpid(user, nullptr, 0);
-    EXPECT_EQ(seen.status, cli::exit_interrupted);
+    EXPECT_EQ(seen.status, app::exit_interrupted);
     const auto kept = std::ranges::count(support::content(partial), '\n') - 2;
     EXPECT_EQ(seen.errors, "polyprops: interrupted after " + std::to_string(kept) +
                                " of 100000 cases; the same command goes on from there (" + partial.string() +
@@ -148,7 +148,7 @@ TEST_F(SweepFiles, RefusesTheRowsOfAnotherSweepAndKeysThatLeadNowhere)
     std::ofstream{partial} << "# sweep of something else\n1,2\n";
     options.sets = {"streams.S.attributes.P.ZMOM=1:4:4"};
     EXPECT_NE(sweep().errors.find("s.csv.partial: belongs to another sweep"), std::string::npos);
-    EXPECT_EQ(cli::file_contents(partial), "# sweep of something else\n1,2\n");
+    EXPECT_EQ(app::file_contents(partial), "# sweep of something else\n1,2\n");
     for (const auto* key :
          {"streams.S.flows.Q", "streams.S.attributes.P.SFLOW[2]", "components.P.class", "title"}) {
         options.sets = {std::string{key} + "=1:4:4"};
@@ -161,16 +161,16 @@ TEST_F(SweepFiles, RefusesTheRowsOfAnotherSweepAndKeysThatLeadNowhere)
 
 TEST(SweepRange, ReadsKeyAndValues)
 {
-    const auto range = cli::parse_range("a.\"b=c\"[2].d=-1e3:0.5:7");
+    const auto range = app::parse_range("a.\"b=c\"[2].d=-1e3:0.5:7");
     EXPECT_EQ(range.key, "a.\"b=c\"[2].d");
     EXPECT_EQ(range.value(0), -1000);
     EXPECT_EQ(range.value(6), 0.5);
     EXPECT_DOUBLE_EQ(range.value(3), -499.75);
     for (const auto* text :
          {"a=1:2", "a=1:2:0", "a=1:2:3:4", "=1:2:3", "a", "a=1:x:3", "a=1:inf:3", "a=1:2:2.5"})
-        EXPECT_THROW(cli::parse_range(text), std::invalid_argument) << text;
-    EXPECT_THROW(cli::SweepGrid({{"a", 0, 1, 2}, {"a", 0, 1, 2}}), std::invalid_argument);
-    EXPECT_THROW(cli::SweepGrid({{"a", 0, 1, 1u << 31}, {"b", 0, 1, 1u << 31}}), std::invalid_argument);
+        EXPECT_THROW(app::parse_range(text), std::invalid_argument) << text;
+    EXPECT_THROW(app::SweepGrid({{"a", 0, 1, 2}, {"a", 0, 1, 2}}), std::invalid_argument);
+    EXPECT_THROW(app::SweepGrid({{"a", 0, 1, 1u << 31}, {"b", 0, 1, 1u << 31}}), std::invalid_argument);
 }
 
 TEST(ProcessPool, OutlivesTasksThatCrash)
@@ -181,7 +181,7 @@ TEST(ProcessPool, OutlivesTasksThatCrash)
         return std::string(100000 * task, 'x');
     };
     std::map<std::size_t, std::string> seen;
-    cli::run_tasks({1, 2, 3, 4}, {2, [] { return false; }}, work, [&](const cli::TaskOutcome& outcome) {
+    app::run_tasks({1, 2, 3, 4}, {2, [] { return false; }}, work, [&](const app::TaskOutcome& outcome) {
         seen[outcome.task] = outcome.result ? std::to_string(outcome.result->size()) : outcome.why;
     });
     EXPECT_EQ(seen[1], "100000");
@@ -193,9 +193,9 @@ TEST(ProcessPool, OutlivesTasksThatCrash)
 TEST(ProcessPool, StartsNothingOnceItIsStopped)
 {
     std::size_t done = 0;
-    cli::run_tasks(
+    app::run_tasks(
         {1, 2, 3, 4}, {1, [&] { return done == 2; }}, [](std::size_t) { return std::string{}; },
-        [&](const cli::TaskOutcome&) { ++done; });
+        [&](const app::TaskOutcome&) { ++done; });
     EXPECT_EQ(done, 2u);
 }
 

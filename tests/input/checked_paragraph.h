@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "minihost/host.h"
+#include "minihost/embedded_host.h"
 
 namespace support {
 
@@ -15,20 +15,20 @@ using minihost::Int;
 using Ints = std::vector<Int>;
 using Reals = std::vector<double>;
 
-/// Words of the polymer block.
+// Words of the polymer block.
 namespace word {
 inline constexpr Int segments = 2, polymers = 3, attribute_sentence = 5, oligomers = 6, catalysts = 7,
                      parameters = 8, end_segments = 9, type_3 = 11, type_4 = 12, type_2 = 13, layout = 14,
                      distributions = 16, initiators = 17;
 }
 
-/// Components W, segments A B C D E, polymers P Q, oligomers O R, catalyst K, initiator I, with the indices 1
-/// to 12 in this order.
+// Components W, segments A B C D E, polymers P Q, oligomers O R, catalyst K, initiator I, with the indices 1
+// to 12 in this order.
 struct CheckedParagraph {
     minihost::Host host{{{"W"}, {"A"}, {"B"}, {"C"}, {"D"}, {"E"}, {"P"}, {"Q"}, {"O"}, {"R"}, {"K"}, {"I"}},
                         {.store_mode = minihost::Store::Mode::checked}};
 
-    /// The status after the check, 0 before it.
+    // The status after the check, 0 before it.
     Int check(const std::vector<minihost::Sentence>& sentences, Int op = 2)
     {
         host.paragraph().set(sentences);
@@ -59,7 +59,7 @@ struct CheckedParagraph {
         for (Int k = 1; k <= count; ++k) words.push_back(host.store().real(id, k));
         return words;
     }
-    /// The IDs that a list block or the keys of a two-part block hold, "-" for 0.
+    // The IDs that a list block or the keys of a two-part block hold, "-" for 0.
     std::string list(Int word)
     {
         std::string text;
@@ -67,7 +67,7 @@ struct CheckedParagraph {
             text += (text.empty() ? "" : " ") + (index == 0 ? "-" : host.components().at(index).id);
         return text;
     }
-    /// "P:ZMOM,SFLOW" for each forwarded sentence.
+    // "P:ZMOM,SFLOW" for each forwarded sentence.
     std::string forwarded()
     {
         std::string text;

@@ -1,4 +1,4 @@
-#include "minihost/host.h"
+#include "minihost/embedded_host.h"
 
 #include <gtest/gtest.h>
 #include <polyprops/host.h>

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "minihost/error.h"
-#include "minihost/host.h"
+#include "minihost/embedded_host.h"
 #include "support/world.h"
 
 namespace minihost {
@@ -56,7 +56,7 @@ TEST(Sentences, DataStayThroughAllocationsAndGoWithTheNextSentence)
     EXPECT_THROW(paragraph.set({PolymerSentence{{"NINECHARS"}}}), Error);
 }
 
-/// The five blocks of a forwarded sentence, built as the paragraph check builds them.
+// The five blocks of a forwarded sentence, built as the paragraph check builds them.
 struct BuiltSentence {
     BuiltSentence(Host& host, const char* id, const char* attribute) : store(host.store())
     {

@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "minihost/host.h"
+#include "minihost/embedded_host.h"
 #include "support/files.h"
 #include "support/refusal.h"
 #include "support/world.h"
@@ -85,27 +85,14 @@ TEST(SummaryFile, RefusesTokensThatBreakARule)
         contains(refusal([&] { summary.write_header(&summary, longer, 0); }), "YCSDS: unknown context"));
 }
 
-TEST(OutputFiles, AreWrittenWholeOrNotAtAll)
+TEST(OutputFiles, GiveTheirText)
 {
-    const fs::path directory = support::scratch() / "minihost";
-    fs::create_directories(directory / "taken" / "by");
     World world;
     auto& host = world.host();
-    write(host, "line");
-    std::ofstream(directory / "case.rpt") << "what stood there before";
-    host.report().save(directory / "case.rpt");
-    EXPECT_EQ(content(directory / "case.rpt"), host.report().text());
     const Word none = -1, quote = text_word("a\"\\");
     host.summary().write_token(0, 3, &quote, 1e35);
     host.summary().write_token(0, -1, &none, 0.1);
-    host.summary().save(directory / "case.sum");
-    EXPECT_EQ(content(directory / "case.sum"), "summary 1\nword \"a\\\"\\\\\"\nreal 0.1\n");
-    const auto reason = refusal([&] { host.report().save(directory / "taken"); });
-    EXPECT_TRUE(contains(reason, "taken: cannot be written: ")) << reason;
-    const auto entries = std::distance(fs::directory_iterator(directory), fs::directory_iterator());
-    EXPECT_EQ(entries, 3) << "no temporary file stays behind";
-    fs::remove_all(directory);
-    EXPECT_TRUE(contains(refusal([&] { host.report().save(directory / "case.rpt"); }), "No such file"));
+    EXPECT_EQ(host.summary().text(), "summary 1\nword \"a\\\"\\\\\"\nreal 0.1\n");
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include <functional>
 
 #include "minihost/error.h"
-#include "minihost/host.h"
+#include "minihost/embedded_host.h"
 #include "support/refusal.h"
 
 namespace minihost {

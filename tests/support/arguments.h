@@ -13,7 +13,7 @@ namespace support {
 using Ints = std::vector<std::int64_t>;
 using Values = std::vector<double>;
 
-/// A segment-count matrix of n components, 0 where nothing is set.
+// A segment-count matrix of n components, 0 where nothing is set.
 struct CountMatrix {
     explicit CountMatrix(std::int64_t components) : n(components), elements(static_cast<std::size_t>(n * n))
     {

@@ -9,7 +9,7 @@
 
 namespace support {
 
-/// A file without a name, read back after the program wrote to it.
+// A file without a name, read back after the program wrote to it.
 class Capture {
 public:
     ~Capture() { std::fclose(file); }

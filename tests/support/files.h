@@ -18,13 +18,13 @@ inline std::string content(const std::filesystem::path& path)
     return text.str();
 }
 
-/// A file named from the directory of a test source.
+// A file named from the directory of a test source.
 inline std::string stored(const std::filesystem::path& test, const std::string& name)
 {
     return content(test.parent_path() / name);
 }
 
-/// A folder of the test process, so that tests may run side by side.
+// A folder of the test process, so that tests may run side by side.
 inline std::filesystem::path scratch()
 {
     const auto folder =

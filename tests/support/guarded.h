@@ -14,25 +14,25 @@ namespace support {
 template <typename T>
 class Guarded {
 public:
-    /// A number that no calculation gives by chance.
+    // A number that no calculation gives by chance.
     static constexpr T sentinel = std::bit_cast<T>(std::int64_t{0x40C3'87AD'DEAD'BEEF});
 
-    /// `size` elements that hold the sentinel.
+    // `size` elements that hold the sentinel.
     explicit Guarded(std::size_t size) : words_(size + 2 * fence, sentinel) {}
 
-    /// The given elements.
+    // The given elements.
     Guarded(std::initializer_list<T> values) : Guarded(values.size()) { std::ranges::copy(values, data()); }
 
     T* data() { return words_.data() + fence; }
     operator T*() { return data(); }
 
-    /// Element i, from 1.
+    // Element i, from 1.
     T& operator()(std::int64_t i) { return words_.at(fence + static_cast<std::size_t>(i - 1)); }
     T operator()(std::int64_t i) const { return words_.at(fence + static_cast<std::size_t>(i - 1)); }
 
     std::vector<T> values() const { return {words_.begin() + fence, words_.end() - fence}; }
 
-    /// Nothing was written beside the elements.
+    // Nothing was written beside the elements.
     bool fence_holds() const
     {
         const auto is_sentinel = [](T word) { return word == sentinel; };
@@ -42,7 +42,7 @@ public:
 
     bool untouched(std::int64_t i) const { return (*this)(i) == sentinel; }
 
-    /// No element was written either.
+    // No element was written either.
     bool untouched() const { return words_ == std::vector<T>(words_.size(), sentinel); }
 
 private:

@@ -8,7 +8,7 @@
 
 namespace support {
 
-/// The text of the error that an action throws, empty without one.
+// The text of the error that an action throws, empty without one.
 inline std::string refusal(const std::function<void()>& action)
 {
     try {

@@ -20,8 +20,8 @@
 #include <string>
 #include <vector>
 
-#include "minihost/host.h"
-#include "support/polymer_block.h"
+#include "minihost/embedded_host.h"
+#include "support/laid_polymer_block.h"
 
 namespace support {
 
@@ -32,7 +32,7 @@ using minihost::Parameter;
 inline constexpr double missing = 1e35;
 inline constexpr double zero_bound = 1e-15;
 
-/// An attribute and its values.
+// An attribute and its values.
 struct Attribute {
     Attribute(const char* attribute, double value) : name(attribute), values{value} {}
     Attribute(const char* attribute, std::initializer_list<double> all) : name(attribute), values(all) {}
@@ -51,7 +51,7 @@ struct Segment {
     SegmentType type;
 };
 
-/// One substream of an explicit stream vector.
+// One substream of an explicit stream vector.
 struct Part {
     Int type = 1;
     std::map<std::string, double> flows = {};
@@ -64,30 +64,30 @@ public:
 
     // ---- facts
 
-    /// Segment components and their places in the segment list; those of type end also join the end-segment
-    /// list.
+    // Segment components and their places in the segment list; those of type end also join the end-segment
+    // list.
     World& segments(std::initializer_list<Segment> segments);
-    /// A polymer component, listed as a polymer, with its attributes in the current stream.
+    // A polymer component, listed as a polymer, with its attributes in the current stream.
     World& polymer(const std::string& id, const Attributes& attributes = {}, double molecular_weight = 1);
-    /// An oligomer component, listed as an oligomer, with its segments per molecule.
+    // An oligomer component, listed as an oligomer, with its segments per molecule.
     World& oligomer(const std::string& id, const std::map<std::string, double>& counts,
                     double molecular_weight = 1);
     World& conventional(const std::string& id, double molecular_weight = 1, const std::string& name = "");
-    /// A component of a class that stands in no list.
+    // A component of a class that stands in no list.
     World& component(const std::string& id, ComponentClass component_class, double molecular_weight = 1);
 
     World& parameter(const std::string& id, Parameter parameter, double value);
-    /// The parameter vector does not exist, whatever components give.
+    // The parameter vector does not exist, whatever components give.
     World& without(Parameter parameter);
-    /// What the host says of a component, whatever lists it stands in.
+    // What the host says of a component, whatever lists it stands in.
     World& class_of(const std::string& id, ComponentClass given)
     {
         return set(at(id).component_class, given);
     }
 
-    /// Attributes of any component in the current stream.
+    // Attributes of any component in the current stream.
     World& attributes(const std::string& id, const Attributes& attributes);
-    /// The component carries the attribute, but the host gives an offset that is not positive.
+    // The component carries the attribute, but the host gives an offset that is not positive.
     World& hidden_attribute(const std::string& id, const std::string& attribute, Int offset = -1)
     {
         return set(hidden_[{id, attribute}], offset);
@@ -102,7 +102,7 @@ public:
     World& bounds(double missing_value_bound, double zero_bound);
     World& pdi_mode(Int mode) { return set(pdi_mode_, mode); }
     World& polymer_count(Int count) { return set(polymer_count_, count); }
-    /// The host gives this id (0 or less) for the polymer block.
+    // The host gives this id (0 or less) for the polymer block.
     World& without_polymer_block(minihost::BlockId id = 0) { return set(polymer_block_, id); }
 
     // ---- questions
@@ -111,13 +111,13 @@ public:
     Int index(const std::string& id) const;
     std::vector<Int> indices(const std::vector<std::string>& ids) const;
     Int component_count() const { return static_cast<Int>(components_.size()); }
-    /// Molecular weights by component index.
+    // Molecular weights by component index.
     std::vector<double> molecular_weights() const;
-    /// Component indices in segment-list order.
+    // Component indices in segment-list order.
     std::vector<Int> segment_list() const;
     const minihost::StreamView& view(const std::string& stream) { return host().streams().view(stream); }
 
-    /// Results of a routine with the arguments selector, N, IDX, OUT.
+    // Results of a routine with the arguments selector, N, IDX, OUT.
     template <typename Routine>
     std::vector<double> ask(Routine* routine, const std::vector<std::string>& ids, Int selector = 1)
     {
@@ -148,7 +148,7 @@ private:
 
     std::vector<minihost::Component> components_;
     PolymerLists lists_;
-    std::vector<minihost::Stream> streams_;  ///< the current one first
+    std::vector<minihost::Stream> streams_;  // the current one first
     std::map<std::pair<std::string, std::string>, Int> hidden_;
     minihost::Options options_;
     std::optional<Int> pdi_mode_;

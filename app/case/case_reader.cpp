@@ -1,0 +1,147 @@
+#include "app/case/case_reader.h"
+
+#include <fmt/format.h>
+
+#include "app/io/file_contents.h"
+
+namespace app {
+
+namespace {
+
+constexpr Word<ComponentClass> component_classes[] = {
+    {"conventional", ComponentClass::conventional},
+    {"polymer", ComponentClass::polymer},
+    {"oligomer", ComponentClass::oligomer},
+    {"segment", ComponentClass::segment},
+};
+
+constexpr WholeRange page_lengths{1, 100000};
+
+constexpr Word<bool> pdi_sources[] = {{"moments", false}, {"parameters", true}};
+
+Settings read_settings(TableReader table)
+{
+    Settings settings;
+    settings.zero_bound = table.number("zero_bound", Range::positive).value_or(settings.zero_bound);
+    settings.missing_value_bound =
+        table.number("missing_value_bound", Range::positive).value_or(settings.missing_value_bound);
+    if (settings.zero_bound >= settings.missing_value_bound)
+        table.diagnostics().add(
+            table.source(),
+            fmt::format("settings.zero_bound is {}; expected less than missing_value_bound, {}",
+                        settings.zero_bound, settings.missing_value_bound));
+    if (const auto source = table.entry("pdi_from"))
+        settings.pdi_from_parameters =
+            read_word(*source, pdi_sources, table.diagnostics()).value_or(settings.pdi_from_parameters);
+    settings.message_level = table.whole_number("message_level", {0, 2}).value_or(settings.message_level);
+    settings.lines_per_page =
+        table.whole_number("lines_per_page", page_lengths).value_or(settings.lines_per_page);
+    table.finish();
+    return settings;
+}
+
+Component read_component(const std::string& id, TableReader table)
+{
+    Component component;
+    component.id = id;
+    component.source = table.source();
+    if (const auto kind = table.entry("class"))
+        component.component_class =
+            read_word(*kind, component_classes, table.diagnostics()).value_or(component.component_class);
+    component.molecular_weight = table.required_number("molecular_weight", Range::positive);
+    component.name = table.text("name").value_or(id);
+    component.dpn = table.number("dpn", Range::not_negative);
+    component.pdi = table.number("pdi", Range::positive);
+    component.cry = table.number("cry", Range::not_negative);
+    table.finish();
+    return component;
+}
+
+std::vector<Component> read_components(TableReader table)
+{
+    std::vector<Component> components;
+    for (const auto& entry : table.entries())
+        if (auto component = read_table(entry, table.diagnostics()))
+            components.push_back(read_component(entry.key, *component));
+    return components;
+}
+
+// A section that a case cannot do without.
+std::optional<TableReader> section(TableReader& root, std::string_view key, std::string_view expected)
+{
+    auto found = root.table(key);
+    if (!found) root.missing(key, expected);
+    if (found && found->entries().empty())
+        root.diagnostics().add(found->source(), fmt::format("{} is empty; expected {}", key, expected));
+    return found;
+}
+
+void read_curves(TableReader& root, Case& input)
+{
+    if (const auto distributions = root.table("distributions"))
+        input.distributions = read_distributions(*distributions);
+    if (const auto parameters = root.table("parameters"))
+        input.parameter_sets = read_parameter_sets(*parameters);
+}
+
+// A case without streams has distributions or binary parameters instead.
+void read_streams(TableReader& root, Case& input)
+{
+    const bool may_lack = !input.distributions.empty() || !input.parameter_sets.empty();
+    if (may_lack && !root.entry("streams")) return;
+    if (const auto streams = section(root, "streams", "a table with at least one stream"))
+        input.streams = read_streams(*streams);
+}
+
+Case read_root(TableReader root, const std::string& file)
+{
+    Case input;
+    input.file = file;
+    input.title = root.text("title").value_or("");
+    if (const auto settings = root.table("settings")) input.settings = read_settings(*settings);
+    if (const auto components = section(root, "components", "a table with at least one component"))
+        input.components = read_components(*components);
+    if (const auto polymers = root.table("polymers")) input.paragraph = read_paragraph(*polymers);
+    input.catalyst_scaling = read_catalyst_scaling(root.array("catalyst_scaling"), root.diagnostics());
+    read_curves(root, input);
+    read_streams(root, input);
+    if (const auto properties = root.table("properties")) input.properties = read_properties(*properties);
+    if (const auto reactors = root.table("reactors")) input.reactors = read_reactors(*reactors);
+    root.finish();
+    return input;
+}
+
+}  // namespace
+
+Case parse_case(std::string_view text, const std::string& file, Diagnostics& diagnostics,
+                const std::vector<Override>& overrides)
+{
+    toml::table root;
+    Case failed;
+    failed.file = file;
+    try {
+        root = toml::parse(text);
+    } catch (const toml::parse_error& error) {
+        const auto at = error.source().begin;
+        diagnostics.add({at.line, at.column}, fmt::format("{}", error.description()));
+        return failed;
+    }
+    for (const auto& change : overrides) apply(change, root);
+    auto input = read_root(TableReader{root, "", {}, diagnostics}, file);
+    check_components(input, diagnostics);
+    check_paragraph(input, diagnostics);
+    check_catalyst_scaling(input, diagnostics);
+    check_streams(input, diagnostics);
+    check_properties(input, diagnostics);
+    check_reactors(input, diagnostics);
+    check_distributions(input, diagnostics);
+    check_parameter_sets(input, diagnostics);
+    return input;
+}
+
+Case read_case(const std::filesystem::path& file, Diagnostics& diagnostics)
+{
+    return parse_case(file_contents(file), file.string(), diagnostics);
+}
+
+}  // namespace app

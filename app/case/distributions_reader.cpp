@@ -1,0 +1,206 @@
+// The [distributions] section: grid, form, and what each site makes in each increment of each section.
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <numeric>
+
+#include "app/case/case_reader.h"
+
+namespace app {
+
+namespace {
+
+constexpr WholeRange grid_points{2, 100000};
+constexpr double shortest_grid = 2;
+
+constexpr Word<bool> forms[] = {{"weight-fraction", false}, {"gpc", true}};
+
+// A tau or beta that is left out is that of the same site in the increment before.
+// Sites are named where they stand first.
+SiteIncrement read_site(TableReader table, const SiteIncrement* previous, std::optional<std::string>& name)
+{
+    SiteIncrement site;
+    const auto parameter = [&](std::string_view key, std::optional<double> before) {
+        const auto value = table.number(key, Range::not_negative);
+        return value ? *value : before.value_or(0);
+    };
+    const bool is_given = table.entry("tau") || table.entry("beta");
+    site.tau = parameter("tau", previous ? std::optional{previous->tau} : std::nullopt);
+    site.beta = parameter("beta", previous ? std::optional{previous->beta} : std::nullopt);
+    if (!is_given && !previous) table.missing("tau", "a finite number, 0 or greater");
+    if (is_given && !(site.tau + site.beta > 0))
+        table.diagnostics().add(table.source(), fmt::format("{}: tau + beta is {}; expected greater than 0",
+                                                            table.path(), site.tau + site.beta));
+    site.amount = table.required_number("amount", Range::not_negative).value_or(0);
+    if (!previous) name = table.text("name");
+    table.finish();
+    return site;
+}
+
+void name_site(DistributionSection& section, const Entry& entry, const std::optional<std::string>& name)
+{
+    const auto number = section.sites.size() + 1;
+    section.sites.push_back({name.value_or(fmt::format("{}", number)), entry.source});
+}
+
+void read_increment(const Entry& entry, DistributionSection& section, Diagnostics& diagnostics)
+{
+    const auto elements = read_array(entry, diagnostics);
+    const Increment* previous = section.increments.empty() ? nullptr : &section.increments.back();
+    Increment increment;
+    for (const auto& element : elements) {
+        const auto table = read_table(element, diagnostics);
+        if (!table) continue;
+        const auto at = increment.size();
+        std::optional<std::string> name;
+        increment.push_back(
+            read_site(*table, previous && at < previous->size() ? &(*previous)[at] : nullptr, name));
+        if (!previous) name_site(section, element, name);
+    }
+    if (elements.empty() && entry.node->is_array())
+        diagnostics.add(entry.source, fmt::format("{} is empty; expected at least one site", entry.path));
+    if (previous && increment.size() != previous->size())
+        diagnostics.add(entry.source, fmt::format("{} has {} sites; the increment before it has {}",
+                                                  entry.path, increment.size(), previous->size()));
+    section.increments.push_back(std::move(increment));
+}
+
+void read_increments(TableReader& table, DistributionSection& section)
+{
+    const auto sites = table.entry("sites");
+    const auto increments = table.entry("increments");
+    if (sites.has_value() == increments.has_value()) {
+        table.diagnostics().add(
+            sites ? increments->source : table.source(),
+            fmt::format("{} has {}; expected one of them", table.path(),
+                        sites ? "both sites and increments" : "neither sites nor increments"));
+        return;
+    }
+    if (sites) return read_increment(*sites, section, table.diagnostics());
+    for (const auto& entry : read_array(*increments, table.diagnostics()))
+        read_increment(entry, section, table.diagnostics());
+    if (section.increments.empty() && increments->node->is_array())
+        table.diagnostics().add(
+            increments->source,
+            fmt::format("{} is empty; expected at least one increment", increments->path));
+}
+
+DistributionSection read_section(TableReader table)
+{
+    DistributionSection section;
+    if (const auto name = table.entry("name"))
+        section.name = {read_text(*name, table.diagnostics()).value_or(""), name->source};
+    else
+        table.missing("name", "a text in quotes");
+    read_increments(table, section);
+    table.finish();
+    return section;
+}
+
+std::vector<DistributionSection> read_sections(TableReader& table)
+{
+    std::vector<DistributionSection> sections;
+    if (!table.entry("sections")) {
+        sections.push_back({{"", table.source()}, {}, {}});
+        read_increments(table, sections.back());
+        return sections;
+    }
+    const auto entries = table.array("sections");
+    for (const auto& entry : entries)
+        if (const auto section = read_table(entry, table.diagnostics()))
+            sections.push_back(read_section(*section));
+    const auto entry = table.entry("sections");
+    if (entries.empty() && entry->node->is_array())
+        table.diagnostics().add(entry->source,
+                                fmt::format("{} is empty; expected at least one section", entry->path));
+    return sections;
+}
+
+std::optional<PlacedName> reference(TableReader& table, std::string_view key)
+{
+    const auto entry = table.entry(key);
+    if (!entry) return {};
+    return PlacedName{read_text(*entry, table.diagnostics()).value_or(""), entry->source};
+}
+
+void read_grid(TableReader& table, Distribution& distribution)
+{
+    distribution.points = table.required_whole_number("points", grid_points).value_or(0);
+    const auto longest = table.required_number("longest_chain", Range::positive);
+    if (longest && *longest < shortest_grid)
+        table.diagnostics().add(table.entry("longest_chain")->source,
+                                fmt::format("{}.longest_chain is {}; expected {} or greater", table.path(),
+                                            *longest, shortest_grid));
+    distribution.longest_chain = longest.value_or(shortest_grid);
+}
+
+Distribution read_distribution(const Entry& entry, TableReader table)
+{
+    Distribution distribution;
+    distribution.name = {entry.key, entry.source};
+    read_grid(table, distribution);
+    if (const auto form = table.entry("form"))
+        distribution.is_gpc = read_word(*form, forms, table.diagnostics()).value_or(false);
+    distribution.segment_weight = table.number("segment_weight", Range::positive);
+    distribution.stream = reference(table, "stream");
+    distribution.sections = read_sections(table);
+    table.finish();
+    return distribution;
+}
+
+void check_unique(const std::vector<PlacedName>& names, std::string_view path, Diagnostics& diagnostics)
+{
+    for (auto name = names.begin(); name != names.end(); ++name) {
+        if (name->id.empty())
+            diagnostics.add(name->source, fmt::format("{}: a name is empty", path));
+        else if (std::find_if(names.begin(), name, [&](const auto& n) { return n.id == name->id; }) != name)
+            diagnostics.add(name->source, fmt::format("{} names \"{}\" twice", path, name->id));
+    }
+}
+
+// What the host takes for nothing cannot be averaged.
+void check_amounts(const DistributionSection& section, std::string_view path, double zero_bound,
+                   Diagnostics& diagnostics)
+{
+    double total = 0;
+    for (const auto& increment : section.increments)
+        for (const auto& site : increment) total += site.amount;
+    if (!section.sites.empty() && !(total > zero_bound))
+        diagnostics.add(section.name.source,
+                        fmt::format("{} makes {} in total; expected more than the zero bound, {}", path,
+                                    total, zero_bound));
+}
+
+}  // namespace
+
+std::vector<Distribution> read_distributions(TableReader table)
+{
+    std::vector<Distribution> distributions;
+    for (const auto& entry : table.entries())
+        if (const auto distribution = read_table(entry, table.diagnostics()))
+            distributions.push_back(read_distribution(entry, *distribution));
+    return distributions;
+}
+
+void check_distributions(const Case& input, Diagnostics& diagnostics)
+{
+    std::vector<std::string_view> streams;
+    for (const auto& stream : input.streams) streams.push_back(stream.name.id);
+    for (const auto& distribution : input.distributions) {
+        const auto path = "distributions." + distribution.name.id;
+        if (distribution.stream && std::ranges::find(streams, distribution.stream->id) == streams.end())
+            diagnostics.add(
+                distribution.stream->source,
+                fmt::format("{}.stream names \"{}\", which is not a stream{}", path, distribution.stream->id,
+                            suggestion(distribution.stream->id, streams)));
+        std::vector<PlacedName> names;
+        for (const auto& section : distribution.sections) {
+            if (distribution.sections.size() > 1 || !section.name.id.empty()) names.push_back(section.name);
+            check_unique(section.sites, path + ".sites", diagnostics);
+            check_amounts(section, path, input.settings.zero_bound, diagnostics);
+        }
+        check_unique(names, path + ".sections", diagnostics);
+    }
+}
+
+}  // namespace app

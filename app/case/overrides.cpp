@@ -1,0 +1,101 @@
+#include "app/case/overrides.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <optional>
+#include <stdexcept>
+
+namespace app {
+
+namespace {
+
+[[noreturn]] void refuse(const std::string& key, std::string_view why)
+{
+    throw std::invalid_argument{fmt::format("the key \"{}\" {}", key, why)};
+}
+
+// Takes the key part by part: names, and numbers of array elements.
+class KeyPath {
+public:
+    explicit KeyPath(std::string key) : key_(std::move(key)), rest_(key_) {}
+
+    bool at_end() const { return rest_.empty(); }
+
+    std::optional<std::size_t> take_element()
+    {
+        if (!rest_.starts_with('[')) return {};
+        std::size_t number = 0;
+        const auto close = rest_.find(']');
+        const auto [end, error] = std::from_chars(rest_.data() + 1, rest_.data() + rest_.size(), number);
+        if (close == std::string_view::npos || error != std::errc{} || end != rest_.data() + close ||
+            number < 1)
+            refuse(key_, "has no element number from 1 in its brackets");
+        rest_.remove_prefix(close + 1);
+        return number;
+    }
+
+    std::string_view take_name()
+    {
+        if (rest_.starts_with('.')) rest_.remove_prefix(1);
+        if (rest_.starts_with('"')) return take_quoted();
+        const auto name = rest_.substr(0, rest_.find_first_of(".["));
+        if (name.empty()) refuse(key_, "has an empty part");
+        rest_.remove_prefix(name.size());
+        return name;
+    }
+
+private:
+    std::string_view take_quoted()
+    {
+        const auto close = rest_.find('"', 1);
+        if (close == std::string_view::npos) refuse(key_, "has an open quote");
+        const auto name = rest_.substr(1, close - 1);
+        rest_.remove_prefix(close + 1);
+        return name;
+    }
+
+    std::string key_;
+    std::string_view rest_;
+};
+
+// A number written without a point may become one with it, where it stands in its table or array.
+void assign(toml::node& parent, toml::node& seen, double value)
+{
+    constexpr double largest_exact = 9007199254740992.0;
+    if (auto* real = seen.as_floating_point())
+        *real = value;
+    else if (std::trunc(value) == value && std::abs(value) < largest_exact)
+        *seen.as_integer() = static_cast<std::int64_t>(value);
+    else if (auto* array = parent.as_array())
+        array->replace(std::ranges::find_if(*array, [&](const auto& node) { return &node == &seen; }), value);
+    else
+        for (auto&& [key, node] : *parent.as_table())
+            if (&node == &seen) return void(parent.as_table()->insert_or_assign(key, value));
+}
+
+toml::node* child(toml::node& node, KeyPath& path)
+{
+    if (const auto element = path.take_element()) {
+        auto* array = node.as_array();
+        return array ? array->get(*element - 1) : nullptr;
+    }
+    auto* table = node.as_table();
+    return table ? table->get(path.take_name()) : nullptr;
+}
+
+}  // namespace
+
+void apply(const Override& change, toml::table& root)
+{
+    KeyPath path{change.key};
+    toml::node* parent = &root;
+    toml::node* node = &root;
+    while (node && !path.at_end()) node = child(*(parent = node), path);
+    if (!node || !node->is_number()) refuse(change.key, "leads to no number of the case");
+    assign(*parent, *node, change.value);
+}
+
+}  // namespace app

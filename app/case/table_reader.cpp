@@ -1,0 +1,211 @@
+#include "app/case/table_reader.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+#include <sstream>
+
+namespace app {
+
+namespace {
+
+SourcePosition place(const toml::source_region& region)
+{
+    return {region.begin.line, region.begin.column};
+}
+
+// A path that can be read back: an ID with a point or a blank stands in quotes, as it does in the file.
+std::string joined(const std::string& path, std::string_view key)
+{
+    const bool bare = !key.empty() && std::ranges::all_of(key, [](char c) {
+        return std::isalnum(static_cast<unsigned char>(c)) || c == '-' || c == '_';
+    });
+    const std::string shown = bare ? std::string{key} : fmt::format("\"{}\"", key);
+    return path.empty() ? shown : path + "." + shown;
+}
+
+// The value as the file shows it, kept short.
+std::string shown(const toml::node& node)
+{
+    if (node.is_table()) return "a table";
+    if (node.is_array()) return "an array";
+    if (const auto* number = node.as_floating_point()) return fmt::format("{}", number->get());
+    std::ostringstream out;
+    node.visit([&](const auto& value) { out << value; });
+    auto text = out.str();
+    if (text.size() > 40) text = text.substr(0, 37) + "...";
+    return node.is_string() ? fmt::format("\"{}\"", *node.value<std::string>()) : text;
+}
+
+std::string_view expectation(Range range)
+{
+    switch (range) {
+        case Range::any:
+            return "a finite number";
+        case Range::not_negative:
+            return "a finite number, 0 or greater";
+        case Range::positive:
+            return "a finite number greater than 0";
+    }
+    return {};
+}
+
+std::string expectation(WholeRange range)
+{
+    const WholeRange any;
+    if (range.least == any.least && range.greatest == any.greatest) return "a whole number";
+    return fmt::format("a whole number from {} to {}", range.least, range.greatest);
+}
+
+bool fits(double value, Range range)
+{
+    if (!std::isfinite(value)) return false;
+    return range == Range::any || (range == Range::positive ? value > 0 : value >= 0);
+}
+
+void report(const Entry& entry, std::string_view expected, Diagnostics& diagnostics)
+{
+    diagnostics.add(entry.source,
+                    fmt::format("{} is {}; expected {}", entry.path, shown(*entry.node), expected));
+}
+
+}  // namespace
+
+std::optional<double> read_number(const Entry& entry, Range range, Diagnostics& diagnostics)
+{
+    const auto value = entry.node->is_number() ? entry.node->value<double>() : std::nullopt;
+    if (value && fits(*value, range)) return value;
+    report(entry, expectation(range), diagnostics);
+    return {};
+}
+
+std::optional<std::int64_t> read_whole_number(const Entry& entry, WholeRange range, Diagnostics& diagnostics)
+{
+    const auto* value = entry.node->as_integer();
+    if (value && value->get() >= range.least && value->get() <= range.greatest) return value->get();
+    report(entry, expectation(range), diagnostics);
+    return {};
+}
+
+std::optional<std::string> read_text(const Entry& entry, Diagnostics& diagnostics)
+{
+    if (const auto* value = entry.node->as_string()) return value->get();
+    report(entry, "a text in quotes", diagnostics);
+    return {};
+}
+
+std::optional<TableReader> read_table(const Entry& entry, Diagnostics& diagnostics)
+{
+    if (const auto* table = entry.node->as_table())
+        return TableReader{*table, entry.path, entry.source, diagnostics};
+    report(entry, "a table", diagnostics);
+    return {};
+}
+
+std::vector<Entry> read_array(const Entry& entry, Diagnostics& diagnostics)
+{
+    const auto* array = entry.node->as_array();
+    if (!array) {
+        report(entry, "an array", diagnostics);
+        return {};
+    }
+    std::vector<Entry> elements;
+    for (const auto& node : *array) {
+        const auto number = elements.size() + 1;
+        elements.push_back({{}, fmt::format("{}[{}]", entry.path, number), place(node.source()), &node});
+    }
+    return elements;
+}
+
+TableReader::TableReader(const toml::table& table, std::string path, SourcePosition source, Diagnostics& diagnostics)
+    : table_(&table), path_(std::move(path)), source_(source), diagnostics_(&diagnostics)
+{
+}
+
+std::optional<Entry> TableReader::entry(std::string_view key)
+{
+    if (std::ranges::find(asked_, key) == asked_.end()) asked_.emplace_back(key);
+    const auto found = table_->find(key);
+    if (found == table_->end()) return {};
+    return Entry{std::string{key}, joined(path_, key), place(found->first.source()), &found->second};
+}
+
+std::optional<double> TableReader::number(std::string_view key, Range range)
+{
+    const auto found = entry(key);
+    return found ? read_number(*found, range, *diagnostics_) : std::nullopt;
+}
+
+std::optional<std::int64_t> TableReader::whole_number(std::string_view key, WholeRange range)
+{
+    const auto found = entry(key);
+    return found ? read_whole_number(*found, range, *diagnostics_) : std::nullopt;
+}
+
+std::optional<std::string> TableReader::text(std::string_view key)
+{
+    const auto found = entry(key);
+    return found ? read_text(*found, *diagnostics_) : std::nullopt;
+}
+
+std::optional<TableReader> TableReader::table(std::string_view key)
+{
+    const auto found = entry(key);
+    return found ? read_table(*found, *diagnostics_) : std::nullopt;
+}
+
+std::vector<Entry> TableReader::array(std::string_view key)
+{
+    const auto found = entry(key);
+    return found ? read_array(*found, *diagnostics_) : std::vector<Entry>{};
+}
+
+void TableReader::missing(std::string_view key, std::string_view expected)
+{
+    if (table_->contains(key)) return;
+    diagnostics_->add(source_, fmt::format("{} is missing; expected {}", joined(path_, key), expected));
+}
+
+std::optional<double> TableReader::required_number(std::string_view key, Range range)
+{
+    const auto value = number(key, range);
+    if (!value) missing(key, expectation(range));
+    return value;
+}
+
+std::optional<std::int64_t> TableReader::required_whole_number(std::string_view key, WholeRange range)
+{
+    const auto value = whole_number(key, range);
+    if (!value) missing(key, expectation(range));
+    return value;
+}
+
+std::optional<std::string> TableReader::required_text(std::string_view key)
+{
+    auto value = text(key);
+    if (!value) missing(key, "a text in quotes");
+    return value;
+}
+
+std::vector<Entry> TableReader::entries()
+{
+    std::vector<Entry> all;
+    for (const auto& [key, node] : *table_)
+        all.push_back({std::string{key.str()}, joined(path_, key.str()), place(key.source()), &node});
+    std::ranges::stable_sort(all, {}, &Entry::source);
+    for (const auto& found : all) asked_.push_back(found.key);
+    return all;
+}
+
+void TableReader::finish()
+{
+    const std::vector<std::string_view> known(asked_.begin(), asked_.end());
+    for (const auto& [key, node] : *table_) {
+        if (std::ranges::find(known, key.str()) != known.end()) continue;
+        diagnostics_->add(place(key.source()),
+                          fmt::format("unknown key \"{}\"{}", key.str(), suggestion(key.str(), known)));
+    }
+}
+
+}  // namespace app

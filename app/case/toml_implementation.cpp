@@ -1,0 +1,3 @@
+// The one place where toml++ is compiled.
+#define TOML_IMPLEMENTATION
+#include <toml++/toml.h>

@@ -1,0 +1,52 @@
+// What the library says of a loaded case.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "app/evaluation/bases.h"
+#include "app/evaluation/chain_make_up.h"
+#include "app/evaluation/reactors.h"
+#include "app/evaluation/chain_properties.h"
+
+namespace app {
+
+// Chain averages of a component that flows in a stream.
+struct ChainAverages {
+    std::string component;
+    ComponentClass kind;
+    double mole_flow;            // kmol/h, apparent basis
+    double dpn;                  // segments per chain
+    double mean_segment_weight;  // g/mol
+    double mn;                   // g/mol
+    double mw;                   // g/mol
+    double pdi;                  // Mw/Mn
+};
+
+// The share of one segment in a polymer or oligomer.
+struct SegmentShare {
+    std::string component;
+    std::string segment;
+    double mole_fraction;
+    double mass_fraction;
+};
+
+struct StreamResults {
+    std::string stream;
+    std::vector<ChainAverages> averages;
+    std::vector<SegmentShare> shares;
+    std::vector<Composition> compositions;
+    SegmentCountMatrix segment_counts;
+    std::vector<WeightComparison> chain_weights;
+    std::vector<ChainProperties> properties;
+};
+
+struct Results {
+    std::vector<StreamResults> streams;
+    std::vector<ReactorResults> reactors;
+};
+
+// Selects the streams of the case one after another and asks the library's routines about each.
+Results evaluate(const Case& input, minihost::Host& host);
+
+}  // namespace app

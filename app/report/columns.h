@@ -1,0 +1,24 @@
+// Columns that stand in more than one table: the same quantity has the same key, heading and unit everywhere.
+#pragma once
+
+#include "app/report/report.h"
+
+namespace app::columns {
+
+inline const Column component{"component", "Component", ""};
+inline const Column component_class{"class", "Class", ""};
+inline const Column segment{"segment", "Segment", ""};
+inline const Column attribute{"attribute", "Attribute", ""};
+inline const Column mole_flow{"mole_flow", "Mole flow", "kmol/h"};
+inline const Column mass_flow{"mass_flow", "Mass flow", "kg/h"};
+inline const Column mole_fraction{"mole_fraction", "Mole fraction", "1"};
+inline const Column mass_fraction{"mass_fraction", "Mass fraction", "1"};
+inline const Column mean_segment_weight{"mean_segment_weight", "Mean segment weight", "g/mol"};
+inline const Column molecular_weight{"molecular_weight", "Molecular weight", "g/mol"};
+inline const Column chain_length{"chain_length", "Chain length", "1"};
+inline const Column mn{"mn", "Mn", "g/mol"};
+inline const Column mw{"mw", "Mw", "g/mol"};
+inline const Column dpn{"dpn", "DPN", "1"};
+inline const Column pdi{"pdi", "PDI", "1"};
+
+}  // namespace app::columns

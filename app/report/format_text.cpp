@@ -1,0 +1,98 @@
+// Aligned tables for people: text to the left, numbers to the right, six significant digits.
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "app/report/report.h"
+
+namespace app {
+
+namespace {
+
+constexpr std::size_t gap = 2;
+
+std::string shown(const Cell& cell)
+{
+    if (const auto* value = std::get_if<double>(&cell)) return fmt::format("{:.6g}", *value);
+    if (const auto* value = std::get_if<Int>(&cell)) return fmt::format("{}", *value);
+    return std::get<std::string>(cell);
+}
+
+std::vector<std::string> shown(const std::vector<Cell>& row)
+{
+    std::vector<std::string> texts;
+    texts.reserve(row.size());
+    for (const auto& cell : row) texts.push_back(shown(cell));
+    return texts;
+}
+
+std::string unit(const Column& column)
+{
+    return column.unit == "1" ? "-" : column.unit;
+}
+
+// Headings, units where a column has one, rows.
+std::vector<std::vector<std::string>> lines(const Table& table)
+{
+    std::vector<std::vector<std::string>> all(1);
+    for (const auto& column : table.columns) all[0].push_back(column.heading);
+    if (std::ranges::any_of(table.columns, [](const Column& column) { return !column.unit.empty(); })) {
+        auto& units = all.emplace_back();
+        for (const auto& column : table.columns) units.push_back(unit(column));
+    }
+    for (const auto& row : table.rows) all.push_back(shown(row));
+    return all;
+}
+
+std::string aligned(const Table& table)
+{
+    const auto all = lines(table);
+    std::vector<std::size_t> widths(table.columns.size());
+    for (const auto& line : all)
+        for (std::size_t i = 0; i < line.size(); ++i) widths[i] = std::max(widths[i], line[i].size());
+    std::string text;
+    for (const auto& line : all) {
+        std::string row;
+        for (std::size_t i = 0; i < line.size(); ++i) {
+            const bool is_text = std::holds_alternative<std::string>(table.rows.front()[i]);
+            row += std::string(gap, ' ') + (is_text ? fmt::format("{:<{}}", line[i], widths[i])
+                                                    : fmt::format("{:>{}}", line[i], widths[i]));
+        }
+        text += row.substr(0, row.find_last_not_of(' ') + 1) + "\n";
+    }
+    return text;
+}
+
+// An empty line stands between what a text holds already and what follows.
+void add_block(std::string_view block, std::string& text)
+{
+    text += fmt::format("{}{}", text.empty() ? "" : "\n", block);
+}
+
+// False when no table has a row to show.
+bool add_tables(const std::vector<Table>& tables, std::string& text)
+{
+    bool has_rows = false;
+    for (const auto& table : tables) {
+        if (table.rows.empty() || table.is_long) continue;
+        add_block(fmt::format("{}\n{}", table.heading, aligned(table)), text);
+        has_rows = true;
+    }
+    return has_rows;
+}
+
+}  // namespace
+
+std::string format_text(const Report& report)
+{
+    std::string text = report.title.empty() ? "" : fmt::format("{}\n", report.title);
+    add_tables(report.input, text);
+    for (const auto& section : report.sections) {
+        add_block(section.heading + "\n", text);
+        if (!add_tables(section.tables, text))
+            add_block(fmt::format("Nothing flows in this {}.\n", section.kind), text);
+    }
+    return text;
+}
+
+}  // namespace app

@@ -1,0 +1,85 @@
+#include "app/report/result_numbers.h"
+
+#include <fmt/format.h>
+
+namespace app {
+
+namespace {
+
+// A number that leads its row, such as a chain length or a temperature, or else its first text that is
+// neither a component nor a segment. The class of a component tells no rows apart.
+std::string item_of(const Table& table, const std::vector<Cell>& row)
+{
+    if (is_number(row.front())) return text(row.front());
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        const auto& key = table.columns[i].key;
+        if (!is_number(row[i]) && key != "component" && key != "segment" && key != "class")
+            return std::get<std::string>(row[i]);
+    }
+    return {};
+}
+
+void add_row(const Section& section, const Table& table, const std::vector<Cell>& row,
+             std::vector<Number>& all)
+{
+    const Number lead{&section,
+                      &table,
+                      item_of(table, row),
+                      text_of(table, row, "component"),
+                      text_of(table, row, "segment"),
+                      nullptr,
+                      {}};
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        if (!is_number(row[i])) continue;
+        all.push_back(lead);
+        all.back().quantity = &table.columns[i];
+        all.back().value = row[i];
+    }
+}
+
+}  // namespace
+
+bool is_number(const Cell& cell)
+{
+    return !std::holds_alternative<std::string>(cell);
+}
+
+std::string text(const Cell& cell)
+{
+    return std::visit([](const auto& value) { return fmt::format("{}", value); }, cell);
+}
+
+std::string text_of(const Table& table, const std::vector<Cell>& row, std::string_view key)
+{
+    for (std::size_t i = 0; i < row.size(); ++i)
+        if (const auto* text = std::get_if<std::string>(&row[i]); text && table.columns[i].key == key)
+            return *text;
+    return {};
+}
+
+std::string Number::key() const
+{
+    std::string key = section->kind + "s";
+    for (const auto& part : {section->name, table->key, item, component, segment, quantity->key})
+        if (!part.empty()) key += "." + part;
+    return key;
+}
+
+std::vector<Number> numbers(const Report& report)
+{
+    std::vector<Number> all;
+    for (const auto& section : report.sections)
+        for (const auto& table : section.tables)
+            for (const auto& row : table.rows) add_row(section, table, row, all);
+    return all;
+}
+
+std::string csv_field(const std::string& text)
+{
+    if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
+    std::string quoted = "\"";
+    for (const char c : text) quoted += c == '"' ? "\"\"" : std::string{c};
+    return quoted + "\"";
+}
+
+}  // namespace app

@@ -1,0 +1,36 @@
+// Every number of a report with what leads to it.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "app/report/report.h"
+
+namespace app {
+
+struct Number {
+    const Section* section;
+    const Table* table;
+    std::string item;  // what else tells the rows of a table apart: a basis, a curve, a temperature
+    std::string component;
+    std::string segment;
+    const Column* quantity;
+    Cell value;  // double or Int
+
+    // The path that a sweep heads a column with.
+    std::string key() const;
+};
+
+bool is_number(const Cell& cell);
+// With every digit.
+std::string text(const Cell& cell);
+// The text of the named column, empty in a table without it.
+std::string text_of(const Table& table, const std::vector<Cell>& row, std::string_view key);
+
+// In the order of the report, which has to outlive them.
+std::vector<Number> numbers(const Report& report);
+
+// A field with a comma, a quote or a line end stands in quotes, its own quotes doubled.
+std::string csv_field(const std::string& text);
+
+}  // namespace app

@@ -1,0 +1,118 @@
+#include "app/report/stream_tables.h"
+
+#include <fmt/format.h>
+
+#include "app/report/columns.h"
+
+namespace app {
+
+namespace {
+
+std::string heading(Basis basis)
+{
+    switch (basis) {
+        case Basis::apparent:
+            return "Composition on the apparent basis";
+        case Basis::true_chains:
+            return "Composition on the true basis: polymers by their chains";
+        case Basis::segment:
+            return "Composition on the segment basis: chains by their segments";
+    }
+    return {};
+}
+
+// A row that ends with numbers by column.
+std::vector<Cell> row_of(std::vector<Cell> row, const std::vector<double>& numbers)
+{
+    row.insert(row.end(), numbers.begin(), numbers.end());
+    return row;
+}
+
+}  // namespace
+
+Table composition_table(const Composition& composition)
+{
+    Table table{fmt::format("{}_composition", text(composition.basis)),
+                heading(composition.basis),
+                {columns::component, columns::component_class, columns::mole_flow, columns::mass_flow,
+                 columns::mole_fraction, columns::mass_fraction},
+                {}};
+    for (const auto& a : composition.amounts)
+        table.rows.push_back({a.component, std::string{text(a.kind)}, a.mole_flow, a.mass_flow,
+                              a.mole_fraction, a.mass_fraction});
+    return table;
+}
+
+Table closure_table(const std::vector<Composition>& compositions)
+{
+    Table table{"closures",
+                "Sums, and the mass flow against that of the first basis",
+                {{"basis", "Basis", ""},
+                 {"mole_fraction_sum", "Mole fractions", "1"},
+                 {"mass_fraction_sum", "Mass fractions", "1"},
+                 columns::mole_flow,
+                 columns::mass_flow,
+                 {"mass_difference", "Relative difference", "1"}},
+                {}};
+    if (compositions.empty() || compositions.front().amounts.empty()) return table;
+    for (const auto& c : closures(compositions))
+        table.rows.push_back({std::string{text(c.basis)}, c.mole_fraction_sum, c.mass_fraction_sum,
+                              c.mole_flow, c.mass_flow, c.mass_difference});
+    return table;
+}
+
+Table segment_count_table(const SegmentCountMatrix& matrix)
+{
+    Table table{"segment_counts", "Segments per chain", {columns::component}, {}};
+    for (const auto& segment : matrix.segments) table.columns.push_back({segment, segment, "1"});
+    for (const auto& chain : matrix.chains) table.rows.push_back(row_of({chain.component}, chain.counts));
+    return table;
+}
+
+Table chain_weight_table(const std::vector<WeightComparison>& weights)
+{
+    Table table{"chain_weights",
+                "Chain weights from segments per chain and from attributes",
+                {columns::component,
+                 {"average", "Average", ""},
+                 {"from_counts", "From segments", "g/mol"},
+                 {"from_attributes", "From attributes", "g/mol"},
+                 {"difference", "Relative difference", "1"}},
+                {}};
+    for (const auto& w : weights)
+        table.rows.push_back({w.component, w.average, w.from_counts, w.from_attributes, w.difference});
+    return table;
+}
+
+Table property_table(const std::vector<Property>& properties, const std::vector<ChainProperties>& values)
+{
+    Table table{"properties",
+                "Properties of chains by their segments",
+                {columns::component, columns::component_class},
+                {}};
+    for (const auto& property : properties)
+        table.columns.push_back({property.name.id, property.name.id, property.unit});
+    for (const auto& chain : values)
+        table.rows.push_back(row_of({chain.component, std::string{text(chain.kind)}}, chain.values));
+    return table;
+}
+
+Table polymer_made_table(const std::vector<PolymerMade>& made)
+{
+    Table table{"polymer_made",
+                "Polymer made",
+                {{"site", "Site type", ""},
+                 columns::mass_flow,
+                 columns::mean_segment_weight,
+                 columns::mn,
+                 columns::mw,
+                 columns::dpn,
+                 {"dpw", "DPW", "1"},
+                 columns::pdi},
+                {}};
+    for (const auto& m : made)
+        table.rows.push_back({m.site, m.mass_flow, m.mean_segment_weight, m.mn, m.mw, m.dpn, m.dpw, m.pdi});
+    return table;
+}
+
+}  // namespace app

@@ -1,0 +1,250 @@
+#include "app/sweep/sweep.h"
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <csignal>
+#include <cstdint>
+#include <stdexcept>
+#include <thread>
+#include <unordered_map>
+
+#include "app/case/case_reader.h"
+#include "app/evaluation/evaluation.h"
+#include "app/io/file_contents.h"
+#include "app/report/result_numbers.h"
+#include "app/sweep/process_pool.h"
+#include "app/sweep/sweep_grid.h"
+#include "app/sweep/sweep_journal.h"
+
+namespace app {
+
+namespace {
+
+volatile std::sig_atomic_t is_interrupted = 0;
+
+// While it lives, an interruption lets the running cases end instead of ending the program.
+class Interruption {
+public:
+    Interruption()
+    {
+        is_interrupted = 0;
+        struct sigaction action {};
+        action.sa_handler = [](int) { is_interrupted = 1; };
+        ::sigaction(SIGINT, &action, &before_[0]);
+        ::sigaction(SIGTERM, &action, &before_[1]);
+    }
+    Interruption(const Interruption&) = delete;
+    Interruption& operator=(const Interruption&) = delete;
+    ~Interruption()
+    {
+        ::sigaction(SIGINT, &before_[0], nullptr);
+        ::sigaction(SIGTERM, &before_[1], nullptr);
+    }
+
+private:
+    struct sigaction before_[2];
+};
+
+std::string one_line(const std::vector<std::string>& lines)
+{
+    auto text = fmt::format("{}", fmt::join(lines, "; "));
+    std::ranges::replace_if(
+        text, [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    return text;
+}
+
+// Curves are left out: their rows have no names that hold from case to case.
+std::vector<Number> swept_numbers(const Report& report)
+{
+    auto all = numbers(report);
+    std::erase_if(all, [](const Number& n) { return n.table->is_long; });
+    return all;
+}
+
+class Sweep {
+public:
+    Sweep(const SweepOptions& options, SweepGrid grid)
+        : options_(options), grid_(std::move(grid)), text_(file_contents(options.file))
+    {
+    }
+
+    // Columns are those of the case as it stands, which therefore has to be sound.
+    void learn_columns()
+    {
+        run_tasks(
+            {0}, {}, [this](std::size_t) { return columns_of_case(); },
+            [this](const TaskOutcome& outcome) {
+                if (!outcome.result) throw std::runtime_error{options_.file.string() + ": " + outcome.why};
+                if (outcome.result->starts_with('!')) throw std::runtime_error{outcome.result->substr(1)};
+                add_columns(*outcome.result);
+            });
+        Diagnostics ignored;
+        parse_case(text_, options_.file.string(), ignored, grid_.overrides(0));  // keys that lead nowhere
+    }
+
+    int run(std::FILE* errors)
+    {
+        SweepJournal journal{options_.out, signature(), header()};
+        const bool is_shown = ::isatty(::fileno(errors)) != 0;
+        std::vector<std::size_t> missing;
+        for (std::size_t number = 1; number <= grid_.size(); ++number)
+            if (!journal.rows().contains(number)) missing.push_back(number);
+        const Interruption interruption;
+        run_tasks(
+            missing, {processes(), [] { return is_interrupted != 0; }},
+            [this](std::size_t number) { return row(number); },
+            [&](const TaskOutcome& outcome) {
+                journal.add(outcome.task, outcome.result.value_or(failed_row(outcome.task, outcome.why)));
+                if (is_shown) show_progress(journal.rows().size(), errors);
+            });
+        return conclude(journal, errors);
+    }
+
+private:
+    std::size_t processes() const
+    {
+        return options_.processes > 0 ? options_.processes
+                                      : std::max(1U, std::thread::hardware_concurrency());
+    }
+
+    Evaluation evaluate(const std::vector<Override>& overrides) const
+    {
+        Diagnostics diagnostics;
+        auto input = parse_case(text_, options_.file.string(), diagnostics, overrides);
+        if (!diagnostics.empty()) throw std::runtime_error{one_line(diagnostics.lines(input.file))};
+        return evaluate_case(std::move(input));
+    }
+
+    std::string columns_of_case() const
+    {
+        try {
+            const auto evaluation = evaluate({});
+            if (!evaluation.errors.empty()) return "!" + one_line(evaluation.errors);
+            std::string columns;
+            for (const auto& n : swept_numbers(evaluation.report)) columns += n.key() + "\n";
+            return columns;
+        } catch (const std::exception& error) {
+            return std::string{"!"} + error.what();
+        }
+    }
+
+    void add_columns(const std::string& text)
+    {
+        for (std::size_t at = 0; at < text.size();) {
+            const auto end = text.find('\n', at);
+            if (places_.emplace(text.substr(at, end - at), columns_.size()).second)
+                columns_.push_back(text.substr(at, end - at));
+            at = end + 1;
+        }
+    }
+
+    std::string header() const
+    {
+        std::string line = "case";
+        for (const auto& range : grid_.ranges()) line += "," + csv_field(range.key);
+        for (const auto& column : columns_) line += "," + csv_field(column);
+        return line + ",error";
+    }
+
+    std::string lead(std::size_t number) const
+    {
+        auto line = std::to_string(number);
+        for (const auto& change : grid_.overrides(number - 1)) line += fmt::format(",{}", change.value);
+        return line;
+    }
+
+    std::string failed_row(std::size_t number, const std::string& why) const
+    {
+        return lead(number) + std::string(columns_.size(), ',') + "," + csv_field(why);
+    }
+
+    // Runs in a process of its own.
+    std::string row(std::size_t number) const
+    {
+        try {
+            const auto evaluation = evaluate(grid_.overrides(number - 1));
+            std::vector<std::string> values(columns_.size());
+            std::size_t unknown = 0;
+            for (const auto& n : swept_numbers(evaluation.report)) {
+                const auto place = places_.find(n.key());
+                if (place == places_.end())
+                    ++unknown;
+                else
+                    values[place->second] = text(n.value);
+            }
+            auto errors = evaluation.errors;
+            if (unknown > 0)
+                errors.push_back(
+                    fmt::format("{} results have no column: the case as it stands lacks them", unknown));
+            auto line = lead(number);
+            for (const auto& value : values) line += "," + value;
+            return line + "," + csv_field(one_line(errors));
+        } catch (const std::exception& error) {
+            return failed_row(number, one_line({error.what()}));
+        }
+    }
+
+    // Names this sweep of this very case: FNV-1a over its text.
+    std::string signature() const
+    {
+        std::uint64_t hash = 14695981039346656037U;
+        for (const char c : text_) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;
+        std::string line = fmt::format("# sweep of {:016x}", hash);
+        for (const auto& range : grid_.ranges()) line += " " + range.text();
+        return line;
+    }
+
+    void show_progress(std::size_t done, std::FILE* errors) const
+    {
+        fmt::print(errors, "\r{} of {} cases{}", done, grid_.size(), done == grid_.size() ? "\n" : "");
+        std::fflush(errors);
+    }
+
+    int conclude(SweepJournal& journal, std::FILE* errors) const
+    {
+        const auto done = journal.rows().size();
+        if (done < grid_.size()) {
+            fmt::print(
+                errors,
+                "polyprops: interrupted after {} of {} cases; the same command goes on from there ({})\n",
+                done, grid_.size(), journal.file().string());
+            return exit_interrupted;
+        }
+        journal.finish();
+        const auto failed =
+            std::ranges::count_if(journal.rows(), [](const auto& row) { return !row.second.ends_with(','); });
+        if (failed == 0) return exit_success;
+        fmt::print(errors, "polyprops: {} of {} cases failed; their rows hold the error\n", failed, done);
+        return exit_case_error;
+    }
+
+    const SweepOptions& options_;
+    SweepGrid grid_;
+    std::string text_;
+    std::vector<std::string> columns_;
+    std::unordered_map<std::string, std::size_t> places_;
+};
+
+}  // namespace
+
+int sweep(const SweepOptions& options, std::FILE* errors)
+{
+    try {
+        std::vector<SweepRange> ranges;
+        for (const auto& set : options.sets) ranges.push_back(parse_range(set));
+        Sweep sweep{options, SweepGrid{std::move(ranges)}};
+        sweep.learn_columns();
+        return sweep.run(errors);
+    } catch (const std::invalid_argument& error) {
+        fmt::print(errors, "polyprops: {}\n", error.what());
+        return exit_usage;
+    } catch (const std::exception& error) {
+        fmt::print(errors, "polyprops: {}\n", error.what());
+        return exit_case_error;
+    }
+}
+
+}  // namespace app
