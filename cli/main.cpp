@@ -3,14 +3,16 @@
 #include <iostream>
 #include <map>
 
-#include "cli/commands.h"
-#include "cli/selfcheck.h"
-#include "app/sweep/sweep.h"
+#include "cli/check_command.h"
+#include "cli/convert_command.h"
+#include "cli/run_command.h"
+#include "cli/selfcheck_command.h"
+#include "cli/sweep_command.h"
 
 namespace {
 
-const std::map<std::string, cli::Format> formats{
-    {"text", cli::Format::text}, {"csv", cli::Format::csv}, {"json", cli::Format::json}};
+const std::map<std::string, app::Format> formats{
+    {"text", app::Format::text}, {"csv", app::Format::csv}, {"json", app::Format::json}};
 const std::map<std::string, app::Basis> bases{
     {"apparent", app::Basis::apparent}, {"true", app::Basis::true_chains}, {"segment", app::Basis::segment}};
 
@@ -61,7 +63,7 @@ private:
         command->callback([this] {
             run_.file = file_;
             run_.format = formats.at(format_);
-            status_ = cli::run_case(run_, stdout, stderr);
+            status_ = cli::run(run_, stdout, stderr);
         });
     }
 
@@ -105,7 +107,7 @@ private:
             ->check(CLI::Range(1, 1024));
         command->callback([this] {
             sweep_.file = file_;
-            status_ = app::sweep(sweep_, stderr);
+            status_ = cli::sweep(sweep_, stderr);
         });
     }
 

@@ -1,4 +1,4 @@
-#include "cli/selfcheck.h"
+#include "cli/selfcheck_command.h"
 
 #include <fmt/format.h>
 #include <gnu/libc-version.h>
@@ -10,11 +10,12 @@
 #include <optional>
 #include <thread>
 
-#include "app/case/case_reader.h"
-#include "cli/commands.h"
+#include "app/case/case_document.h"
 #include "app/evaluation/evaluation.h"
 #include "app/report/html/embedded.h"
+#include "app/report/make_report.h"
 #include "app/report/result_numbers.h"
+#include "cli/exit_status.h"
 
 namespace cli {
 
@@ -74,14 +75,14 @@ std::vector<Answer> known_answers()
     };
 }
 
-std::optional<double> find(const std::vector<Number>& all, std::string_view key)
+std::optional<double> find(const std::vector<app::Number>& all, std::string_view key)
 {
     for (const auto& n : all)
         if (n.key() == key) return std::get<double>(n.value);
     return {};
 }
 
-bool check(const Answer& answer, const std::vector<Number>& all, std::FILE* out)
+bool check(const Answer& answer, const std::vector<app::Number>& all, std::FILE* out)
 {
     constexpr double rounding = 1e-9;
     const auto seen = find(all, answer.key);
@@ -93,14 +94,15 @@ bool check(const Answer& answer, const std::vector<Number>& all, std::FILE* out)
 
 bool check_all(std::FILE* out)
 {
-    Diagnostics diagnostics;
-    auto input = parse_case(built_in_case, "built-in", diagnostics);
+    app::Diagnostics diagnostics;
+    const auto input = app::CaseDocument{built_in_case, "built-in"}.read(diagnostics);
     for (const auto& line : diagnostics.lines("built-in")) fmt::print(out, "FAILED  {}\n", line);
     if (!diagnostics.empty()) return false;
-    const auto evaluation = evaluate_case(std::move(input));
-    for (const auto& line : evaluation.errors) fmt::print(out, "FAILED  {}\n", line);
-    bool is_good = evaluation.errors.empty();
-    const auto all = numbers(evaluation.report);
+    const auto report = app::make_report(input, app::evaluate(input));
+    for (const auto& found : report.diagnostics)
+        if (found.severity != app::Severity::warning) fmt::print(out, "FAILED  {}\n", line(found, report.file));
+    bool is_good = !has_errors(report);
+    const auto all = numbers(report);
     for (const auto& answer : known_answers()) is_good = check(answer, all, out) && is_good;
     return is_good;
 }
@@ -108,8 +110,8 @@ bool check_all(std::FILE* out)
 // "Chart.js v3.9.1" of the licence comment at its top.
 std::string_view chart_version()
 {
-    const auto at = embedded::chart_library.find(" v");
-    const auto version = embedded::chart_library.substr(at + 2, 12);
+    const auto at = app::embedded::chart_library.find(" v");
+    const auto version = app::embedded::chart_library.substr(at + 2, 12);
     return version.substr(0, version.find('\n'));
 }
 

@@ -2,7 +2,6 @@
 
 #include <fmt/format.h>
 
-#include "app/io/file_contents.h"
 
 namespace app {
 
@@ -113,20 +112,8 @@ Case read_root(TableReader root, const std::string& file)
 
 }  // namespace
 
-Case parse_case(std::string_view text, const std::string& file, Diagnostics& diagnostics,
-                const std::vector<Override>& overrides)
+Case read_case(const toml::table& root, const std::string& file, Diagnostics& diagnostics)
 {
-    toml::table root;
-    Case failed;
-    failed.file = file;
-    try {
-        root = toml::parse(text);
-    } catch (const toml::parse_error& error) {
-        const auto at = error.source().begin;
-        diagnostics.add({at.line, at.column}, fmt::format("{}", error.description()));
-        return failed;
-    }
-    for (const auto& change : overrides) apply(change, root);
     auto input = read_root(TableReader{root, "", {}, diagnostics}, file);
     check_components(input, diagnostics);
     check_paragraph(input, diagnostics);
@@ -137,11 +124,6 @@ Case parse_case(std::string_view text, const std::string& file, Diagnostics& dia
     check_distributions(input, diagnostics);
     check_parameter_sets(input, diagnostics);
     return input;
-}
-
-Case read_case(const std::filesystem::path& file, Diagnostics& diagnostics)
-{
-    return parse_case(file_contents(file), file.string(), diagnostics);
 }
 
 }  // namespace app

@@ -1,21 +1,13 @@
-// Reads a case file. All errors of the file are found in one run.
+// Reads a parsed case file. All errors of the file are found in one pass.
 #pragma once
 
-#include <filesystem>
-#include <string_view>
-
 #include "app/case/case_model.h"
-#include "app/case/overrides.h"
 #include "app/case/table_reader.h"
 
 namespace app {
 
-// The case, of use only while `diagnostics` is empty. Throws std::runtime_error when the file cannot be read.
-Case read_case(const std::filesystem::path& file, Diagnostics& diagnostics);
-
-// The same from a text that came from `file`.
-Case parse_case(std::string_view text, const std::string& file, Diagnostics& diagnostics,
-                const std::vector<Override>& overrides = {});
+// The case, of use only while `diagnostics` is empty.
+Case read_case(const toml::table& root, const std::string& file, Diagnostics& diagnostics);
 
 // The parts of the reader, one file each.
 Paragraph read_paragraph(TableReader table);

@@ -37,14 +37,36 @@ std::size_t distance(std::string_view a, std::string_view b)
 
 }  // namespace
 
-std::vector<std::string> Diagnostics::lines(std::string_view file) const
+std::string_view text(Severity severity)
+{
+    switch (severity) {
+        case Severity::error:
+            return "error";
+        case Severity::message:
+            return "message";
+        case Severity::warning:
+            return "warning";
+    }
+    return {};
+}
+
+std::string line(const Diagnostic& diagnostic, std::string_view file)
+{
+    const auto& [source, text, severity] = diagnostic;
+    return fmt::format("{}:{}:{}: {}", file, source.line, source.column, text);
+}
+
+std::vector<Diagnostic> Diagnostics::sorted() const
 {
     auto sorted = found_;
     std::ranges::stable_sort(sorted, {}, &Diagnostic::source);
+    return sorted;
+}
+
+std::vector<std::string> Diagnostics::lines(std::string_view file) const
+{
     std::vector<std::string> lines;
-    lines.reserve(sorted.size());
-    for (const auto& [source, text] : sorted)
-        lines.push_back(fmt::format("{}:{}:{}: {}", file, source.line, source.column, text));
+    for (const auto& diagnostic : sorted()) lines.push_back(line(diagnostic, file));
     return lines;
 }
 

@@ -1,4 +1,4 @@
-// What is wrong with a case, each finding at the place in the file where a reader can mend it.
+// Errors and warnings of a case, each at the position in the file where a reader can correct it.
 #pragma once
 
 #include <cstdint>
@@ -9,25 +9,43 @@
 
 namespace app {
 
-// Line and column of a case file, both from 1.
+// A position in the text of a case: line and column from 1, and the key found there, such as
+// `streams.FEED.attributes.PS.ZMOM`. Positions are ordered by line and column.
 struct SourcePosition {
     std::uint32_t line = 1;
     std::uint32_t column = 1;
-    // NOLINTNEXTLINE(modernize-use-nullptr): the linter takes the generated comparison with 0 for a pointer
-    auto operator<=>(const SourcePosition&) const = default;
+    std::string key = {};
+
+    friend bool operator==(const SourcePosition& a, const SourcePosition& b)
+    {
+        return a.line == b.line && a.column == b.column;
+    }
+    friend auto operator<=>(const SourcePosition& a, const SourcePosition& b)
+    {
+        return std::pair{a.line, a.column} <=> std::pair{b.line, b.column};
+    }
 };
+
+// A message is one of the library's own input messages; like an error it sets the exit status.
+enum class Severity { error, message, warning };
+std::string_view text(Severity severity);
 
 struct Diagnostic {
     SourcePosition source;
-    std::string text;
+    std::string text;  // a message has several lines
+    Severity severity = Severity::error;
 };
+
+// "FILE:LINE:COLUMN: TEXT"
+std::string line(const Diagnostic& diagnostic, std::string_view file);
 
 class Diagnostics {
 public:
-    void add(SourcePosition source, std::string text) { found_.push_back({source, std::move(text)}); }
+    void add(SourcePosition source, std::string text) { found_.push_back({std::move(source), std::move(text)}); }
     bool empty() const { return found_.empty(); }
 
-    // One line "FILE:LINE:COLUMN: TEXT" for each finding, in the order of the file.
+    // In the order of the file.
+    std::vector<Diagnostic> sorted() const;
     std::vector<std::string> lines(std::string_view file) const;
 
 private:

@@ -10,12 +10,13 @@ namespace app {
 
 namespace {
 
-SourcePosition place(const toml::source_region& region)
+SourcePosition place(const toml::source_region& region, const std::string& path)
 {
-    return {region.begin.line, region.begin.column};
+    return {region.begin.line, region.begin.column, path};
 }
 
-// A path that can be read back: an ID with a point or a blank stands in quotes, as it does in the file.
+}  // namespace
+
 std::string joined(const std::string& path, std::string_view key)
 {
     const bool bare = !key.empty() && std::ranges::all_of(key, [](char c) {
@@ -24,6 +25,8 @@ std::string joined(const std::string& path, std::string_view key)
     const std::string shown = bare ? std::string{key} : fmt::format("\"{}\"", key);
     return path.empty() ? shown : path + "." + shown;
 }
+
+namespace {
 
 // The value as the file shows it, kept short.
 std::string shown(const toml::node& node)
@@ -112,14 +115,16 @@ std::vector<Entry> read_array(const Entry& entry, Diagnostics& diagnostics)
     }
     std::vector<Entry> elements;
     for (const auto& node : *array) {
-        const auto number = elements.size() + 1;
-        elements.push_back({{}, fmt::format("{}[{}]", entry.path, number), place(node.source()), &node});
+        const auto path = fmt::format("{}[{}]", entry.path, elements.size() + 1);
+        // An element that replaced one of the file has no position of its own.
+        const auto& from = node.source().begin ? node.source() : entry.node->source();
+        elements.push_back({{}, path, place(from, path), &node});
     }
     return elements;
 }
 
 TableReader::TableReader(const toml::table& table, std::string path, SourcePosition source, Diagnostics& diagnostics)
-    : table_(&table), path_(std::move(path)), source_(source), diagnostics_(&diagnostics)
+    : table_(&table), path_(std::move(path)), source_(std::move(source)), diagnostics_(&diagnostics)
 {
 }
 
@@ -128,7 +133,8 @@ std::optional<Entry> TableReader::entry(std::string_view key)
     if (std::ranges::find(asked_, key) == asked_.end()) asked_.emplace_back(key);
     const auto found = table_->find(key);
     if (found == table_->end()) return {};
-    return Entry{std::string{key}, joined(path_, key), place(found->first.source()), &found->second};
+    const auto path = joined(path_, key);
+    return Entry{std::string{key}, path, place(found->first.source(), path), &found->second};
 }
 
 std::optional<double> TableReader::number(std::string_view key, Range range)
@@ -164,7 +170,9 @@ std::vector<Entry> TableReader::array(std::string_view key)
 void TableReader::missing(std::string_view key, std::string_view expected)
 {
     if (table_->contains(key)) return;
-    diagnostics_->add(source_, fmt::format("{} is missing; expected {}", joined(path_, key), expected));
+    const auto path = joined(path_, key);
+    diagnostics_->add({source_.line, source_.column, path},
+                      fmt::format("{} is missing; expected {}", path, expected));
 }
 
 std::optional<double> TableReader::required_number(std::string_view key, Range range)
@@ -191,8 +199,10 @@ std::optional<std::string> TableReader::required_text(std::string_view key)
 std::vector<Entry> TableReader::entries()
 {
     std::vector<Entry> all;
-    for (const auto& [key, node] : *table_)
-        all.push_back({std::string{key.str()}, joined(path_, key.str()), place(key.source()), &node});
+    for (const auto& [key, node] : *table_) {
+        const auto path = joined(path_, key.str());
+        all.push_back({std::string{key.str()}, path, place(key.source(), path), &node});
+    }
     std::ranges::stable_sort(all, {}, &Entry::source);
     for (const auto& found : all) asked_.push_back(found.key);
     return all;
@@ -203,7 +213,7 @@ void TableReader::finish()
     const std::vector<std::string_view> known(asked_.begin(), asked_.end());
     for (const auto& [key, node] : *table_) {
         if (std::ranges::find(known, key.str()) != known.end()) continue;
-        diagnostics_->add(place(key.source()),
+        diagnostics_->add(place(key.source(), joined(path_, key.str())),
                           fmt::format("unknown key \"{}\"{}", key.str(), suggestion(key.str(), known)));
     }
 }

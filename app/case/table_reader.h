@@ -33,6 +33,9 @@ struct Entry {
     const toml::node* node = nullptr;
 };
 
+// The path of a key of a table, in a form that can be read back: a key with a point or a blank is quoted.
+std::string joined(const std::string& path, std::string_view key);
+
 class TableReader {
 public:
     TableReader(const toml::table& table, std::string path, SourcePosition source, Diagnostics& diagnostics);
@@ -59,7 +62,7 @@ public:
     void finish();
 
     const std::string& path() const { return path_; }
-    SourcePosition source() const { return source_; }
+    const SourcePosition& source() const { return source_; }
     Diagnostics& diagnostics() const { return *diagnostics_; }
 
 private:

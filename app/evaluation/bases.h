@@ -1,5 +1,5 @@
-// A stream on three bases: apparent (a mole of a polymer is what its molecular weight in the case stands
-// for), true (a mole of chains) and segment (chains taken apart into their segments).
+// A stream on three bases: apparent (a mole of a polymer has its molecular weight in the case), true (a mole
+// of chains) and segment (chains taken apart into their segments).
 #pragma once
 
 #include <string>
@@ -14,7 +14,7 @@ namespace app {
 enum class Basis { apparent, true_chains, segment };
 std::string_view text(Basis basis);
 
-// How much of one component, or on the segment basis of one segment, the stream holds.
+// The amount of one component, or on the segment basis of one segment.
 struct Amount {
     std::string component;
     ComponentClass kind;
@@ -22,11 +22,6 @@ struct Amount {
     double mass_flow;  // kg/h
     double mole_fraction;
     double mass_fraction;
-};
-
-struct Composition {
-    Basis basis;
-    std::vector<Amount> amounts;
 };
 
 struct Closure {
@@ -38,12 +33,21 @@ struct Closure {
     double mass_difference;  // of the mass flow from that of the first basis, relative to the latter
 };
 
-// Of the selected stream, in the order of the bases.
-std::vector<Composition> compositions(const StreamList& list, const minihost::Host& host);
+struct Composition {
+    Basis basis;
+    std::vector<Amount> amounts;
+};
 
-// One stream on the bases `from` and `to`. Chains cannot be told from segments: `from` is one of the others.
-std::vector<Composition> convert(const std::string& stream, Basis from, Basis to, minihost::Host& host);
+// In the order of the bases; the closures have an entry for each composition.
+struct Compositions {
+    std::vector<Composition> bases;
+    std::vector<Closure> closures;
+};
 
-std::vector<Closure> closures(const std::vector<Composition>& compositions);
+// Of the selected stream on all bases.
+Compositions compositions(const StreamList& list, const minihost::Host& host);
+
+// One stream on the bases `from` and `to`. Chains cannot be told from segments: `from` is another basis.
+Compositions convert(const std::string& stream, Basis from, Basis to, minihost::Host& host);
 
 }  // namespace app

@@ -1,5 +1,5 @@
-// Chains by their segments: the segment-count matrix of a stream, and chain weights from it beside those from
-// the attributes.
+// Chains by their segments: the segment-count matrix of a stream, and averages of chains from it and from the
+// attributes.
 #pragma once
 
 #include <string>
@@ -19,16 +19,16 @@ struct SegmentCountMatrix {
     std::vector<ChainMakeUp> chains;
 };
 
-// One average of a chain's weight on two ways, g/mol.
+// One average of a chain computed in two ways, g/mol.
 struct WeightComparison {
     std::string component;
     std::string average;  // key of the same quantity in the chain averages
     double from_counts;
     double from_attributes;
-    double difference;  // relative to the weight from the attributes
+    double difference;  // relative to the average from the attributes
 };
 
-SegmentCountMatrix segment_counts(const StreamList& list, const minihost::Host& host);
+SegmentCountMatrix segment_count_matrix(const StreamList& list, const minihost::Host& host);
 
 // Of the selected stream.
 std::vector<WeightComparison> chain_weights(const StreamList& list, const minihost::Host& host);

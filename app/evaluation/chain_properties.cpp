@@ -1,7 +1,5 @@
 #include "app/evaluation/chain_properties.h"
 
-#include <polyprops/polyprops.h>
-
 #include <algorithm>
 #include <limits>
 
@@ -10,7 +8,8 @@ namespace app {
 namespace {
 
 using minihost::Host;
-using Reals = std::vector<double>;
+using routines::Component;
+using routines::Reals;
 
 constexpr double unknown = std::numeric_limits<double>::quiet_NaN();
 
@@ -23,35 +22,14 @@ Reals by_component(const std::vector<ComponentValue>& values, const Host& host)
     return all;
 }
 
-double average_by_number(const Reals& property, const StreamList& list, Int chain)
+bool has_segments(const StreamList& list, Component chain)
 {
-    const auto& counts = list.counts;
-    const Int segments = counts.segment_count();
-    const Int one = 1;
-    double average = unknown;
-    POLY_GETMAVG(&counts.leading_dimension, property.data(), &segments, counts.segments.data(),
-                 counts.counts.data(), &one, &chain, &average, counts.is_chain.data());
-    return average;
+    return std::ranges::any_of(list.counts.segments, [&](Component s) { return list.counts.of(chain, s) > 0; });
 }
 
-double weighted_average(const Reals& property, const Reals& weights, const StreamList& list, Int chain)
+double value_of(const Property& property, const StreamList& list, Component chain, const Host& host)
 {
-    const auto& counts = list.counts;
-    const Int segments = counts.segment_count();
-    double average = unknown;
-    POLY_GETSAVG(&counts.leading_dimension, weights.data(), &segments, counts.segments.data(),
-                 counts.counts.data(), &chain, property.data(), &average);
-    return average;
-}
-
-bool has_segments(const StreamList& list, Int chain)
-{
-    return std::ranges::any_of(list.counts.segments, [&](Int s) { return list.counts.of(chain, s) > 0; });
-}
-
-double value_of(const Property& property, const StreamList& list, Int chain, const Host& host)
-{
-    const auto& id = host.components().at(chain).id;
+    const auto& id = host.components().at(chain.index).id;
     const auto own =
         std::ranges::find(property.own_values, id, [](const ComponentValue& v) { return v.component.id; });
     if (own != property.own_values.end()) return own->value;
@@ -59,11 +37,12 @@ double value_of(const Property& property, const StreamList& list, Int chain, con
     const auto values = by_component(property.segment_values, host);
     switch (property.averaging) {
         case Averaging::number:
-            return average_by_number(values, list, chain);
+            return routines::number_average(list.counts, chain, values, unknown);
         case Averaging::mass:
-            return weighted_average(values, list.molecular_weight, list, chain);
+            return routines::weighted_average(list.counts, chain, values, list.molecular_weight, unknown);
         case Averaging::weight_factors:
-            return weighted_average(values, by_component(property.weight_factors, host), list, chain);
+            return routines::weighted_average(list.counts, chain, values,
+                                              by_component(property.weight_factors, host), unknown);
     }
     return unknown;
 }
@@ -73,8 +52,8 @@ double value_of(const Property& property, const StreamList& list, Int chain, con
 std::vector<ChainProperties> chain_properties(const Case& input, const StreamList& list, const Host& host)
 {
     std::vector<ChainProperties> all;
-    for (const Int c : list.chains()) {
-        const auto& component = host.components().at(c);
+    for (const auto c : list.chains()) {
+        const auto& component = host.components().at(c.index);
         ChainProperties found{component.id, component.component_class, {}};
         for (const auto& property : input.properties)
             found.values.push_back(value_of(property, list, c, host));

@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/evaluation/stream_moments.h"
-
 namespace app {
 
 namespace {
@@ -54,7 +52,7 @@ public:
     }
 
     // A stream without polymer, or without second moments, says nothing.
-    void add(const std::string& curve, const StreamMoments& moments, std::size_t entry)
+    void add(const std::string& curve, const routines::StreamMoments& moments, std::size_t entry)
     {
         const double z = moments.zeroth[entry];
         const double f = moments.first[entry];
@@ -111,10 +109,8 @@ void check_parameters(const Distribution& distribution, Checks& checks)
 }
 
 // Site moments belong to the sites of one section.
-void check_moments(const Distribution& distribution, minihost::Host& host, Checks& checks)
+void check_moments(const Distribution& distribution, const routines::StreamMoments& moments, Checks& checks)
 {
-    if (!distribution.stream) return;
-    const auto moments = stream_moments(distribution.stream->id, host);
     const auto& section = distribution.sections.front();
     if (distribution.sections.size() == 1 && moments.sites() == section.sites.size())
         for (std::size_t j = 0; j < section.sites.size(); ++j)
@@ -141,28 +137,28 @@ std::string site_curve_name(const DistributionSection& section, std::size_t site
 }
 
 std::vector<CurveCheck> curve_checks(const Distribution& distribution, const DistributionResults& results,
-                                     minihost::Host& host)
+                                     const routines::StreamMoments* moments)
 {
     Checks checks{results};
     checks.add_sum_of_sites();
     check_parameters(distribution, checks);
-    check_moments(distribution, host, checks);
+    if (moments) check_moments(distribution, *moments, checks);
     return checks.take();
 }
 
-std::vector<std::string> disagreements(const std::vector<DistributionResults>& results)
+std::vector<Diagnostic> disagreements(const Distribution& distribution, const DistributionResults& results)
 {
-    std::vector<std::string> lines;
-    for (const auto& distribution : results)
-        for (const auto& check : distribution.checks)
-            if (std::isfinite(check.pn) && std::isfinite(check.pw) && !check.agrees())
-                lines.push_back(
-                    fmt::format("distributions.{}: {} has Pn {:.6g} and Pw {:.6g} on the grid; by its {} "
-                                "they are {:.6g} and "
-                                "{:.6g}: more points or a greater longest_chain may be needed",
-                                distribution.name, check.curve, check.averages.pn, check.averages.pw,
-                                check.source, check.pn, check.pw));
-    return lines;
+    std::vector<Diagnostic> found;
+    for (const auto& check : results.checks)
+        if (std::isfinite(check.pn) && std::isfinite(check.pw) && !check.agrees())
+            found.push_back(
+                {distribution.name.source,
+                 fmt::format("distributions.{}: {} has Pn {:.6g} and Pw {:.6g} on the grid; by its {} they are "
+                             "{:.6g} and {:.6g}: more points or a greater longest_chain may be needed",
+                             results.name, check.curve, check.averages.pn, check.averages.pw, check.source,
+                             check.pn, check.pw),
+                 Severity::warning});
+    return found;
 }
 
 }  // namespace app

@@ -1,5 +1,4 @@
-// What the averages of a distribution have to be by its sites, by their parameters and by the moments of a
-// stream.
+// Averages of a distribution from its sites, from their parameters and from the moments of a stream.
 //
 // The distribution of a site with parameters τ and β, s = τ + β, has area 1 and
 //
@@ -10,14 +9,21 @@
 // curves to rounding.
 #pragma once
 
-#include "app/evaluation/distributions.h"
+#include "app/case/distribution_model.h"
+#include "app/evaluation/distribution_results.h"
+#include "app/routines/stream_moments.h"
 
 namespace app {
 
 std::string section_curve_name(const DistributionSection& section);
 std::string site_curve_name(const DistributionSection& section, std::size_t site);
 
+// `moments` of the stream of the distribution; null without one.
 std::vector<CurveCheck> curve_checks(const Distribution& distribution, const DistributionResults& results,
-                                     minihost::Host& host);
+                                     const routines::StreamMoments* moments);
+
+// A warning for each curve whose averages differ from those of its sites or moments by more than the grid
+// leaves open.
+std::vector<Diagnostic> disagreements(const Distribution& distribution, const DistributionResults& results);
 
 }  // namespace app

@@ -1,94 +1,49 @@
 #include "app/evaluation/distributions.h"
 
-#include <fmt/format.h>
-#include <polyprops/polyprops.h>
-
-#include <cmath>
+#include <numbers>
 
 #include "app/evaluation/distribution_checks.h"
-#include "app/evaluation/stream_moments.h"
+#include "app/evaluation/reactors.h"
+#include "app/evaluation/stream_list.h"
+#include "app/routines/chain_length_distribution.h"
 
 namespace app {
 
 namespace {
 
 using minihost::Host;
-using minihost::Int;
 
-// Running arrays of one section.
-struct Accumulated {
-    std::vector<double> weights;  // by site, the total last
-    std::vector<double> composite;
-    std::vector<double> columns;  // site after site
-};
+routines::CurveForm form_of(bool is_gpc)
+{
+    return is_gpc ? routines::CurveForm::gpc : routines::CurveForm::weight_fraction;
+}
 
-class Grid {
-public:
-    explicit Grid(const Distribution& distribution)
-        : points_(distribution.points),
-          longest_(distribution.longest_chain),
-          mode_(distribution.is_gpc ? 1 : 0)
-    {
-        lengths_.resize(size());
-    }
-
-    Accumulated accumulate(const DistributionSection& section)
-    {
-        const auto sites = section.sites.size();
-        const auto count = static_cast<Int>(sites);
-        Accumulated a{std::vector<double>(sites + 1), std::vector<double>(size()),
-                      std::vector<double>(size() * sites)};
-        POLY_CSDINI(&points_, &count, lengths_.data(), &longest_, a.weights.data(), a.composite.data(),
-                    a.columns.data());
-        for (const auto& increment : section.increments) add(increment, count, a);
-        return a;
-    }
-
-    const std::vector<double>& lengths() const { return lengths_; }
-    std::size_t size() const { return static_cast<std::size_t>(points_); }
-    const Int& points() const { return points_; }
-
-private:
-    void add(const Increment& increment, Int count, Accumulated& a) const
-    {
-        std::vector<double> tau;
-        std::vector<double> beta;
-        std::vector<double> amount;
+routines::AccumulatedDistribution accumulate(const Distribution& distribution, const DistributionSection& section)
+{
+    routines::AccumulatedDistribution made{static_cast<std::size_t>(distribution.points),
+                                           distribution.longest_chain, section.sites.size(),
+                                           form_of(distribution.is_gpc)};
+    for (const auto& increment : section.increments) {
+        routines::SiteParameters sites;
         for (const auto& site : increment) {
-            tau.push_back(site.tau);
-            beta.push_back(site.beta);
-            amount.push_back(site.amount);
+            sites.tau.push_back(site.tau);
+            sites.beta.push_back(site.beta);
+            sites.amount.push_back(site.amount);
         }
-        POLY_CSDCAL(&points_, &count, &mode_, tau.data(), beta.data(), amount.data(), lengths_.data(),
-                    a.weights.data(), a.composite.data(), a.columns.data());
+        made.add(sites);
     }
+    return made;
+}
 
-    Int points_;
-    double longest_;
-    Int mode_;
-    std::vector<double> lengths_;
-};
-
-void add_section(const DistributionSection& section, const Accumulated& a, std::size_t points,
+void add_section(const DistributionSection& section, const routines::AccumulatedDistribution& made,
                  DistributionResults& results)
 {
     if (!section.name.id.empty())
         results.curves.push_back(
-            {section_curve_name(section), Curve::Kind::section, a.weights.back(), a.composite, {}});
-    for (std::size_t j = 0; j < section.sites.size(); ++j) {
-        const auto column = a.columns.begin() + static_cast<std::ptrdiff_t>(j * points);
-        results.curves.push_back({site_curve_name(section, j),
-                                  Curve::Kind::site,
-                                  a.weights[j],
-                                  {column, column + static_cast<std::ptrdiff_t>(points)},
-                                  {}});
-    }
-}
-
-void mix_in(const Grid& grid, const Accumulated& a, Curve& composite)
-{
-    POLY_CSDADD(&grid.points(), composite.values.data(), &composite.amount, a.composite.data(),
-                &a.weights.back(), composite.values.data(), &composite.amount);
+            {section_curve_name(section), Curve::Kind::section, made.amount(), made.composite(), {}});
+    for (std::size_t j = 0; j < section.sites.size(); ++j)
+        results.curves.push_back(
+            {site_curve_name(section, j), Curve::Kind::site, made.amount(j), made.site(j), {}});
 }
 
 double segment_area(const DistributionResults& r, const Curve& curve, std::size_t k)
@@ -132,18 +87,46 @@ std::vector<double> cumulative(const DistributionResults& r)
 
 DistributionResults curves(const Distribution& distribution)
 {
-    DistributionResults results{
-        distribution.name.id, distribution.is_gpc, distribution.segment_weight, {}, {}, {}, {}};
-    Grid grid{distribution};
-    results.curves.push_back(
-        {"composite", Curve::Kind::composite, 0.0, std::vector<double>(grid.size()), {}});
+    DistributionResults results;
+    results.name = distribution.name.id;
+    results.is_gpc = distribution.is_gpc;
+    results.segment_weight = distribution.segment_weight;
+    results.curves.push_back({"composite", Curve::Kind::composite, 0.0,
+                              std::vector<double>(static_cast<std::size_t>(distribution.points)), {}});
     for (const auto& section : distribution.sections) {
-        const auto accumulated = grid.accumulate(section);
-        mix_in(grid, accumulated, results.curves.front());
-        add_section(section, accumulated, grid.size(), results);
+        const auto made = accumulate(distribution, section);
+        auto& composite = results.curves.front();
+        routines::mix_in(made.composite(), made.amount(), composite.values, composite.amount);
+        add_section(section, made, results);
+        results.lengths = made.lengths();
     }
-    results.lengths = grid.lengths();
     return results;
+}
+
+// Moments of all polymer of the stream that a distribution is compared with.
+struct StreamPolymer {
+    routines::StreamMoments moments;
+    double mean_segment_weight;  // g/mol; 0 without polymer
+};
+
+std::optional<StreamPolymer> polymer_of(const Distribution& distribution, Host& host)
+{
+    if (!distribution.stream) return {};
+    const auto& view = host.streams().view(distribution.stream->id);
+    const auto weights = molecular_weights(host);
+    const auto sites = site_types(host);
+    return StreamPolymer{routines::stream_moments(view, weights, sites),
+                         routines::polymer_held(view, weights, sites).mean_segment_weight.back()};
+}
+
+void add_molecular_weights(DistributionResults& results)
+{
+    if (!results.segment_weight) return;
+    for (auto& curve : results.curves) {
+        curve.averages.mn = curve.averages.pn * *results.segment_weight;
+        curve.averages.mw = curve.averages.pw * *results.segment_weight;
+    }
+    for (const double x : results.lengths) results.molecular_weights.push_back(x * *results.segment_weight);
 }
 
 DistributionResults evaluate(const Distribution& distribution, Host& host)
@@ -151,11 +134,13 @@ DistributionResults evaluate(const Distribution& distribution, Host& host)
     auto results = curves(distribution);
     for (auto& curve : results.curves) curve.averages = averages(results, curve);
     results.cumulative = cumulative(results);
-    if (distribution.stream && !results.segment_weight) {
-        const double weight = polymer_results(distribution.stream->id, host).segment_weight.back();
-        if (weight > 0) results.segment_weight = weight;
-    }
-    results.checks = curve_checks(distribution, results, host);
+    for (std::size_t k = 0; k < results.lengths.size(); ++k)
+        results.chromatogram.push_back(std::numbers::ln10 * (results.lengths[k] * results.height(results.composite(), k)));
+    const auto polymer = polymer_of(distribution, host);
+    if (polymer && !results.segment_weight && polymer->mean_segment_weight > 0)
+        results.segment_weight = polymer->mean_segment_weight;
+    add_molecular_weights(results);
+    results.checks = curve_checks(distribution, results, polymer ? &polymer->moments : nullptr);
     return results;
 }
 
@@ -170,24 +155,13 @@ std::vector<DistributionResults> evaluate_distributions(const Case& input, Host&
 
 void publish(const DistributionResults& results, Host& host)
 {
-    std::vector<double> values = results.composite().values;
-    Int sections = 0;
-    for (const auto& curve : results.curves) {
-        if (curve.kind != Curve::Kind::section) continue;
-        values.insert(values.end(), curve.values.begin(), curve.values.end());
-        ++sections;
-    }
-    if (sections == 0) {  // one section without a name
-        values.insert(values.end(), results.composite().values.begin(), results.composite().values.end());
-        sections = 1;
-    }
-    const auto points = static_cast<Int>(results.lengths.size());
-    const double scale = 1.0;
-    const Int is_scaled = 0;
-    const Int gpc = results.is_gpc ? 1 : 0;
-    POLY_CSDPLOT(host.summary().context(results.name), nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-                 nullptr, nullptr, nullptr, &points, results.lengths.data(), values.data(), &sections, &scale,
-                 &is_scaled, &gpc);
+    std::vector<std::vector<double>> sections;
+    for (const auto& curve : results.curves)
+        if (curve.kind == Curve::Kind::section) sections.push_back(curve.values);
+    // One section without a name is the composite.
+    if (sections.empty()) sections.push_back(results.composite().values);
+    routines::publish_distribution(host, results.name, form_of(results.is_gpc), results.lengths,
+                                   results.composite().values, sections);
 }
 
 }  // namespace app

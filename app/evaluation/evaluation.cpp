@@ -1,86 +1,113 @@
 #include "app/evaluation/evaluation.h"
 
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 
-#include <algorithm>
 #include <stdexcept>
 
-#include "app/report/curve_tables.h"
+#include "app/evaluation/distribution_checks.h"
+#include "app/evaluation/distributions.h"
 #include "app/host_setup/loaded_case.h"
+#include "app/routines/site_summary.h"
 
 namespace app {
 
 namespace {
 
-void add_distributions(Evaluation& e, const MeasuredCurve* measured)
+using minihost::Host;
+
+// What every evaluation does first; false when the case cannot go on.
+template <typename AnyResults>
+bool prepare(const Case& input, LoadedCase& loaded, AnyResults& results)
 {
-    const DistributionResults* held_against = nullptr;
-    std::optional<GpcComparison> comparison;
-    if (measured) {
-        held_against = &e.distribution(measured->distribution);
-        comparison = compare(measured->curve, measured->file, *held_against);
-    }
-    for (const auto& results : e.distributions)
-        e.report.sections.push_back(
-            distribution_section(results, &results == held_against ? &*comparison : nullptr));
+    results.messages = loaded.messages();
+    results.errors = loaded.add_streams(input).sorted();
+    // Values need not fit a paragraph from which entries in error were dropped.
+    results.is_complete = results.errors.empty() || !results.messages.empty();
+    return results.is_complete;
+}
+
+CompositeCurve composite_curve(const DistributionResults& results)
+{
+    CompositeCurve curve{results.name, results.is_gpc, required_segment_weight(results), results.lengths, {}};
+    for (std::size_t k = 0; k < results.lengths.size(); ++k)
+        curve.heights.push_back(results.lengths[k] * results.height(results.composite(), k));
+    return curve;
+}
+
+void add_comparison(const Case& input, const EvaluationOptions& options, Results& results)
+{
+    if (!options.measured) return;
+    auto& distribution = results.distributions[find_distribution(input, options.measured_distribution)];
+    distribution.measured = compare(*options.measured, composite_curve(distribution));
+}
+
+void summarize(const std::string& stream, Host& host)
+{
+    const auto polymer =
+        routines::polymer_held(host.streams().view(stream), molecular_weights(host), site_types(host));
+    if (polymer.mass.back() > 0) routines::publish_sites(host, stream, polymer);
+}
+
+LibraryOutput publish_all(const Case& input, const Results& results, Host& host)
+{
+    host.report().set_lines_per_page(input.settings.lines_per_page);
+    for (const auto& distribution : results.distributions) publish(distribution, host);
+    for (const auto& stream : input.streams) summarize(stream.name.id, host);
+    return {host.report().pages(), host.summary().text()};
 }
 
 }  // namespace
 
-const DistributionResults& Evaluation::distribution(const std::string& name) const
+Results evaluate(const Case& input, const EvaluationOptions& options)
+{
+    Results results;
+    LoadedCase loaded{input};
+    if (!prepare(input, loaded, results)) return results;
+    auto& host = loaded.host();
+    results.reactors = evaluate_reactors(input, host);
+    results.streams = evaluate_streams(input, host);
+    results.distributions = evaluate_distributions(input, host);
+    add_comparison(input, options, results);
+    results.parameters = evaluate_parameters(input);
+    for (std::size_t i = 0; i < results.distributions.size(); ++i)
+        for (auto& warning : disagreements(input.distributions[i], results.distributions[i]))
+            results.warnings.push_back(std::move(warning));
+    if (options.library_output) results.library_output = publish_all(input, results, host);
+    return results;
+}
+
+ConversionResults evaluate_conversion(const Case& input, const std::string& stream, Basis from, Basis to)
+{
+    ConversionResults results;
+    results.stream = stream;
+    LoadedCase loaded{input};
+    if (prepare(input, loaded, results)) results.compositions = convert(stream, from, to, loaded.host());
+    return results;
+}
+
+std::size_t find_distribution(const Case& input, const std::string& name)
 {
     std::vector<std::string_view> names;
-    for (const auto& results : distributions) {
-        if (results.name == name || (name.empty() && distributions.size() == 1)) return results;
-        names.push_back(results.name);
+    for (const auto& distribution : input.distributions) {
+        if (distribution.name.id == name || (name.empty() && input.distributions.size() == 1)) return names.size();
+        names.push_back(distribution.name.id);
     }
-    if (distributions.empty())
-        throw std::runtime_error{input.file + " has no distribution to compare or to export"};
+    if (names.empty()) throw std::runtime_error{input.file + " has no distribution to compare or to export"};
     throw std::runtime_error{
         name.empty()
-            ? fmt::format("{} has {} distributions; expected the name of one with "
-                          "--distribution",
-                          input.file, distributions.size())
+            ? fmt::format("{} has {} distributions; expected the name of one with --distribution", input.file,
+                          names.size())
             : fmt::format("{} has no distribution \"{}\"{}", input.file, name, suggestion(name, names))};
 }
 
-namespace {
-
-// False when the case cannot go on.
-bool prepare(Evaluation& e)
+double required_segment_weight(const DistributionResults& distribution)
 {
-    e.checked = check_input(e.input);
-    for (const auto& message : e.checked.messages)
-        e.errors.push_back(fmt::format("{}", fmt::join(lines(message, e.input.file), "\n")));
-    const auto unfit = add_streams(e.input, e.checked);
-    for (const auto& line : unfit.lines(e.input.file)) e.errors.push_back(line);
-    // Values need not fit what is left of a paragraph in error; those of a good one are themselves in error.
-    return unfit.empty() || !e.checked.messages.empty();
-}
-
-void add(const std::vector<std::string>& lines, const std::string& file, std::vector<std::string>& all)
-{
-    for (const auto& line : lines) all.push_back(fmt::format("{}: {}", file, line));
-}
-
-}  // namespace
-
-Evaluation evaluate_case(Case input, const MeasuredCurve* measured)
-{
-    Evaluation e;
-    e.input = std::move(input);
-    e.has_results = prepare(e);
-    if (!e.has_results) return e;
-    auto& host = *e.checked.host;
-    e.report = make_report(e.input, e.checked, evaluate(e.input, host));
-    e.distributions = evaluate_distributions(e.input, host);
-    add_distributions(e, measured);
-    for (const auto& results : evaluate_parameters(e.input))
-        e.report.sections.push_back(parameter_section(results));
-    add(not_finite(e.report), e.input.file, e.errors);
-    add(disagreements(e.distributions), e.input.file, e.notes);
-    return e;
+    if (!distribution.segment_weight)
+        throw std::runtime_error{fmt::format(
+            "distributions.{} has no segment weight to turn chain lengths into molecular weights; expected a "
+            "segment_weight, or a stream with polymer",
+            distribution.name)};
+    return *distribution.segment_weight;
 }
 
 }  // namespace app

@@ -1,10 +1,9 @@
 #include "app/evaluation/reactors.h"
 
-#include <polyprops/polyprops.h>
-
 #include <algorithm>
 
 #include "app/evaluation/stream_list.h"
+#include "app/routines/stream_moments.h"
 
 namespace app {
 
@@ -20,34 +19,21 @@ bool carries_site_attributes(Int component, Host& host)
                                [&](auto name) { return host.attributes().find(component, name) != nullptr; });
 }
 
-ReactorResults evaluate(const Reactor& reactor, Int sites, Host& host)
+ReactorResults evaluate(const Reactor& reactor, std::size_t sites, Host& host)
 {
-    const auto& inlet = host.streams().view(reactor.inlet.id);
-    const auto& outlet = host.streams().view(reactor.outlet.id);
-    const auto substreams = static_cast<Int>(inlet.first_flow.size());
-    const auto weights = molecular_weights(host);
-    const Int entries = sites + 1;
-    const auto size = static_cast<std::size_t>(entries);
-    std::vector<double> mass(size);
-    std::vector<double> segment_weight(size);
-    std::vector<double> mn(size);
-    std::vector<double> mw(size);
-    std::vector<double> dpn(size);
-    std::vector<double> dpw(size);
-    std::vector<double> pdi(size);
-    POLY_POLYRESULTS(inlet.values, outlet.values, &substreams, inlet.first_flow.data(), inlet.types.data(),
-                     weights.data(), &entries, mass.data(), segment_weight.data(), mn.data(), mw.data(),
-                     dpn.data(), dpw.data(), pdi.data());
+    const auto made = routines::polymer_made(host.streams().view(reactor.inlet.id),
+                                             host.streams().view(reactor.outlet.id), molecular_weights(host), sites);
     ReactorResults results{reactor.name.id, reactor.inlet.id, reactor.outlet.id, {}};
-    for (std::size_t t = 0; t < size; ++t)
-        results.made.push_back({t + 1 < size ? std::to_string(t + 1) : "total", mass[t], segment_weight[t],
-                                mn[t], mw[t], dpn[t], dpw[t], pdi[t]});
+    for (std::size_t t = 0; t <= sites; ++t)
+        results.made.push_back({t < sites ? std::to_string(t + 1) : "total", made.mass[t],
+                                made.mean_segment_weight[t], made.mn[t], made.mw[t], made.dpn[t], made.dpw[t],
+                                made.pdi[t]});
     return results;
 }
 
 }  // namespace
 
-Int site_types(Host& host)
+std::size_t site_types(Host& host)
 {
     bool has_polymers = false;
     for (Int c = 1; c <= host.components().count(); ++c) {
@@ -55,13 +41,13 @@ Int site_types(Host& host)
         has_polymers = true;
         if (!carries_site_attributes(c, host)) return 0;
     }
-    return has_polymers ? host.dimensions().sites : 0;
+    return has_polymers ? static_cast<std::size_t>(host.dimensions().sites) : 0;
 }
 
 std::vector<ReactorResults> evaluate_reactors(const Case& input, Host& host)
 {
     std::vector<ReactorResults> results;
-    const Int sites = input.reactors.empty() ? 0 : site_types(host);
+    const auto sites = input.reactors.empty() ? 0 : site_types(host);
     for (const auto& reactor : input.reactors) results.push_back(evaluate(reactor, sites, host));
     return results;
 }

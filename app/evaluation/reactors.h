@@ -9,8 +9,8 @@
 
 namespace app {
 
-// What the outlet holds beyond the inlet, of one site type or in total.
-struct PolymerMade {
+// The polymer that the outlet holds beyond the inlet, of one site type or in total.
+struct SitePolymer {
     std::string site;            // "1", "2", …, "total"
     double mass_flow;            // kg/h
     double mean_segment_weight;  // g/mol
@@ -25,12 +25,12 @@ struct ReactorResults {
     std::string reactor;
     std::string inlet;
     std::string outlet;
-    std::vector<PolymerMade> made;
+    std::vector<SitePolymer> made;
 };
 
-// Site types that are told apart: those of the case when every polymer carries their moments and segment
-// flows, 0 when the polymer can only be told as a whole.
-Int site_types(minihost::Host& host);
+// Number of catalyst site types that are distinguished: those of the case when every polymer carries their
+// moments and segment flows, otherwise 0.
+std::size_t site_types(minihost::Host& host);
 
 std::vector<ReactorResults> evaluate_reactors(const Case& input, minihost::Host& host);
 

@@ -1,7 +1,6 @@
 #include "app/evaluation/stream_results.h"
 
-#include <polyprops/polyprops.h>
-
+#include "app/routines/chain_averages.h"
 #include "minihost/polymer_input.h"
 
 namespace app {
@@ -10,50 +9,33 @@ namespace {
 
 using minihost::Host;
 
-constexpr Int selector = 1;
-
-// The routines that take a component list and give one real per entry.
-using ListRoutine = void(const Int* selector, const Int* n, const Int* idx, double* values);
-
-std::vector<double> ask(ListRoutine& routine, const std::vector<Int>& components)
-{
-    std::vector<double> values(components.size());
-    const auto n = static_cast<Int>(components.size());
-    routine(&selector, &n, components.data(), values.data());
-    return values;
-}
-
 std::vector<ChainAverages> chain_averages(const StreamList& list, const Host& host)
 {
-    const auto dpn = ask(POLY_GETDPN, list.index);
-    const auto mrf = ask(POLY_GETMRF, list.index);
-    const auto mwn = ask(POLY_GETMWN, list.index);
-    const auto mww = ask(POLY_GETMWW, list.index);
-    const auto pdi = ask(POLY_GETPDI, list.index);
+    const auto dpn = routines::degrees_of_polymerization(list.components);
+    const auto mrf = routines::mean_segment_weights(list.components);
+    const auto mn = routines::number_average_molecular_weights(list.components);
+    const auto mw = routines::weight_average_molecular_weights(list.components);
+    const auto pdi = routines::polydispersity_indices(list.components);
     std::vector<ChainAverages> averages;
-    for (std::size_t i = 0; i < list.index.size(); ++i) {
-        const auto& component = host.components().at(list.index[i]);
-        averages.push_back({component.id, component.component_class, list.mole_flow[i], dpn[i], mrf[i],
-                            mwn[i], mww[i], pdi[i]});
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        const auto& component = host.components().at(list.components[i].index);
+        averages.push_back({component.id, component.component_class, list.mole_flow[i], dpn[i], mrf[i], mn[i],
+                            mw[i], pdi[i]});
     }
     return averages;
 }
 
-std::vector<SegmentShare> segment_shares(const std::vector<Int>& chains, Host& host)
+std::vector<SegmentShare> segment_shares(const routines::Components& chains, Host& host)
 {
     const auto segments = minihost::segment_list(host);
     if (segments.empty()) return {};
-    const auto n = static_cast<Int>(chains.size());
-    const auto rows = static_cast<Int>(segments.size());
-    std::vector<double> mass(chains.size() * segments.size());
-    POLY_SWFVEC(&selector, &n, &rows, chains.data(), mass.data());
+    const auto mass = routines::segment_mass_fractions(chains, segments.size());
     std::vector<SegmentShare> shares;
     for (std::size_t i = 0; i < chains.size(); ++i) {
-        std::vector<double> mole(segments.size());
-        POLY_GETSMF(&selector, &chains[i], mole.data());
+        const auto mole = routines::segment_mole_fractions(chains[i], segments.size());
         for (std::size_t s = 0; s < segments.size(); ++s)
-            shares.push_back(
-                {host.components().at(chains[i]).id, segments[s], mole[s], mass[i * segments.size() + s]});
+            shares.push_back({host.components().at(chains[i].index).id, segments[s], mole[s],
+                              mass[i * segments.size() + s]});
     }
     return shares;
 }
@@ -65,17 +47,17 @@ StreamResults evaluate(const std::string& name, const Case& input, Host& host)
             chain_averages(list, host),
             segment_shares(list.chains(), host),
             compositions(list, host),
-            segment_counts(list, host),
+            segment_count_matrix(list, host),
             chain_weights(list, host),
             chain_properties(input, list, host)};
 }
 
 }  // namespace
 
-Results evaluate(const Case& input, Host& host)
+std::vector<StreamResults> evaluate_streams(const Case& input, Host& host)
 {
-    Results results{{}, evaluate_reactors(input, host)};
-    for (const auto& stream : input.streams) results.streams.push_back(evaluate(stream.name.id, input, host));
+    std::vector<StreamResults> results;
+    for (const auto& stream : input.streams) results.push_back(evaluate(stream.name.id, input, host));
     return results;
 }
 

@@ -1,4 +1,4 @@
-// What the library says of a loaded case.
+// Results of one stream.
 #pragma once
 
 #include <string>
@@ -6,7 +6,6 @@
 
 #include "app/evaluation/bases.h"
 #include "app/evaluation/chain_make_up.h"
-#include "app/evaluation/reactors.h"
 #include "app/evaluation/chain_properties.h"
 
 namespace app {
@@ -35,18 +34,13 @@ struct StreamResults {
     std::string stream;
     std::vector<ChainAverages> averages;
     std::vector<SegmentShare> shares;
-    std::vector<Composition> compositions;
+    Compositions compositions;
     SegmentCountMatrix segment_counts;
     std::vector<WeightComparison> chain_weights;
     std::vector<ChainProperties> properties;
 };
 
-struct Results {
-    std::vector<StreamResults> streams;
-    std::vector<ReactorResults> reactors;
-};
-
-// Selects the streams of the case one after another and asks the library's routines about each.
-Results evaluate(const Case& input, minihost::Host& host);
+// Selects each stream of the case in turn and asks the library's routines about it.
+std::vector<StreamResults> evaluate_streams(const Case& input, minihost::Host& host);
 
 }  // namespace app

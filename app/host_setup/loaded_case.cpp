@@ -1,10 +1,8 @@
 #include "app/host_setup/loaded_case.h"
 
-#include <polyprops/polyprops.h>
-
 #include "app/host_setup/case_sentences.h"
 #include "app/host_setup/stream_values.h"
-#include "minihost/error.h"
+#include "app/routines/input_semantics.h"
 
 namespace app {
 
@@ -15,8 +13,11 @@ using minihost::Host;
 // POLY_GETPDI keeps the PDI parameters when the host's mode word holds this value.
 constexpr Int pdi_from_parameters = 100;
 
-constexpr Int unused = 0;
-constexpr Int check = 2;  // what the input routines are asked to do
+std::mutex& turns()
+{
+    static std::mutex mutex;
+    return mutex;
+}
 
 std::unique_ptr<Host> make_host(const Case& input)
 {
@@ -30,39 +31,32 @@ std::unique_ptr<Host> make_host(const Case& input)
     return host;
 }
 
-void check_paragraph(const Paragraph& paragraph, Host& host)
+void check_input(const Case& input, Host& host)
 {
-    constexpr Int nothing_built = 2;
-    host.paragraph().set(sentences(paragraph));
-    Int status = 0;
-    POLY_POLSEM(&unused, &check, host.semantics_context(), host.paragraph().handle(), &unused, &status);
-    if (status == nothing_built) throw minihost::Error{"the polymer paragraph could not be checked"};
-}
-
-void scale_catalysts(const Case& input, Host& host)
-{
-    host.lay_attribute_blocks();
-    const auto id = lay_scaling_sentence(host.store(), host.components(), scaling_entries(input));
-    Int status = 0;
-    POLY_CATSCALESEM(&check, &id, &status, &unused, &id);
+    if (input.paragraph) {
+        host.paragraph().set(sentences(*input.paragraph));
+        routines::check_paragraph(host);
+    }
+    if (!input.catalyst_scaling.empty()) {
+        host.lay_attribute_blocks();
+        routines::scale_catalysts(
+            lay_scaling_sentence(host.store(), host.components(), scaling_entries(input)));
+    }
 }
 
 }  // namespace
 
-CheckedInput check_input(const Case& input)
+LoadedCase::LoadedCase(const Case& input) : turn_(turns()), host_(make_host(input))
 {
-    auto host = make_host(input);
-    if (input.paragraph) check_paragraph(*input.paragraph, *host);
-    if (!input.catalyst_scaling.empty()) scale_catalysts(input, *host);
-    auto messages = place(host->messages().printed(), input);
-    return {std::move(host), std::move(messages)};
+    check_input(input, *host_);
+    messages_ = place(host_->messages().printed(), input);
 }
 
-Diagnostics add_streams(const Case& input, const CheckedInput& checked)
+Diagnostics LoadedCase::add_streams(const Case& input)
 {
     Diagnostics diagnostics;
-    StreamValues values{*checked.host, checked.messages.empty() ? "" : " (dropped)", diagnostics};
-    for (const auto& stream : input.streams) checked.host->add_stream(values.fitting(stream));
+    StreamValues values{*host_, messages_.empty() ? "" : " (dropped)", diagnostics};
+    for (const auto& stream : input.streams) host_->add_stream(values.accepted(stream));
     return diagnostics;
 }
 

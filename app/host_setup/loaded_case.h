@@ -1,7 +1,9 @@
-// Puts a case into the embedded host, which the routines of the library then read.
+// A case in the embedded host, where the routines of the library read it.
 #pragma once
 
 #include <memory>
+#include <mutex>
+#include <vector>
 
 #include "app/case/case_model.h"
 #include "app/host_setup/message_places.h"
@@ -9,17 +11,25 @@
 
 namespace app {
 
-struct CheckedInput {
-    std::unique_ptr<minihost::Host> host;
-    std::vector<PlacedMessage> messages;
+// There is one host in a process: cases take turns, and a case that is loaded holds its turn.
+class LoadedCase {
+public:
+    // Makes a host with the components of the case and hands the polymer paragraph and the catalyst scaling
+    // to the library's checks. The case must be free of errors. Throws minihost::Error for what the host
+    // refuses.
+    explicit LoadedCase(const Case& input);
+
+    // Puts the streams into the host, except values that do not fit the paragraph as checked: the answer
+    // names them.
+    Diagnostics add_streams(const Case& input);
+
+    minihost::Host& host() const { return *host_; }
+    const std::vector<PlacedMessage>& messages() const { return messages_; }
+
+private:
+    std::unique_lock<std::mutex> turn_;
+    std::unique_ptr<minihost::Host> host_;
+    std::vector<PlacedMessage> messages_;
 };
-
-// Makes a host with the components of the case, hands the polymer paragraph and the catalyst scaling to the
-// library's checks, and says what they reported. The case must be free of errors. Only one host exists at a
-// time. Throws minihost::Error for what it refuses.
-CheckedInput check_input(const Case& input);
-
-// Lays the streams into the host, but for values that do not fit what the checks left; the answer names them.
-Diagnostics add_streams(const Case& input, const CheckedInput& checked);
 
 }  // namespace app

@@ -220,14 +220,13 @@ std::vector<PlacedMessage> place(const std::vector<minihost::Message>& messages,
     return placed;
 }
 
-std::vector<std::string> lines(const PlacedMessage& placed, std::string_view file)
+Diagnostic diagnostic(const PlacedMessage& placed)
 {
     const auto& [source, hint, message] = placed;
-    std::vector<std::string> lines{fmt::format("{}:{}:{}: {} message {}, severity {}{}", file, source.line,
-                                               source.column, message.routine, message.number,
-                                               message.severity, hint)};
-    lines.insert(lines.end(), message.lines.begin(), message.lines.end());
-    return lines;
+    auto text = fmt::format("{} message {}, severity {}{}", message.routine, message.number, message.severity,
+                            hint);
+    for (const auto& line : message.lines) text += "\n" + line;
+    return {source, std::move(text), Severity::message};
 }
 
 }  // namespace app

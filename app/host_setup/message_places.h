@@ -18,7 +18,7 @@ struct PlacedMessage {
 // Finds the places of the messages of one paragraph check and, after it, one catalyst scaling.
 std::vector<PlacedMessage> place(const std::vector<minihost::Message>& messages, const Case& input);
 
-// "FILE:LINE:COLUMN: ROUTINE message NUMBER, severity SEVERITY" and the lines of the message as they are.
-std::vector<std::string> lines(const PlacedMessage& placed, std::string_view file);
+// "ROUTINE message NUMBER, severity SEVERITY" and the lines of the message as they are.
+Diagnostic diagnostic(const PlacedMessage& placed);
 
 }  // namespace app

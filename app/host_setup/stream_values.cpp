@@ -116,7 +116,7 @@ StreamValues::StreamValues(Host& host, std::string consequence, Diagnostics& dia
 {
 }
 
-minihost::Stream StreamValues::fitting(const Stream& stream)
+minihost::Stream StreamValues::accepted(const Stream& stream)
 {
     minihost::Substream substream;
     for (const auto& flow : stream.flows) {
@@ -131,8 +131,8 @@ minihost::Stream StreamValues::fitting(const Stream& stream)
             diagnostics_.add(value.name.source, fault + consequence_);
             continue;
         }
-        for (const auto& [source, text] : check.unknown_segments(value))
-            diagnostics_.add(source, text + consequence_);
+        for (const auto& unknown : check.unknown_segments(value))
+            diagnostics_.add(unknown.source, unknown.text + consequence_);
         substream.attributes[value.component.id][value.name.id] = in_order(value, segments_);
     }
     return {stream.name.id, {substream}};

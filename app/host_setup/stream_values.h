@@ -16,7 +16,7 @@ public:
     StreamValues(minihost::Host& host, std::string consequence, Diagnostics& diagnostics);
 
     // The stream without the values that do not fit.
-    minihost::Stream fitting(const Stream& stream);
+    minihost::Stream accepted(const Stream& stream);
 
 private:
     void check_given(const Stream& stream, const Flow& flow);

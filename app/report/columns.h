@@ -1,7 +1,7 @@
-// Columns that stand in more than one table: the same quantity has the same key, heading and unit everywhere.
+// Columns of more than one table: the same quantity has the same key, heading and unit everywhere.
 #pragma once
 
-#include "app/report/report.h"
+#include "app/report/report_model.h"
 
 namespace app::columns {
 

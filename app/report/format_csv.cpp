@@ -2,6 +2,7 @@
 // numbered, since no text tells two entries for one component apart.
 #include <fmt/format.h>
 
+#include "app/report/format.h"
 #include "app/report/result_numbers.h"
 
 namespace app {

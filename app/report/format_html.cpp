@@ -1,4 +1,4 @@
-#include "app/report/format_html.h"
+#include "app/report/format.h"
 
 #include <fmt/format.h>
 
@@ -115,12 +115,13 @@ std::string html(const Section& section)
     return html + "</section>\n";
 }
 
-std::string messages(const Evaluation& e)
+std::string messages(const Report& report)
 {
-    if (e.errors.empty() && e.notes.empty()) return {};
+    if (report.diagnostics.empty()) return {};
     std::string html = "<section class=\"messages\">\n<h2>Messages</h2>\n<ul>\n";
-    for (const auto& line : e.errors) html += fmt::format("<li class=\"error\">{}</li>\n", html_text(line));
-    for (const auto& line : e.notes) html += fmt::format("<li>{}</li>\n", html_text(line));
+    for (const auto& found : report.diagnostics)
+        html += fmt::format("<li{}>{}</li>\n", found.severity == Severity::warning ? "" : " class=\"error\"",
+                            html_text(line(found, report.file)));
     return html + "</ul>\n</section>\n";
 }
 
@@ -150,17 +151,17 @@ std::string html_text(std::string_view text)
     return result;
 }
 
-std::string format_html(const Evaluation& e)
+std::string format_html(const Report& report)
 {
-    const auto title = e.report.title.empty() ? e.input.file : e.report.title;
-    std::string body = messages(e);
-    for (const auto& section : e.report.sections) body += html(section);
+    const auto title = report.title.empty() ? report.file : report.title;
+    std::string body = messages(report);
+    for (const auto& section : report.sections) body += html(section);
     return filled(embedded::page, {{"title", html_text(title)},
-                                   {"file", html_text(e.input.file)},
+                                   {"file", html_text(report.file)},
                                    {"version", POLYPROPS_VERSION},
                                    {"style", std::string{embedded::style}},
                                    {"body", body},
-                                   {"data", script_data(format_json(e.report))},
+                                   {"data", script_data(format_json(report))},
                                    {"chart_library", std::string{embedded::chart_library}},
                                    {"script", std::string{embedded::charts}}});
 }

@@ -1,7 +1,7 @@
 // The report for programs. A change that breaks a reader raises the schema version; new keys do not.
 #include <nlohmann/json.hpp>
 
-#include "app/report/report.h"
+#include "app/report/format.h"
 
 namespace app {
 

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "app/report/report.h"
+#include "app/report/format.h"
 
 namespace app {
 

@@ -1,14 +1,13 @@
-// The tables of what the paragraph check and the catalyst scaling left behind. Counts, codes and places have
-// no unit, and the values that a paragraph only hands on have none that is known here.
-#include "minihost/polymer_input.h"
+// Counts, codes and places have no unit, and the values that a paragraph only hands on have none that is known
+// here.
+#include "app/report/input_tables.h"
+
 #include "app/report/columns.h"
-#include "app/report/report.h"
 
 namespace app {
 
 namespace {
 
-using minihost::Host;
 using minihost::PolymerInput;
 
 using columns::attribute;
@@ -30,7 +29,7 @@ std::string type_name(Int type)
     return std::string{names[type - 1]};
 }
 
-Table segments(const PolymerInput& built)
+Table segments(const PolymerInput& paragraph)
 {
     Table table{"segments",
                 "Segments by type",
@@ -39,7 +38,7 @@ Table segments(const PolymerInput& built)
                  {"type", "Code", ""},
                  {"position", "Place in the segment list", ""}},
                 {}};
-    for (const auto& s : built.segments) table.rows.push_back({s.id, type_name(s.type), s.type, s.position});
+    for (const auto& s : paragraph.segments) table.rows.push_back({s.id, type_name(s.type), s.type, s.position});
     return table;
 }
 
@@ -51,70 +50,67 @@ Table numbered(std::string key, std::string heading, const std::vector<std::stri
 }
 
 // Segments that an oligomer does not hold are left out; one without any still shows that it is known.
-Table make_up(const PolymerInput& built)
+Table make_up(const PolymerInput& paragraph)
 {
     Table table{"oligomers",
                 "Oligomers by their segments per molecule",
                 {component, segment, {"count", "Count", ""}},
                 {}};
-    for (const auto& oligomer : built.oligomers) {
+    for (const auto& oligomer : paragraph.oligomers) {
         const auto before = table.rows.size();
         for (std::size_t s = 0; s < oligomer.counts.size(); ++s)
             if (oligomer.counts[s] != 0)
-                table.rows.push_back({oligomer.id, built.segment_list[s], oligomer.counts[s]});
+                table.rows.push_back({oligomer.id, paragraph.segment_list[s], oligomer.counts[s]});
         if (table.rows.size() == before) table.rows.push_back({oligomer.id, std::string{}, 0.0});
     }
     return table;
 }
 
-Table catalysts(const PolymerInput& built)
+Table catalysts(const PolymerInput& paragraph)
 {
     Table table{"catalysts", "Catalysts", {component, {"value", "Value", ""}}, {}};
-    for (const auto& catalyst : built.catalysts) table.rows.push_back({catalyst.id, catalyst.value});
+    for (const auto& catalyst : paragraph.catalysts) table.rows.push_back({catalyst.id, catalyst.value});
     return table;
 }
 
-Table sites(const Case& input, const PolymerInput& built)
+Table sites(const Case& input, const PolymerInput& paragraph)
 {
     Table table{"sites", "Catalyst sites", and_carried_numbers({{"count", "Site types", ""}}), {}};
-    const auto& [count, integers, real] = built.sites;
+    const auto& [count, integers, real] = paragraph.sites;
     if (input.paragraph && input.paragraph->sites)
         table.rows.push_back({count, integers[0], integers[1], integers[2], real});
     return table;
 }
 
-Table carried_attributes(Host& host)
+Table carried_attributes(const std::vector<CarriedAttribute>& attributes)
 {
     Table table{
         "attributes", "Attributes of the components", {component, attribute, {"values", "Values", ""}}, {}};
-    for (Int c = 1; c <= host.components().count(); ++c)
-        for (const auto& carried : host.attributes().carried_by(c))
-            table.rows.push_back({host.components().at(c).id, std::string{carried.kind->name},
-                                  minihost::attribute_length(*carried.kind, host.dimensions())});
+    for (const auto& a : attributes) table.rows.push_back({a.component, a.attribute, a.values});
     return table;
 }
 
-Table attribute_layout(const PolymerInput& built)
+Table attribute_layout(const PolymerInput& paragraph)
 {
     Table table{"attribute_layout",
                 "Groups of the attribute layout",
                 {{"group", "Group", ""}, {"start", "Start", ""}, {"length", "Length", ""}},
                 {}};
-    for (const auto& [start, length] : built.attribute_layout)
+    for (const auto& [start, length] : paragraph.attribute_layout)
         table.rows.push_back({static_cast<Int>(table.rows.size()) + 1, start, length});
     return table;
 }
 
-Table distributions(const PolymerInput& built)
+Table distributions(const PolymerInput& paragraph)
 {
     Table table{
         "distributions", "Distribution requests", and_carried_numbers({component, {"type", "Type", ""}}), {}};
-    for (const auto& [polymer, type, integers, real] : built.distributions)
+    for (const auto& [polymer, type, integers, real] : paragraph.distributions)
         table.rows.push_back({polymer, type, integers[0], integers[1], integers[2], real});
     return table;
 }
 
-Table catalyst_scaling(const Case& input, Host& host)
+Table catalyst_scaling(const std::vector<ScaledElement>& elements)
 {
     Table table{"catalyst_scaling",
                 "Scaled catalyst attributes",
@@ -124,41 +120,25 @@ Table catalyst_scaling(const Case& input, Host& host)
                  {"first", "First value", ""},
                  {"second", "Second value", ""}},
                 {}};
-    for (const auto& entry : input.catalyst_scaling) {
-        const auto index = host.components().index(entry.component.id);
-        // Not carried, and reported with a severity that the case does not print.
-        if (!host.attributes().find(index, entry.attribute.id)) continue;
-        const auto values = [&](Int column) {
-            return host.attribute_blocks().values(index, entry.attribute.id, column);
-        };
-        const auto first = values(3);
-        const auto second = values(1);
-        for (std::size_t e = 0; e < first.size(); ++e)
-            table.rows.push_back(
-                {entry.component.id, entry.attribute.id, static_cast<Int>(e) + 1, first[e], second[e]});
-    }
+    for (const auto& e : elements) table.rows.push_back({e.component, e.attribute, e.element, e.first, e.second});
     return table;
 }
 
 }  // namespace
 
-Report make_input_report(const Case& input, const CheckedInput& checked)
+std::vector<Table> input_tables(const Case& input, const InputResults& results)
 {
-    Report report{input.title, input.file, checked.messages, {}, {}};
-    if (!checked.messages.empty()) return report;
-    auto& host = *checked.host;
-    const auto built = minihost::read_polymer_input(host);
-    report.input = {segments(built),
-                    numbered("polymers", "Polymers", built.polymers),
-                    make_up(built),
-                    catalysts(built),
-                    numbered("initiators", "Initiators", built.initiators),
-                    sites(input, built),
-                    carried_attributes(host),
-                    attribute_layout(built),
-                    distributions(built),
-                    catalyst_scaling(input, host)};
-    return report;
+    const auto& paragraph = results.polymer_input;
+    return {segments(paragraph),
+            numbered("polymers", "Polymers", paragraph.polymers),
+            make_up(paragraph),
+            catalysts(paragraph),
+            numbered("initiators", "Initiators", paragraph.initiators),
+            sites(input, paragraph),
+            carried_attributes(results.attributes),
+            attribute_layout(paragraph),
+            distributions(paragraph),
+            catalyst_scaling(results.catalyst_scaling)};
 }
 
 }  // namespace app

@@ -1,67 +1,37 @@
 #include "app/report/output_files.h"
 
 #include <fmt/format.h>
-#include <polyprops/host.h>
-#include <polyprops/polyprops.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <stdexcept>
 
-#include "app/report/format_html.h"
+#include "app/report/format.h"
 #include "app/report/result_numbers.h"
-#include "app/evaluation/stream_moments.h"
-#include "app/io/whole_file.h"
 
 namespace app {
 
 namespace {
 
-using minihost::Host;
-
-// Lines of the text form on the pages of the report file.
-void write_pages(const std::string& text, Host& host)
+// The text form on pages of the given length.
+std::vector<minihost::ReportPage> text_pages(const std::string& text, std::size_t lines_per_page)
 {
+    std::vector<minihost::ReportPage> pages;
     std::string_view rest = text;
     while (!rest.empty()) {
         const auto line = rest.substr(0, rest.find('\n'));
         rest.remove_prefix(std::min(line.size() + 1, rest.size()));
-        host.report().reserve(1, false);
-        host.report().write_line(ST_FILES[27 - 1], std::ssize(line), line.data());
+        if (pages.empty() || pages.back().size() == lines_per_page) pages.emplace_back();
+        pages.back().emplace_back(line);
     }
+    return pages;
 }
 
-// A page cannot hold the line ends of a title.
+// A heading cannot hold the line ends of a title.
 std::string page_title(std::string title)
 {
     std::ranges::replace_if(
         title, [](char c) { return c == '\n' || c == '\r' || c == '\f'; }, ' ');
     return title;
-}
-
-bool has_polymer(const PolymerResults& results)
-{
-    return results.mass.back() > 0;
-}
-
-// Results of the site types, or of the polymer as a whole where no sites are told apart.
-void summarize(const std::string& stream, Host& host)
-{
-    const auto r = polymer_results(stream, host);
-    if (!has_polymer(r)) return;
-    const auto sites = static_cast<Int>(std::max<std::size_t>(r.mass.size() - 1, 1));
-    POLY_WRTPOLSUM(host.summary().context(stream), &sites, r.mass.data(), r.segment_weight.data(),
-                   r.mn.data(), r.mw.data(), r.dpn.data(), r.dpw.data(), r.pdi.data());
-}
-
-void publish_all(Evaluation& e)
-{
-    auto& host = *e.checked.host;
-    host.report().set_title(page_title(e.input.title));
-    host.report().set_lines_per_page(e.input.settings.lines_per_page);
-    write_pages(format_text(e.report), host);
-    for (const auto& distribution : e.distributions) publish(distribution, host);
-    for (const auto& stream : e.input.streams) summarize(stream.name.id, host);
 }
 
 // Names of distributions are free texts; those of files are not.
@@ -108,36 +78,24 @@ void check_unique(const std::vector<OutputFile>& files)
 
 }  // namespace
 
-std::vector<OutputFile> output_files(const std::string& name, Evaluation& e)
+std::string report_file(const Case& input, const Report& report, const LibraryOutput& library_output)
 {
-    publish_all(e);
-    std::vector<OutputFile> files{{name + ".rpt", e.checked.host->report().text()},
-                                  {name + ".sum", e.checked.host->summary().text()},
-                                  {name + ".csv", format_csv(e.report)},
-                                  {name + ".json", format_json(e.report)},
-                                  {name + ".html", format_html(e)}};
-    add_curves(name, e.report, files);
-    check_unique(files);
-    return files;
+    auto pages = text_pages(format_text(report), static_cast<std::size_t>(input.settings.lines_per_page));
+    pages.insert(pages.end(), library_output.report_pages.begin(), library_output.report_pages.end());
+    return minihost::page_text(page_title(input.title), pages);
 }
 
-void write_files(const std::filesystem::path& directory, const std::vector<OutputFile>& files)
+std::vector<OutputFile> output_files(const std::string& name, const Case& input, const Report& report,
+                                     const LibraryOutput& library_output)
 {
-    std::filesystem::create_directories(directory);
-    const auto staging = directory / fmt::format(".polyprops.{}.tmp", ::getpid());
-    std::filesystem::create_directory(staging);
-    try {
-        for (const auto& file : files) write_whole_file(staging / file.name, file.content);
-        for (const auto& file : files)
-            if (std::filesystem::is_directory(directory / file.name))
-                throw std::runtime_error{fmt::format("{}: cannot be written: it is a directory",
-                                                     (directory / file.name).string())};
-        for (const auto& file : files) std::filesystem::rename(staging / file.name, directory / file.name);
-    } catch (...) {
-        std::filesystem::remove_all(staging);
-        throw;
-    }
-    std::filesystem::remove(staging);
+    std::vector<OutputFile> files{{name + ".rpt", report_file(input, report, library_output)},
+                                  {name + ".sum", library_output.summary},
+                                  {name + ".csv", format_csv(report)},
+                                  {name + ".json", format_json(report)},
+                                  {name + ".html", format_html(report)}};
+    add_curves(name, report, files);
+    check_unique(files);
+    return files;
 }
 
 }  // namespace app

@@ -1,25 +1,21 @@
-// The files that a run leaves in a directory.
+// The files of a run.
 #pragma once
 
-#include <filesystem>
 #include <string>
 #include <vector>
 
-#include "app/evaluation/evaluation.h"
+#include "app/evaluation/results.h"
+#include "app/io/file_set.h"
+#include "app/report/report_model.h"
 
 namespace app {
 
-struct OutputFile {
-    std::string name;
-    std::string content;
-};
+// The text form of the report on numbered pages, then the pages of the library's own report.
+std::string report_file(const Case& input, const Report& report, const LibraryOutput& library_output);
 
 // NAME.rpt, NAME.sum, NAME.csv, NAME.json, NAME.html, and NAME.DISTRIBUTION.csv with the curves of each
-// distribution. The host's report and summary files receive what the library publishes.
-std::vector<OutputFile> output_files(const std::string& name, Evaluation& evaluation);
-
-// Writes all of them, each whole, or none: they take their names only when every one has reached the disk.
-// Makes the directory. Throws std::runtime_error with the path and the system's reason.
-void write_files(const std::filesystem::path& directory, const std::vector<OutputFile>& files);
+// distribution. Throws std::runtime_error when two files would have the same name.
+std::vector<OutputFile> output_files(const std::string& name, const Case& input, const Report& report,
+                                     const LibraryOutput& library_output);
 
 }  // namespace app

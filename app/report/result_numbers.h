@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "app/report/report.h"
+#include "app/report/report_model.h"
 
 namespace app {
 

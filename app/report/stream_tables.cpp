@@ -28,8 +28,6 @@ std::vector<Cell> row_of(std::vector<Cell> row, const std::vector<double>& numbe
     return row;
 }
 
-}  // namespace
-
 Table composition_table(const Composition& composition)
 {
     Table table{fmt::format("{}_composition", text(composition.basis)),
@@ -43,7 +41,7 @@ Table composition_table(const Composition& composition)
     return table;
 }
 
-Table closure_table(const std::vector<Composition>& compositions)
+Table closure_table(const Compositions& compositions)
 {
     Table table{"closures",
                 "Sums, and the mass flow against that of the first basis",
@@ -54,8 +52,8 @@ Table closure_table(const std::vector<Composition>& compositions)
                  columns::mass_flow,
                  {"mass_difference", "Relative difference", "1"}},
                 {}};
-    if (compositions.empty() || compositions.front().amounts.empty()) return table;
-    for (const auto& c : closures(compositions))
+    if (compositions.bases.empty() || compositions.bases.front().amounts.empty()) return table;
+    for (const auto& c : compositions.closures)
         table.rows.push_back({std::string{text(c.basis)}, c.mole_fraction_sum, c.mass_fraction_sum,
                               c.mole_flow, c.mass_flow, c.mass_difference});
     return table;
@@ -97,7 +95,7 @@ Table property_table(const std::vector<Property>& properties, const std::vector<
     return table;
 }
 
-Table polymer_made_table(const std::vector<PolymerMade>& made)
+Table polymer_made_table(const std::vector<SitePolymer>& made)
 {
     Table table{"polymer_made",
                 "Polymer made",
@@ -113,6 +111,69 @@ Table polymer_made_table(const std::vector<PolymerMade>& made)
     for (const auto& m : made)
         table.rows.push_back({m.site, m.mass_flow, m.mean_segment_weight, m.mn, m.mw, m.dpn, m.dpw, m.pdi});
     return table;
+}
+
+Table chain_averages(const std::vector<ChainAverages>& averages)
+{
+    Table table{"chain_averages",
+                "Chain averages",
+                {columns::component, columns::component_class, columns::mole_flow, columns::dpn,
+                 columns::mean_segment_weight, columns::mn, columns::mw, columns::pdi},
+                {}};
+    for (const auto& a : averages)
+        table.rows.push_back({a.component, std::string{text(a.kind)}, a.mole_flow, a.dpn,
+                              a.mean_segment_weight, a.mn, a.mw, a.pdi});
+    return table;
+}
+
+Table segment_fractions(const std::vector<SegmentShare>& shares)
+{
+    Table table{"segment_fractions",
+                "Segment fractions",
+                {columns::component, columns::segment, columns::mole_fraction, columns::mass_fraction},
+                {}};
+    for (const auto& s : shares)
+        table.rows.push_back({s.component, s.segment, s.mole_fraction, s.mass_fraction});
+    return table;
+}
+
+Section section_of_stream(const std::string& name, std::vector<Table> tables)
+{
+    return {"stream", name, "Stream " + name, {}, std::move(tables)};
+}
+
+void add_compositions(const Compositions& compositions, std::vector<Table>& tables)
+{
+    for (const auto& composition : compositions.bases) tables.push_back(composition_table(composition));
+    tables.push_back(closure_table(compositions));
+}
+
+}  // namespace
+
+Section stream_section(const StreamResults& results, const Case& input)
+{
+    std::vector<Table> tables{chain_averages(results.averages), segment_fractions(results.shares)};
+    add_compositions(results.compositions, tables);
+    tables.push_back(segment_count_table(results.segment_counts));
+    tables.push_back(chain_weight_table(results.chain_weights));
+    if (!input.properties.empty()) tables.push_back(property_table(input.properties, results.properties));
+    return section_of_stream(results.stream, std::move(tables));
+}
+
+Section conversion_section(const std::string& stream, const Compositions& compositions)
+{
+    std::vector<Table> tables;
+    add_compositions(compositions, tables);
+    return section_of_stream(stream, std::move(tables));
+}
+
+Section reactor_section(const ReactorResults& results)
+{
+    return {"reactor",
+            results.reactor,
+            fmt::format("Reactor {}, from {} to {}", results.reactor, results.inlet, results.outlet),
+            {{"inlet", results.inlet}, {"outlet", results.outlet}},
+            {polymer_made_table(results.made)}};
 }
 
 }  // namespace app

@@ -1,17 +1,16 @@
-// The tables of what is known of a stream beside its chain averages, and of a reactor.
+// The sections of streams and reactors.
 #pragma once
 
-#include <vector>
-
-#include "app/report/report.h"
+#include "app/evaluation/reactors.h"
+#include "app/evaluation/stream_results.h"
+#include "app/report/report_model.h"
 
 namespace app {
 
-Table composition_table(const Composition& composition);
-Table closure_table(const std::vector<Composition>& compositions);
-Table segment_count_table(const SegmentCountMatrix& matrix);
-Table chain_weight_table(const std::vector<WeightComparison>& weights);
-Table property_table(const std::vector<Property>& properties, const std::vector<ChainProperties>& values);
-Table polymer_made_table(const std::vector<PolymerMade>& made);
+Section stream_section(const StreamResults& results, const Case& input);
+Section reactor_section(const ReactorResults& results);
+
+// The composition of a stream on two bases.
+Section conversion_section(const std::string& stream, const Compositions& compositions);
 
 }  // namespace app

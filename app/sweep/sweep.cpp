@@ -2,7 +2,6 @@
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <csignal>
@@ -11,9 +10,10 @@
 #include <thread>
 #include <unordered_map>
 
-#include "app/case/case_reader.h"
+#include "app/case/case_document.h"
 #include "app/evaluation/evaluation.h"
 #include "app/io/file_contents.h"
+#include "app/report/make_report.h"
 #include "app/report/result_numbers.h"
 #include "app/sweep/process_pool.h"
 #include "app/sweep/sweep_grid.h"
@@ -56,6 +56,14 @@ std::string one_line(const std::vector<std::string>& lines)
     return text;
 }
 
+std::vector<std::string> error_lines(const Report& report)
+{
+    std::vector<std::string> lines;
+    for (const auto& found : report.diagnostics)
+        if (found.severity != Severity::warning) lines.push_back(line(found, report.file));
+    return lines;
+}
+
 // Curves are left out: their rows have no names that hold from case to case.
 std::vector<Number> swept_numbers(const Report& report)
 {
@@ -67,7 +75,10 @@ std::vector<Number> swept_numbers(const Report& report)
 class Sweep {
 public:
     Sweep(const SweepOptions& options, SweepGrid grid)
-        : options_(options), grid_(std::move(grid)), text_(file_contents(options.file))
+        : options_(options),
+          grid_(std::move(grid)),
+          text_(file_contents(options.file)),
+          document_(text_, options.file.string())
     {
     }
 
@@ -81,14 +92,12 @@ public:
                 if (outcome.result->starts_with('!')) throw std::runtime_error{outcome.result->substr(1)};
                 add_columns(*outcome.result);
             });
-        Diagnostics ignored;
-        parse_case(text_, options_.file.string(), ignored, grid_.overrides(0));  // keys that lead nowhere
+        for (const auto& range : grid_.ranges()) document_.number(range.key);  // keys that lead nowhere
     }
 
-    int run(std::FILE* errors)
+    SweepOutcome run(const SweepProgress& progress)
     {
         SweepJournal journal{options_.out, signature(), header()};
-        const bool is_shown = ::isatty(::fileno(errors)) != 0;
         std::vector<std::size_t> missing;
         for (std::size_t number = 1; number <= grid_.size(); ++number)
             if (!journal.rows().contains(number)) missing.push_back(number);
@@ -98,9 +107,9 @@ public:
             [this](std::size_t number) { return row(number); },
             [&](const TaskOutcome& outcome) {
                 journal.add(outcome.task, outcome.result.value_or(failed_row(outcome.task, outcome.why)));
-                if (is_shown) show_progress(journal.rows().size(), errors);
+                progress(journal.rows().size(), grid_.size());
             });
-        return conclude(journal, errors);
+        return conclude(journal);
     }
 
 private:
@@ -110,21 +119,25 @@ private:
                                       : std::max(1U, std::thread::hardware_concurrency());
     }
 
-    Evaluation evaluate(const std::vector<Override>& overrides) const
+    Report report(const std::vector<Override>& overrides) const
     {
+        auto document = document_;
+        for (const auto& [key, value] : overrides) document.set_number(key, value);
         Diagnostics diagnostics;
-        auto input = parse_case(text_, options_.file.string(), diagnostics, overrides);
+        const auto input = document.read(diagnostics);
         if (!diagnostics.empty()) throw std::runtime_error{one_line(diagnostics.lines(input.file))};
-        return evaluate_case(std::move(input));
+        EvaluationOptions options;
+        options.library_output = false;
+        return make_report(input, evaluate(input, options));
     }
 
     std::string columns_of_case() const
     {
         try {
-            const auto evaluation = evaluate({});
-            if (!evaluation.errors.empty()) return "!" + one_line(evaluation.errors);
+            const auto made = report({});
+            if (has_errors(made)) return "!" + one_line(error_lines(made));
             std::string columns;
-            for (const auto& n : swept_numbers(evaluation.report)) columns += n.key() + "\n";
+            for (const auto& n : swept_numbers(made)) columns += n.key() + "\n";
             return columns;
         } catch (const std::exception& error) {
             return std::string{"!"} + error.what();
@@ -165,17 +178,17 @@ private:
     std::string row(std::size_t number) const
     {
         try {
-            const auto evaluation = evaluate(grid_.overrides(number - 1));
+            const auto made = report(grid_.overrides(number - 1));
             std::vector<std::string> values(columns_.size());
             std::size_t unknown = 0;
-            for (const auto& n : swept_numbers(evaluation.report)) {
+            for (const auto& n : swept_numbers(made)) {
                 const auto place = places_.find(n.key());
                 if (place == places_.end())
                     ++unknown;
                 else
                     values[place->second] = text(n.value);
             }
-            auto errors = evaluation.errors;
+            auto errors = error_lines(made);
             if (unknown > 0)
                 errors.push_back(
                     fmt::format("{} results have no column: the case as it stands lacks them", unknown));
@@ -197,54 +210,33 @@ private:
         return line;
     }
 
-    void show_progress(std::size_t done, std::FILE* errors) const
+    SweepOutcome conclude(SweepJournal& journal) const
     {
-        fmt::print(errors, "\r{} of {} cases{}", done, grid_.size(), done == grid_.size() ? "\n" : "");
-        std::fflush(errors);
-    }
-
-    int conclude(SweepJournal& journal, std::FILE* errors) const
-    {
-        const auto done = journal.rows().size();
-        if (done < grid_.size()) {
-            fmt::print(
-                errors,
-                "polyprops: interrupted after {} of {} cases; the same command goes on from there ({})\n",
-                done, grid_.size(), journal.file().string());
-            return exit_interrupted;
-        }
+        SweepOutcome outcome{grid_.size(), journal.rows().size(), 0, journal.file()};
+        if (!outcome.is_complete()) return outcome;
         journal.finish();
-        const auto failed =
-            std::ranges::count_if(journal.rows(), [](const auto& row) { return !row.second.ends_with(','); });
-        if (failed == 0) return exit_success;
-        fmt::print(errors, "polyprops: {} of {} cases failed; their rows hold the error\n", failed, done);
-        return exit_case_error;
+        const auto has_failed = [](const auto& row) { return !row.second.ends_with(','); };
+        outcome.failed = static_cast<std::size_t>(std::ranges::count_if(journal.rows(), has_failed));
+        return outcome;
     }
 
     const SweepOptions& options_;
     SweepGrid grid_;
     std::string text_;
+    CaseDocument document_;
     std::vector<std::string> columns_;
     std::unordered_map<std::string, std::size_t> places_;
 };
 
 }  // namespace
 
-int sweep(const SweepOptions& options, std::FILE* errors)
+SweepOutcome sweep(const SweepOptions& options, const SweepProgress& progress)
 {
-    try {
-        std::vector<SweepRange> ranges;
-        for (const auto& set : options.sets) ranges.push_back(parse_range(set));
-        Sweep sweep{options, SweepGrid{std::move(ranges)}};
-        sweep.learn_columns();
-        return sweep.run(errors);
-    } catch (const std::invalid_argument& error) {
-        fmt::print(errors, "polyprops: {}\n", error.what());
-        return exit_usage;
-    } catch (const std::exception& error) {
-        fmt::print(errors, "polyprops: {}\n", error.what());
-        return exit_case_error;
-    }
+    std::vector<SweepRange> ranges;
+    for (const auto& set : options.sets) ranges.push_back(parse_range(set));
+    Sweep sweep{options, SweepGrid{std::move(ranges)}};
+    sweep.learn_columns();
+    return sweep.run(progress);
 }
 
 }  // namespace app

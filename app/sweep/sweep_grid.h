@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "app/case/overrides.h"
+#include "app/case/case_document.h"
 
 namespace app {
 

@@ -1,6 +1,8 @@
 // The paragraph check as the program shows it: messages with their places, tables of what was built, and runs
 // that go on without the entries in error.
 #include "app/io/file_contents.h"
+#include "app/evaluation/input_results.h"
+#include "cli/check_command.h"
 #include "cli/program.h"
 
 namespace {
@@ -124,7 +126,7 @@ TEST(Check, ShowsWhatWasBuiltInEveryForm)
 Lines places(const std::string& text)
 {
     Lines places;
-    for (const auto& [source, hint, message] : app::check_input(parsed(text)).messages)
+    for (const auto& [source, hint, message] : app::evaluate_input(parsed(text)).messages)
         places.push_back(std::to_string(message.number) + " at " + std::to_string(source.line) + ":" +
                          std::to_string(source.column));
     return places;

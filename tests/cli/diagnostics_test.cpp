@@ -43,11 +43,11 @@ pairs = [{ components = ["P", "O"], values = [0, 0, 0, 0, 0, 300] }]
 Lines diagnose(const std::string& text)
 {
     app::Diagnostics diagnostics;
-    const auto input = app::parse_case(text, "c.toml", diagnostics);
+    const auto input = app::CaseDocument{text, "c.toml"}.read(diagnostics);
     if (!diagnostics.empty()) return diagnostics.lines("c.toml");
-    const auto checked = app::check_input(input);
-    EXPECT_TRUE(checked.messages.empty());
-    return app::add_streams(input, checked).lines("c.toml");
+    app::LoadedCase loaded{input};
+    EXPECT_TRUE(loaded.messages().empty());
+    return loaded.add_streams(input).lines("c.toml");
 }
 
 TEST(CaseDiagnostics, NamePlaceKeyValueAndExpectation)

@@ -10,7 +10,7 @@ const std::string head = "[components]\nP = { molecular_weight = 100 }\nQ = { mo
 app::DistributionResults distribution(const std::string& text)
 {
     return evaluated(head + "[distributions.D]\npoints = 200\nlongest_chain = 1e5\n" + text)
-        .distributions.front();
+        .results.distributions.front();
 }
 
 const app::Curve& curve(const app::DistributionResults& results, const std::string& name)
@@ -79,13 +79,14 @@ TEST(Distribution, SaysWhatTheGridCutsOffAndThatASiteMadeNothing)
     const auto e = evaluated(head +
                              "[distributions.D]\npoints = 50\nlongest_chain = 1000\n"
                              "sites = [{ tau = 0.001, amount = 1 }, { tau = 0.1, amount = 0 }]\n");
-    EXPECT_TRUE(e.errors.empty());
-    ASSERT_EQ(e.notes.size(), 2u);
-    EXPECT_EQ(e.notes.front().find("c.toml: distributions.D: site 1 has Pn "), 0u) << e.notes.front();
-    const auto& idle = curve(e.distributions.front(), "site 2").averages;
+    EXPECT_FALSE(has_errors(e.report));
+    const auto warnings = e.diagnostics();
+    ASSERT_EQ(warnings.size(), 2u);
+    EXPECT_EQ(warnings.front().find("c.toml:4:16: distributions.D: site 1 has Pn "), 0u) << warnings.front();
+    const auto& idle = curve(e.results.distributions.front(), "site 2").averages;
     EXPECT_EQ(idle.area, 0);
     EXPECT_EQ(idle.pn, 0);
-    EXPECT_EQ(e.distributions.front().checks.size(), 2u);  // neither the idle site nor a sum of one
+    EXPECT_EQ(e.results.distributions.front().checks.size(), 2u);  // neither the idle site nor a sum of one
 }
 
 TEST(Parameters, CompletesByTheSymmetryOfThePositionAndEvaluatesEachForm)

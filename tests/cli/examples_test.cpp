@@ -89,8 +89,8 @@ TEST(Examples, GiveTheNumbersThatTheirCommentsDerive)
     for (const auto& r : rows) {
         SCOPED_TRACE(r.path);
         app::Diagnostics diagnostics;
-        const auto e =
-            app::evaluate_case(app::read_case(examples / (std::string{r.example} + ".toml"), diagnostics));
+        const auto file = examples / (std::string{r.example} + ".toml");
+        const auto e = evaluated(app::CaseDocument::from_file(file).read(diagnostics));
         EXPECT_NEAR(number(e, r.path), r.value, 1e-9 * std::abs(r.value));
     }
 }

@@ -21,7 +21,7 @@ TEST(MeasuredCurve, ReadsBothSeparatorsAndKeepsHeaderLinesAsNotes)
         "run 17, THF\r\nmolecular_weight,signal\r\n4000 -0.25\r\n2000\t+1.5\r\n  1000   0.5  ",
     };
     for (const auto& text : texts) {
-        const auto curve = app::parse_gpc(text, "m.txt");
+        const auto curve = app::parse_measured_curve(text, "m.txt");
         EXPECT_EQ(curve.notes, (std::vector<std::string>{"run 17, THF", "molecular_weight,signal"}));
         EXPECT_EQ(curve.molecular_weight, (std::vector<double>{1000, 2000, 4000}));
         EXPECT_EQ(curve.signal, (std::vector<double>{0.5, 1.5, -0.25}));
@@ -57,10 +57,8 @@ TEST(MeasuredCurve, AnExportedCompositeComesBackWithoutResidual)
 // Signals 1 and 3 at 10 000 and 100 000 g/mol: one trapezoid of area 2 over one decade.
 TEST(MeasuredCurve, ResidualComparesCurvesOfAreaOne)
 {
-    app::DistributionResults flat{"D", true, 100.0, {}, {}, {}, {}};
-    flat.lengths = {100, 1000};
-    flat.curves.push_back({"composite", app::Curve::Kind::composite, 1, {5, 5}, {}});
-    const auto c = app::compare(app::parse_gpc("10000 1\n100000 3\n", "m.txt"), "m.txt", flat);
+    const app::CompositeCurve flat{"D", true, 100.0, {100, 1000}, {5, 5}};
+    const auto c = app::compare(app::parse_measured_curve("10000 1\n100000 3\n", "m.txt"), flat);
     EXPECT_DOUBLE_EQ(c.measured[0], 0.5);
     EXPECT_DOUBLE_EQ(c.measured[1], 1.5);
     EXPECT_DOUBLE_EQ(c.calculated[0], 1);

@@ -1,9 +1,8 @@
 #include "app/report/output_files.h"
 
 #include "app/io/file_contents.h"
-#include "app/report/format_html.h"
 #include "cli/program.h"
-#include "cli/selfcheck.h"
+#include "cli/selfcheck_command.h"
 
 namespace {
 
@@ -25,6 +24,11 @@ protected:
 
     std::filesystem::path path = support::scratch() / "polyprops_out";
 };
+
+std::vector<app::OutputFile> files_of(const Evaluation& e)
+{
+    return app::output_files("n", e.input, e.report, e.results.library_output);
+}
 
 std::size_t count(const std::string& text, const std::string& part)
 {
@@ -71,20 +75,17 @@ TEST_F(OutputDirectory, KeepsDistributionsApart)
 {
     const std::string curve = "points = 2\nlongest_chain = 9\nsites = [{ tau = 1, amount = 1 }]\n";
     const auto text = "[components]\nP = { molecular_weight = 1 }\n[distributions.\"A 1\"]\n" + curve;
-    auto good = evaluated(text);
-    EXPECT_EQ(app::output_files("n", good).back().name, "n.A_1.csv");
-    good = {};
-    auto bad = evaluated(text + "[distributions.A_1]\n" + curve);
-    EXPECT_THROW(app::output_files("n", bad), std::runtime_error);
+    EXPECT_EQ(files_of(evaluated(text)).back().name, "n.A_1.csv");
+    EXPECT_THROW(files_of(evaluated(text + "[distributions.A_1]\n" + curve)), std::runtime_error);
 }
 
 TEST(Pages, HoldAsManyLinesAsTheCaseSays)
 {
-    auto e = evaluated(
+    const auto e = evaluated(
         "title = \"Two\\nlines\"\n[settings]\nlines_per_page = 5\n"
         "[components]\nP = { molecular_weight = 1 }\n[parameters.S]\ncomponents = [\"P\"]\ntemperatures = "
         "[300]\n");
-    const auto report = app::output_files("n", e).front().content;
+    const auto report = files_of(e).front().content;
     EXPECT_EQ(report.find("Two lines "), 0u);
     std::istringstream pages{report};
     for (std::string page; std::getline(pages, page, '\f');) EXPECT_LE(count(page, "\n"), 5 + 2u) << page;
@@ -93,11 +94,11 @@ TEST(Pages, HoldAsManyLinesAsTheCaseSays)
 
 TEST(Html, EscapesEveryText)
 {
-    auto e = evaluated(
+    const auto e = evaluated(
         "title = \"</title><script>alert(1)</script>&\\\"\"\n[components]\nP = { molecular_weight = 1 }\n"
         "[distributions.\"<b>\"]\npoints = 2\nlongest_chain = 9\nsites = [{ name = \"</script>\", tau = 1, "
         "amount = 1 }]\n");
-    const auto html = app::format_html(e);
+    const auto html = app::format_html(e.report);
     EXPECT_EQ(html.find("<script>alert"), std::string::npos);
     EXPECT_EQ(html.find("<b>"), std::string::npos);
     EXPECT_NE(html.find("&lt;/title&gt;&lt;script&gt;alert(1)&lt;/script&gt;&amp;&quot;"), std::string::npos);

@@ -7,16 +7,17 @@
 #include <map>
 #include <nlohmann/json.hpp>
 
-#include "app/case/case_reader.h"
-#include "cli/commands.h"
+#include "app/case/case_document.h"
 #include "app/evaluation/evaluation.h"
+#include "app/report/make_report.h"
 #include "app/report/result_numbers.h"
+#include "cli/run_command.h"
 #include "support/capture.h"
 #include "support/files.h"
 
 namespace cli_test {
 
-using cli::Format;
+using app::Format;
 using support::Outcome;
 using Json = nlohmann::json;
 using Lines = std::vector<std::string>;
@@ -34,20 +35,20 @@ struct File {
     const std::filesystem::path path;
 };
 
-inline Outcome run(const std::filesystem::path& file, Format format)
-{
-    return support::capture(cli::run, file, format);
-}
-
-// A run with options, of which `file` and `format` hold as well.
+// A run with options, of which `file` and `format` are set here.
 inline Outcome run(cli::RunOptions options, const std::filesystem::path& file, Format format)
 {
     const auto command = [&](const auto& path, Format form, std::FILE* out, std::FILE* errors) {
         options.file = path;
         options.format = form;
-        return cli::run_case(options, out, errors);
+        return cli::run(options, out, errors);
     };
     return support::capture(command, file, format);
+}
+
+inline Outcome run(const std::filesystem::path& file, Format format)
+{
+    return run(cli::RunOptions{}, file, format);
 }
 
 inline Json run_json(const std::filesystem::path& file)
@@ -69,18 +70,39 @@ inline std::string with(std::string text, const std::string& old, const std::str
 inline app::Case parsed(const std::string& text)
 {
     app::Diagnostics diagnostics;
-    auto input = app::parse_case(text, "c.toml", diagnostics);
+    auto input = app::CaseDocument{text, "c.toml"}.read(diagnostics);
     EXPECT_TRUE(diagnostics.empty()) << diagnostics.lines("c.toml").front();
     return input;
 }
 
-inline app::Evaluation evaluated(const std::string& text)
+struct Evaluation {
+    app::Case input;
+    app::Results results;
+    app::Report report;
+
+    // One line for each diagnostic of the report.
+    Lines diagnostics() const
+    {
+        Lines lines;
+        for (const auto& found : report.diagnostics) lines.push_back(line(found, report.file));
+        return lines;
+    }
+};
+
+inline Evaluation evaluated(app::Case input)
 {
-    return app::evaluate_case(parsed(text));
+    auto results = app::evaluate(input);
+    auto report = app::make_report(input, results);
+    return {std::move(input), std::move(results), std::move(report)};
+}
+
+inline Evaluation evaluated(const std::string& text)
+{
+    return evaluated(parsed(text));
 }
 
 // The number of a report at the path that a sweep heads its column with.
-inline double number(const app::Evaluation& e, const std::string& path)
+inline double number(const Evaluation& e, const std::string& path)
 {
     for (const auto& n : app::numbers(e.report))
         if (n.key() == path) return std::get<double>(n.value);

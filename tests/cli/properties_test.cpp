@@ -57,10 +57,10 @@ TEST(Properties, AreAveragedAsTheCaseAsks)
 // A chain without segments weighs nothing as well: nothing else may come out as not a number.
 TEST(Properties, ThatAreNotFiniteAreReported)
 {
-    EXPECT_EQ(evaluated(with(good, "{ B-R = 2 }", "{ B-R = 0 }")).errors,
-              Lines{"c.toml: streams.S: V of O is nan; expected a finite result"});
-    EXPECT_EQ(evaluated(with(good, "A-R = 10", "A-R = 1e308")).errors,
-              Lines{"c.toml: streams.S: V of P is inf; expected a finite result"});
+    EXPECT_EQ(evaluated(with(good, "{ B-R = 2 }", "{ B-R = 0 }")).diagnostics(),
+              Lines{"c.toml:12:10: streams.S: V of O is nan; expected a finite result"});
+    EXPECT_EQ(evaluated(with(good, "A-R = 10", "A-R = 1e308")).diagnostics(),
+              Lines{"c.toml:12:10: streams.S: V of P is inf; expected a finite result"});
 }
 
 // The segments of P weigh 87.5 g/mol on average: its 100 kg/h become 109.375 of 218 on the segment basis.

@@ -1,4 +1,4 @@
-#include "app/evaluation/bases.h"
+#include "cli/convert_command.h"
 #include "cli/program.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "app/sweep/sweep.h"
+#include "cli/sweep_command.h"
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -42,7 +42,7 @@ protected:
     Outcome sweep() const
     {
         const support::Capture errors;
-        const int status = app::sweep(options, errors.file);
+        const int status = cli::sweep(options, errors.file);
         return {status, "", errors.text()};
     }
 
@@ -135,7 +135,7 @@ TEST_F(SweepFiles, AnInterruptionEndsItWithTheRowsThatItHas)
     }
     const auto seen = sweep();
     ::waitpid(user, nullptr, 0);
-    EXPECT_EQ(seen.status, app::exit_interrupted);
+    EXPECT_EQ(seen.status, cli::exit_interrupted);
     const auto kept = std::ranges::count(support::content(partial), '\n') - 2;
     EXPECT_EQ(seen.errors, "polyprops: interrupted after " + std::to_string(kept) +
                                " of 100000 cases; the same command goes on from there (" + partial.string() +

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-#include "cli/commands.h"
+#include "app/report/format.h"
 
 namespace support {
 
@@ -30,7 +30,7 @@ struct Outcome {
 };
 
 template <typename Command>
-Outcome capture(const Command& command, const std::filesystem::path& file, cli::Format format)
+Outcome capture(const Command& command, const std::filesystem::path& file, app::Format format)
 {
     Capture out;
     Capture errors;

@@ -1,4 +1,4 @@
-#include "app/case/overrides.h"
+#include "app/case/case_document.h"
 
 #include <fmt/format.h>
 
@@ -7,6 +7,9 @@
 #include <cmath>
 #include <optional>
 #include <stdexcept>
+
+#include "app/case/case_reader.h"
+#include "app/io/file_contents.h"
 
 namespace app {
 
@@ -86,16 +89,79 @@ toml::node* child(toml::node& node, KeyPath& path)
     return table ? table->get(path.take_name()) : nullptr;
 }
 
-}  // namespace
-
-void apply(const Override& change, toml::table& root)
+toml::node* find_number(toml::table& root, const std::string& key, toml::node*& parent)
 {
-    KeyPath path{change.key};
-    toml::node* parent = &root;
+    KeyPath path{key};
+    parent = &root;
     toml::node* node = &root;
     while (node && !path.at_end()) node = child(*(parent = node), path);
-    if (!node || !node->is_number()) refuse(change.key, "leads to no number of the case");
-    assign(*parent, *node, change.value);
+    if (!node || !node->is_number()) refuse(key, "leads to no number of the case");
+    return node;
+}
+
+void collect(const toml::node& node, const std::string& key, std::vector<SourcePosition>& found)
+{
+    if (node.is_number()) {
+        const auto at = node.source().begin;
+        found.push_back({at.line, at.column, key});
+    } else if (const auto* table = node.as_table()) {
+        for (const auto& [name, value] : *table) collect(value, joined(key, name.str()), found);
+    } else if (const auto* array = node.as_array()) {
+        std::size_t number = 0;
+        for (const auto& element : *array) collect(element, fmt::format("{}[{}]", key, ++number), found);
+    }
+}
+
+}  // namespace
+
+CaseDocument::CaseDocument(std::string_view text, std::string file) : file_(std::move(file))
+{
+    try {
+        root_ = toml::parse(text);
+    } catch (const toml::parse_error& error) {
+        const auto at = error.source().begin;
+        syntax_errors_.add({at.line, at.column}, fmt::format("{}", error.description()));
+    }
+}
+
+CaseDocument CaseDocument::from_file(const std::filesystem::path& file)
+{
+    return {file_contents(file), file.string()};
+}
+
+std::vector<std::string> CaseDocument::keys() const
+{
+    std::vector<SourcePosition> found;
+    collect(root_, "", found);
+    std::ranges::stable_sort(found);
+    std::vector<std::string> keys;
+    keys.reserve(found.size());
+    for (auto& at : found) keys.push_back(std::move(at.key));
+    return keys;
+}
+
+double CaseDocument::number(const std::string& key) const
+{
+    toml::node* parent = nullptr;
+    // The search changes nothing; toml++ has no path through const and mutable nodes alike.
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
+    return *find_number(const_cast<toml::table&>(root_), key, parent)->value<double>();
+}
+
+void CaseDocument::set_number(const std::string& key, double value)
+{
+    toml::node* parent = nullptr;
+    auto* node = find_number(root_, key, parent);
+    assign(*parent, *node, value);
+}
+
+Case CaseDocument::read(Diagnostics& diagnostics) const
+{
+    diagnostics = syntax_errors_;
+    if (diagnostics.empty()) return read_case(root_, file_, diagnostics);
+    Case failed;
+    failed.file = file_;
+    return failed;
 }
 
 }  // namespace app

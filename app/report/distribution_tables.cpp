@@ -1,4 +1,4 @@
-#include "app/report/curve_tables.h"
+#include "app/report/distribution_tables.h"
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>
@@ -29,8 +29,8 @@ Table averages(const DistributionResults& results)
         auto& row =
             table.rows.emplace_back(std::vector<Cell>{curve.name, curve.amount, a.area, a.pn, a.pw, a.pdi});
         if (!results.segment_weight) continue;
-        row.emplace_back(a.pn * *results.segment_weight);
-        row.emplace_back(a.pw * *results.segment_weight);
+        row.emplace_back(a.mn);
+        row.emplace_back(a.mw);
     }
     return table;
 }
@@ -63,14 +63,14 @@ Table curves(const DistributionResults& results)
     for (const auto& curve : results.curves) table.columns.push_back({curve.name, curve.name, "1"});
     for (std::size_t k = 0; k < results.lengths.size(); ++k) {
         auto& row = table.rows.emplace_back(std::vector<Cell>{results.lengths[k]});
-        if (results.segment_weight) row.emplace_back(results.lengths[k] * *results.segment_weight);
+        if (results.segment_weight) row.emplace_back(results.molecular_weights[k]);
         row.emplace_back(results.cumulative[k]);
         for (const auto& curve : results.curves) row.emplace_back(curve.values[k]);
     }
     return table;
 }
 
-Table fit(const GpcComparison& gpc)
+Table fit(const MeasuredComparison& gpc)
 {
     return {"gpc_comparison",
             "Measured curve against the composite",
@@ -86,7 +86,7 @@ Table fit(const GpcComparison& gpc)
               gpc.mn_measured, gpc.mn_calculated, gpc.mw_measured, gpc.mw_calculated}}};
 }
 
-Table measured_curve(const GpcComparison& gpc)
+Table measured_curve(const MeasuredComparison& gpc)
 {
     Table table{"gpc_curve",
                 "Measured curve",
@@ -103,82 +103,20 @@ Table measured_curve(const GpcComparison& gpc)
     return table;
 }
 
-std::vector<Cell> coefficient_row(const ParameterResults& results, std::size_t i, std::size_t j)
-{
-    const auto at = results.pair(i, j);
-    std::vector<Cell> row{results.components[i], results.components[j]};
-    for (std::size_t l = 0; l < results.positions; ++l)
-        row.emplace_back(results.coefficients[at * results.positions + l]);
-    row.emplace_back(std::string{results.is_given[at] ? "given" : "completed"});
-    return row;
-}
-
-Table coefficients(const ParameterResults& results)
-{
-    Table table{"binary_coefficients",
-                "Coefficients by position, completed",
-                {columns::component, {"partner", "Partner", ""}},
-                {}};
-    for (std::size_t l = 1; l <= results.positions; ++l)
-        table.columns.push_back({fmt::format("p{}", l), fmt::format("P{}", l), results.unit});
-    table.columns.push_back({"origin", "Origin", ""});
-    for (std::size_t i = 0; i < results.components.size(); ++i)
-        for (std::size_t j = 0; j < results.components.size(); ++j)
-            if (i != j && (results.is_given[results.pair(i, j)] || results.is_given[results.pair(j, i)]))
-                table.rows.push_back(coefficient_row(results, i, j));
-    return table;
-}
-
-// One square after the other: a row for each temperature and first component, a column for each second
-// component.
-Table squares(const ParameterResults& results, std::string key, std::string heading, const std::string& unit,
-              const PairMatrix& (*matrix)(const ParametersAtTemperature&))
-{
-    Table table{
-        std::move(key), std::move(heading), {{"temperature", "Temperature", "K"}, columns::component}, {}};
-    for (const auto& component : results.components) table.columns.push_back({component, component, unit});
-    for (const auto& at : results.temperatures)
-        for (std::size_t i = 0; i < results.components.size(); ++i) {
-            auto& row = table.rows.emplace_back(std::vector<Cell>{at.temperature, results.components[i]});
-            for (std::size_t j = 0; j < results.components.size(); ++j)
-                row.emplace_back(matrix(at)[results.pair(i, j)]);
-        }
-    return table;
-}
-
 }  // namespace
 
-Section distribution_section(const DistributionResults& results, const GpcComparison* measured)
+Section distribution_section(const DistributionResults& results)
 {
     Section section{"distribution",
                     results.name,
                     "Distribution " + results.name,
                     {{"form", results.is_gpc ? "gpc" : "weight-fraction"}},
                     {averages(results), checks(results), curves(results)}};
-    if (measured) {
+    if (const auto& measured = results.measured) {
         section.facts.emplace_back("gpc_notes", fmt::format("{}", fmt::join(measured->notes, "\n")));
         section.tables.insert(section.tables.end() - 1, fit(*measured));
         section.tables.push_back(measured_curve(*measured));
     }
-    return section;
-}
-
-Section parameter_section(const ParameterResults& results)
-{
-    const auto per_kelvin = results.unit == "1" ? "1/K" : results.unit + "/K";
-    Section section{"parameter",
-                    results.name,
-                    "Binary parameters " + results.name,
-                    {},
-                    {coefficients(results),
-                     squares(results, "binary_parameters", "Parameters", results.unit,
-                             [](const auto& at) -> const PairMatrix& { return at.values; }),
-                     squares(results, "binary_parameter_slopes", "Temperature times derivative", results.unit,
-                             [](const auto& at) -> const PairMatrix& { return at.slopes; })}};
-    if (!results.temperatures.empty() && results.temperatures.front().derivatives)
-        section.tables.push_back(
-            squares(results, "binary_parameter_derivatives", "Derivatives", per_kelvin,
-                    [](const auto& at) -> const PairMatrix& { return *at.derivatives; }));
     return section;
 }
 

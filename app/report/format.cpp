@@ -1,0 +1,32 @@
+#include "app/report/format.h"
+
+#include <fmt/format.h>
+
+#include "app/evaluation/evaluation.h"
+
+namespace app {
+
+std::string formatted(const Report& report, Format format)
+{
+    switch (format) {
+        case Format::text:
+            return format_text(report);
+        case Format::csv:
+            return format_csv(report);
+        case Format::json:
+            return format_json(report);
+    }
+    return {};
+}
+
+std::string format_measured_curve(const DistributionResults& distribution)
+{
+    auto text =
+        fmt::format("# composite of the distribution {}, {} g/mol per segment\nmolecular_weight,signal\n",
+                    distribution.name, required_segment_weight(distribution));
+    for (std::size_t k = 0; k < distribution.lengths.size(); ++k)
+        text += fmt::format("{},{}\n", distribution.molecular_weights[k], distribution.chromatogram[k]);
+    return text;
+}
+
+}  // namespace app

@@ -1,0 +1,44 @@
+#include "cli/command.h"
+
+#include <fmt/format.h>
+
+#include <stdexcept>
+
+#include "app/case/case_document.h"
+
+namespace cli {
+
+void write(const std::string& text, std::FILE* out)
+{
+    if (std::fwrite(text.data(), 1, text.size(), out) != text.size() || std::fflush(out) != 0)
+        throw std::runtime_error{"the results cannot be written"};
+}
+
+void print(const std::vector<app::Diagnostic>& diagnostics, const std::string& file, std::FILE* errors)
+{
+    for (const auto& diagnostic : diagnostics) fmt::print(errors, "{}\n", line(diagnostic, file));
+}
+
+std::optional<app::Case> read(const std::filesystem::path& file, std::FILE* errors)
+{
+    app::Diagnostics diagnostics;
+    auto input = app::CaseDocument::from_file(file).read(diagnostics);
+    print(diagnostics.sorted(), input.file, errors);
+    if (!diagnostics.empty()) return {};
+    return input;
+}
+
+int show(const app::Report& report, app::Format format, std::FILE* out, std::FILE* errors)
+{
+    print(report.diagnostics, report.file, errors);
+    write(formatted(report, format), out);
+    return has_errors(report) ? exit_case_error : exit_success;
+}
+
+int refuse(const std::string& why, std::FILE* errors)
+{
+    fmt::print(errors, "polyprops: {}\n", why);
+    return exit_usage;
+}
+
+}  // namespace cli

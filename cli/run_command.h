@@ -1,0 +1,22 @@
+// The command `run`: prints the results of a case.
+#pragma once
+
+#include "cli/command.h"
+
+namespace cli {
+
+struct RunOptions {
+    std::filesystem::path file;
+    app::Format format = app::Format::text;
+    std::optional<std::filesystem::path> out;         // directory for the files of the run
+    std::optional<std::filesystem::path> gpc;         // measured curve to compare a composite with
+    std::optional<std::filesystem::path> export_gpc;  // file for a composite in the same form
+    std::string distribution;                         // whose composite; empty: the only one
+};
+
+// Results go to `out`, errors, messages and warnings to `errors`: one line for each error of the file, which
+// end the command, and the messages of the library's input checks, which drop the entry they name. The exit
+// status tells of both.
+int run(const RunOptions& options, std::FILE* out, std::FILE* errors);
+
+}  // namespace cli

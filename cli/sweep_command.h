@@ -1,0 +1,14 @@
+// The command `sweep`: a case with every combination of given numbers.
+#pragma once
+
+#include <cstdio>
+
+#include "app/sweep/sweep.h"
+#include "cli/exit_status.h"
+
+namespace cli {
+
+// The exit status tells that a case failed or that the sweep was interrupted.
+int sweep(const app::SweepOptions& options, std::FILE* errors);
+
+}  // namespace cli

@@ -1,0 +1,156 @@
+// Cases for C and every language that calls C: reads a case, changes its numbers, runs it, returns results.
+//
+// libpolyprops-case contains the application, an embedded host and the 70 routines: nothing else has to be
+// loaded, and no process simulator is needed.
+//
+//   polyprops_case* blend = polyprops_case_from_file("blend.toml");
+//   polyprops_case_set(blend, "streams.BLEND.attributes.PS.ZMOM", 0.15);
+//   polyprops_run* run = polyprops_case_run(blend);
+//   double mw;
+//   if (polyprops_run_number(run, "streams.BLEND.chain_averages.PS.mw", &mw) == POLYPROPS_OK) …
+//   polyprops_run_free(run);
+//   polyprops_case_free(blend);
+//
+// Failures. Nothing here prints, exits or throws. A function that makes a handle returns NULL only when there
+// is no memory for the handle itself; every other failure is kept in the handle: its status, and its
+// diagnostics with file, line, column, key and text. All functions accept a NULL handle and then report
+// POLYPROPS_OUT_OF_MEMORY, so that one check at the end is enough.
+//
+// Pointers. Texts and arrays belong to the handle that returned them. They stay valid until that handle is
+// freed, except where a comment says otherwise.
+//
+// Threads. Different handles may be used by different threads at the same time; one handle by one thread at a
+// time. Runs of one process take turns, since there is one embedded host.
+//
+// Units are those of the case file: kmol/h, kg/h, g/mol, K.
+#pragma once
+
+#include <stddef.h>
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+// A case: its text, parsed, with its numbers.
+typedef struct polyprops_case polyprops_case;
+
+// The results of one run. A run is independent of the case that it came from, which may be changed or freed.
+typedef struct polyprops_run polyprops_run;
+
+enum polyprops_status {
+    POLYPROPS_OK = 0,
+    POLYPROPS_CASE_ERROR = 1,    // the diagnostics say what is wrong; results may still be there
+    POLYPROPS_NOT_FOUND = 2,     // no such key or entry
+    POLYPROPS_OUT_OF_MEMORY = 3
+};
+
+enum polyprops_severity {
+    POLYPROPS_ERROR = 0,
+    POLYPROPS_MESSAGE = 1,  // one of the library's input messages: the entry that it names was dropped
+    POLYPROPS_WARNING = 2
+};
+
+typedef struct polyprops_diagnostic {
+    int severity;      // a polyprops_severity
+    const char* file;  // name of the case
+    uint32_t line;     // from 1
+    uint32_t column;   // from 1
+    const char* key;   // such as "streams.FEED.attributes.PS.ZMOM"; "" for the case as a whole
+    const char* text;  // messages have several lines, separated by '\n'
+} polyprops_diagnostic;
+
+// The version of the library, such as "0.1.0".
+const char* polyprops_version(void);
+
+// ---- cases ----
+
+// A case from TOML text of `size` bytes. `name` is the file that diagnostics name. Neither is kept.
+polyprops_case* polyprops_case_from_text(const char* text, size_t size, const char* name);
+
+// A case from a file.
+polyprops_case* polyprops_case_from_file(const char* path);
+
+// Frees a case and all that it returned. NULL is allowed.
+void polyprops_case_free(polyprops_case* handle);
+
+// POLYPROPS_OK while the case as it is now has no error.
+int polyprops_case_status(const polyprops_case* handle);
+
+// Errors of the case as it is now, in the order of the file. An entry is valid until the case is changed.
+size_t polyprops_case_diagnostic_count(const polyprops_case* handle);
+int polyprops_case_diagnostic(const polyprops_case* handle, size_t index, polyprops_diagnostic* diagnostic);
+
+// Keys of all numbers of the case, in the order of the file, as messages and sweeps write them; NULL beyond
+// the last.
+size_t polyprops_case_key_count(const polyprops_case* handle);
+const char* polyprops_case_key(const polyprops_case* handle, size_t index);
+
+// Reads or replaces a number of the case. POLYPROPS_NOT_FOUND: the key leads to no number; nothing changes.
+int polyprops_case_get(const polyprops_case* handle, const char* key, double* value);
+int polyprops_case_set(polyprops_case* handle, const char* key, double value);
+
+// Compares the composite of a distribution with a measured curve in every later run: `distribution` is its
+// name, NULL or "" for the only one. A `path` of NULL ends the comparison. POLYPROPS_CASE_ERROR: the curve
+// cannot be read, and the diagnostics of later runs say why.
+int polyprops_case_compare(polyprops_case* handle, const char* path, const char* distribution);
+
+// ---- runs ----
+
+// Runs the case as it is now.
+polyprops_run* polyprops_case_run(const polyprops_case* handle);
+
+// Frees a run and all that it returned. NULL is allowed.
+void polyprops_run_free(polyprops_run* handle);
+
+// POLYPROPS_OK without errors and messages.
+int polyprops_run_status(const polyprops_run* handle);
+
+// Errors and messages, then warnings.
+size_t polyprops_run_diagnostic_count(const polyprops_run* handle);
+int polyprops_run_diagnostic(const polyprops_run* handle, size_t index, polyprops_diagnostic* diagnostic);
+
+// Single numbers by key, such as "streams.BLEND.chain_averages.PS.mw": section, name, table, what tells the
+// rows apart, quantity, as in the heading of a sweep's table. POLYPROPS_NOT_FOUND leaves `value` untouched.
+int polyprops_run_number(const polyprops_run* handle, const char* key, double* value);
+size_t polyprops_run_number_count(const polyprops_run* handle);
+const char* polyprops_run_number_key(const polyprops_run* handle, size_t index);
+
+// Arrays by key, without copying; column-major, `columns` is 1 for a vector.
+//
+//   distributions.NAME.distribution_curves.chain_length          grid points, segments
+//                                         .molecular_weight      g/mol, when the segment weight is known
+//                                         .cumulative            mass fraction up to each grid point
+//                                         .composite, .CURVE     the curves by their names
+//   distributions.NAME.gpc_curve.molecular_weight, .chain_length, .measured, .calculated, .overlay
+//   parameters.NAME.binary_parameters.T                          component × component at T K
+//   parameters.NAME.binary_parameter_slopes.T                    T·dK/dT
+//   parameters.NAME.binary_parameter_derivatives.T               dK/dT, of the general form
+//   parameters.NAME.binary_coefficients                          position × ordered pair, first component fastest
+//
+// The array is valid until the run is freed.
+int polyprops_run_array(const polyprops_run* handle, const char* key, const double** values, size_t* rows,
+                        size_t* columns);
+size_t polyprops_run_array_count(const polyprops_run* handle);
+const char* polyprops_run_array_key(const polyprops_run* handle, size_t index);
+
+// The results as a text, as the program prints or writes it. The report file holds pages with the text form
+// and the library's own report; the summary file is empty without results.
+enum polyprops_format {
+    POLYPROPS_JSON = 0,
+    POLYPROPS_TEXT = 1,
+    POLYPROPS_CSV = 2,
+    POLYPROPS_HTML = 3,
+    POLYPROPS_REPORT_FILE = 4,
+    POLYPROPS_SUMMARY_FILE = 5
+};
+
+// Made at the first call for each format; NULL for an unknown format and without memory. `size` may be NULL.
+const char* polyprops_run_text(polyprops_run* handle, int format, size_t* size);
+
+// polyprops_run_text for POLYPROPS_JSON.
+const char* polyprops_run_json(polyprops_run* handle);
+
+#ifdef __cplusplus
+}
+#endif
