@@ -6,13 +6,13 @@
 //   D+2   PROPERTIES  40002, chain length      YCSDS   section after section    D+4, D, D+3
 //   D+3   TRAY_NO     the sections
 //   D+4   PROPERTIES  40009, of sections
-#include "distribution/distribution_summary.h"
+#include "report/distribution_summary.h"
 
 #include <initializer_list>
 
 #include "host/summary_channel.h"
 
-namespace polyprops::distribution {
+namespace polyprops::report {
 
 namespace {
 
@@ -95,4 +95,4 @@ void write_plot_data(const void* context, const PlotData& data)
     });
 }
 
-}  // namespace polyprops::distribution
+}  // namespace polyprops::report
