@@ -28,8 +28,8 @@ inline constexpr Int site_types = 2;
 inline constexpr const char* stream_name = "S";
 
 // The host of a run, with its paragraph checked and its stream selected. Polymers carry moments and segment
-// flows, and per site type too; neither lengths nor weights nor fractions, so that every average takes its
-// longest way.
+// flows, and per site type too; neither lengths nor molecular weights nor fractions, so that every average
+// takes its longest way.
 std::unique_ptr<minihost::Host> lay_run(const Run& run);
 
 }  // namespace bench

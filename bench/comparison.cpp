@@ -1,8 +1,9 @@
-// Routines beside plain loops of the same arithmetic, on the same data.
+// Routines compared with plain loops of the same arithmetic, on the same data.
 //
 //   polyprops_comparison                              the names of the cases, with their sizes
-//   polyprops_comparison POLY_KIJ5 60 library 1000    nanoseconds per call of the library, fastest of ten
-//   runs of 1000 polyprops_comparison POLY_KIJ5 60 loop 1000       the same of the loop
+//   polyprops_comparison POLY_KIJ5 60 library 1000    nanoseconds per call of the library:
+//                                                     the fastest of ten runs of 1000 calls
+//   polyprops_comparison POLY_KIJ5 60 loop 1000       the same of the loop
 //
 // Both ways are called first and their results compared: they must agree but for rounding.
 #include <algorithm>
@@ -24,8 +25,8 @@ using Ints = std::vector<Int>;
 constexpr Int sites = 5;
 constexpr Int positions = 6;
 
-// What every case reads: a grid of `size` points, and pairs of `size` components of which every twelfth has a
-// reference temperature of its own.
+// The data of every case: a grid of `size` points, and pairs of `size` components of which every twelfth has
+// a reference temperature of its own.
 struct Data {
     explicit Data(Int n) : size(n), x(n), p(positions * n * n), rows(n, 1.0), mask(n, 0)
     {

@@ -4,7 +4,7 @@
     cmake --preset bench && cmake --build --preset bench
     bench/count.py build/bench/bench/polyprops_routines [--routine POLY_GETDPN ...] [--sizes 10 100 1000]
 
-Counted are the library and the C library that it calls. What the host's services cost stands in the last column, for the
+Counted are the library and the C library that it calls. The last column holds the cost of the host's services, for the
 largest size: other hosts have other services. The counts do not depend on the machine's speed; the same build gives the
 same table. Areas that the C library clears with one repeating instruction count once per byte there, so that a matrix of
 NC × NC adds 8 NC².
@@ -32,7 +32,7 @@ class Counts(NamedTuple):
 
 
 def services_cost(profile, library, program):
-    """What calls out of a library into the program cost, callees included, by a profile of callgrind."""
+    """Cost of the calls out of a library into the program, callees included, by a profile of callgrind."""
     names, here, there, cost = {}, None, None, 0
     lines = iter(profile.splitlines())
     for line in lines:

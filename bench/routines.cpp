@@ -29,7 +29,7 @@ Ints counting(Int count, Int first)
     return values;
 }
 
-// The arguments of every routine; what a routine writes stands in k, i1 to i4, r1 to r7, work, m1, m2 and mi.
+// The arguments of every routine; a routine writes to k, i1 to i4, r1 to r7, work, m1, m2 and mi.
 struct Arguments {
     Arguments(const Run& run, const minihost::StreamView& stream)
         : nc(run.nc),
@@ -51,7 +51,7 @@ struct Arguments {
     Int nc, nseg, np, nk, polymer, k0;
     const Real* sv;
     Int sel = 1, one = 1, mode = 1, ns = site_types + 1, ktype = 1, k = 0;
-    Real weight = 7000;
+    Real chain_molecular_weight = 7000;
     Ints idx = counting(nc, 1), iseg = counting(nseg, 1), posp = counting(np, 1), posk = counting(nk, np + 1);
     Ints iflag;
     Reals x = Reals(nc, 0.001), mw = Reals(nc, 50.0), q = Reals(nc, 3.0);
@@ -122,8 +122,8 @@ const Case cases[] = {
     CASE(POLY_GETPOL3, &a.nc, a.idx, &a.nc, a.r1, &a.k, a.i1, a.i2, a.m1),
     CASE(POLY_GETPOL, &a.sel, &a.nc, a.mw, &a.k, a.i1, &a.nc, a.idx, a.m1),
     CASE(POLY_GETPALL, &a.sel, &a.nc, a.idx, &a.nc, &a.k, a.i1, &a.mode, a.i2, a.m1, a.r1),
-    CASE(POLY_GETPMIX, &a.polymer, &a.weight, &a.nc, a.idx, &a.nc, a.mw, a.i1, a.m1, &a.k, a.i2, a.r1),
-    CASE(POLY_GETPMIX1, &a.polymer, &a.weight, &a.nc, a.idx, a.x, a.r1, a.mwn, nullptr, a.mw),
+    CASE(POLY_GETPMIX, &a.polymer, &a.chain_molecular_weight, &a.nc, a.idx, &a.nc, a.mw, a.i1, a.m1, &a.k, a.i2, a.r1),
+    CASE(POLY_GETPMIX1, &a.polymer, &a.chain_molecular_weight, &a.nc, a.idx, a.x, a.r1, a.mwn, nullptr, a.mw),
     CASE(POLY_GETOLI, &a.nc, a.idx, &a.nc, a.scm, &a.k, a.i1, a.m1, a.i2),
     CASE(POLY_GETMAVG, &a.nc, a.q, &a.nseg, a.iseg, a.scm, &a.nc, a.idx, a.r1, a.iflag),
     CASE(POLY_GETSAVG, &a.nc, a.mw, &a.nseg, a.iseg, a.scm, &a.polymer, a.q, a.r1),

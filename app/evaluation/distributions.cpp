@@ -6,6 +6,7 @@
 #include "app/evaluation/reactors.h"
 #include "app/evaluation/stream_list.h"
 #include "app/routines/chain_length_distribution.h"
+#include "src/numeric/trapezoid_averages.h"
 
 namespace app {
 
@@ -46,42 +47,44 @@ void add_section(const DistributionSection& section, const routines::Accumulated
             {site_curve_name(section, j), Curve::Kind::site, made.amount(j), made.site(j), {}});
 }
 
-double segment_area(const DistributionResults& r, const Curve& curve, std::size_t k)
+// Calls visit(area, left-hand length, right-hand length) for each trapezoid of a curve.
+template <class Visit>
+void visit_trapezoids(const DistributionResults& r, const Curve& curve, Visit visit)
 {
-    return 0.5 * (r.height(curve, k) + r.height(curve, k + 1)) * (r.lengths[k + 1] - r.lengths[k]);
+    const auto point = [](Int k) { return static_cast<std::size_t>(k - 1); };
+    polyprops::numeric::visit_trapezoids(
+        std::ssize(r.lengths), [&](Int k) { return r.lengths[point(k)]; },
+        [&](Int k) { return r.height(curve, point(k)); }, visit);
 }
 
 CurveAverages averages(const DistributionResults& r, const Curve& curve)
 {
-    CurveAverages result;
-    double over = 0;
-    double times = 0;
+    polyprops::numeric::TrapezoidSums sums;
     double over_left = 0;
     double times_left = 0;
-    for (std::size_t k = 0; k + 1 < r.lengths.size(); ++k) {
-        const double a = segment_area(r, curve, k);
-        result.area += a;
-        over += a / r.lengths[k + 1];
-        times += a * r.lengths[k + 1];
-        over_left += a / r.lengths[k];
-        times_left += a * r.lengths[k];
-    }
+    visit_trapezoids(r, curve, [&](double area, double left, double right) {
+        sums.add(area, right);
+        over_left += area / left;
+        times_left += area * left;
+    });
+    CurveAverages result;
+    result.area = sums.area;
     if (!(result.area > 0)) return {};  // made nothing, or nothing that the grid reaches
     // The report does not divide those of a composite by its area.
     const double share = curve.kind == Curve::Kind::site ? result.area : 1.0;
-    result.pn = share / over;
-    result.pw = times / share;
+    result.pn = share / sums.over_length;
+    result.pw = sums.times_length / share;
     result.pdi = result.pw / result.pn;
-    result.pn_spread = over_left / over - 1;
-    result.pw_spread = 1 - times_left / times;
+    result.pn_spread = over_left / sums.over_length - 1;
+    result.pw_spread = 1 - times_left / sums.times_length;
     return result;
 }
 
 std::vector<double> cumulative(const DistributionResults& r)
 {
     std::vector<double> sums{0.0};
-    for (std::size_t k = 0; k + 1 < r.lengths.size(); ++k)
-        sums.push_back(sums.back() + segment_area(r, r.composite(), k));
+    visit_trapezoids(r, r.composite(),
+                     [&](double area, double, double) { sums.push_back(sums.back() + area); });
     return sums;
 }
 

@@ -598,7 +598,7 @@ module polyprops
             real(c_double), intent(inout) :: dpn(nc)
         end subroutine poly_getpall
 
-        ! Segment-count matrix of listed components, one polymer being given by the weight of its chains.
+        ! Segment-count matrix of listed components, one polymer being given by the molecular weight of its chains.
         subroutine poly_getpmix(j, mwj, n, idx, nc, mw, iflag, scm, nseg, iseg, frac) &
                 bind(c, name="POLY_GETPMIX")
             use, intrinsic :: iso_c_binding, only: c_double, c_int64_t
@@ -615,7 +615,7 @@ module polyprops
             real(c_double), intent(inout) :: frac(*)
         end subroutine poly_getpmix
 
-        ! True mole fractions of listed components, one polymer being given by the weight of its chains.
+        ! True mole fractions of listed components, one polymer being given by the molecular weight of its chains.
         subroutine poly_getpmix1(j, mwj, n, idx, x, xt, mwn, unused1, mw) &
                 bind(c, name="POLY_GETPMIX1")
             use, intrinsic :: iso_c_binding, only: c_double, c_int64_t

@@ -8,22 +8,20 @@ C_TYPES = {"int": "int64_t", "real": "double", "word": "void", "context": "void"
 WIDTH = 110
 
 HEADER = """\
-/* clang-format off */
-/* The exported routines of libpolyprops. Made by scripts/generate.py from src/exports/routines.toml.
- *
- * Every argument is an address. Integers are 64-bit, reals are doubles; arrays and component indices count
- * from 1, matrices are column-major with the leading dimension first. Argument lines read
- *   NAME(shape)  direction  meaning [unit]
- * with the shapes "component" (by component index 1..NC), "segment" (by position in the host's segment list)
- * and "*" (as far as the routine's rule reaches). Work arguments are undefined afterwards; unused ones are
- * never read and may be null. No routine reports an error unless it says so: values that cannot be used fall
- * back as its notes tell. A parameter or a molecular weight without further words is the pure-component
- * parameter of the host.
- *
- * The loading process defines the names of polyprops/host.h.
- */
-#ifndef POLYPROPS_POLYPROPS_H
-#define POLYPROPS_POLYPROPS_H
+// clang-format off
+// The exported routines of libpolyprops. Made by scripts/generate.py from src/exports/routines.toml.
+//
+// Every argument is an address. Integers are 64-bit, reals are doubles; arrays and component indices count
+// from 1, matrices are column-major with the leading dimension first. Argument lines read
+//   NAME(shape)  direction  meaning [unit]
+// with the shapes "component" (by component index 1..NC), "segment" (by position in the host's segment list)
+// and "*" (as far as the routine's rule reaches). Work arguments are undefined afterwards; unused ones are
+// never read and may be null. No routine reports an error unless its notes say so: values that cannot be used
+// fall back as the notes describe. A parameter or a molecular weight without further words is the
+// pure-component parameter of the host.
+//
+// The loading process defines the names of polyprops/host.h.
+#pragma once
 
 #include <stdint.h>
 
@@ -43,8 +41,6 @@ FOOTER = """\
 #ifdef __cplusplus
 }
 #endif
-
-#endif
 """
 
 
@@ -63,16 +59,16 @@ def argument_lines(routine):
     lines = []
     for label, a in zip(labels, routine.arguments):
         unit = f" [{a.unit}]" if a.unit else ""
-        first = f" *   {label:<{width}}  {a.dir:<6}  "
-        lines += wrapped(a.means + unit, first, " *" + " " * (len(first) - 2))
+        first = f"//   {label:<{width}}  {a.dir:<6}  "
+        lines += wrapped(a.means + unit, first, "//" + " " * (len(first) - 2))
     return lines
 
 
 def doc_comment(routine):
-    purpose = wrapped(routine.purpose, "/* ", " * ")
-    formula = [line for part in routine.formula.splitlines() for line in wrapped(part, " *   ", " *     ")]
-    notes = [line for note in routine.notes for line in wrapped(note, " * - ", " *   ")]
-    return [*purpose, " *", *formula, " *", *argument_lines(routine), *([" *"] if notes else []), *notes, " */"]
+    purpose = wrapped(routine.purpose, "// ", "// ")
+    formula = [line for part in routine.formula.splitlines() for line in wrapped(part, "//   ", "//     ")]
+    notes = [line for note in routine.notes for line in wrapped(note, "// - ", "//   ")]
+    return [*purpose, "//", *formula, "//", *argument_lines(routine), *(["//"] if notes else []), *notes]
 
 
 def declaration(routine):
@@ -85,8 +81,7 @@ def declaration(routine):
 def header(routines):
     lines = []
     for family, members in by_family(routines):
-        title = f"/* ---- {FAMILIES[family].lower()} "
-        lines += [title + "-" * (WIDTH - len(title) - 3) + " */", ""]
+        lines += [f"// ---- {FAMILIES[family].lower()} ----", ""]
         for routine in members:
             lines += [*doc_comment(routine), *declaration(routine), ""]
     return HEADER + "\n".join(lines) + "\n" + FOOTER

@@ -4,8 +4,8 @@
 //   FSEG(j, s) = f(j, s) · DPN(i) · FAC(s)
 //
 // A polymer or oligomer without usable segment data is made of the first segment component of the host. IPOS
-// serves as the index it is from the start: first for where a component stands in the caller's list, so that
-// none is asked anything twice, then for where it stands in the output list.
+// serves as an index from the start: first of the places of components in the caller's list, so that the host
+// is asked about none of them twice, then of their places in the output list.
 #include "basis/segment_make_up.h"
 #include "chain/degree_of_polymerization.h"
 #include "polyprops/polyprops.h"
@@ -84,8 +84,8 @@ void fill_row_of_polymer(const MakeUp& make_up, const PolymerData& data, const S
     fill_row(make_up, polymer.component(), data.segments(), values);
 }
 
-// The last column of an oligomer that stands in several counts its segments; amounts that only an earlier
-// column holds stay beside them.
+// The last column of an oligomer that has several counts its segments; amounts that only an earlier column
+// holds are kept.
 void fill_row_of_oligomer(const MakeUp& make_up, const PolymerData& data, Component oligomer)
 {
     const OligomerTable& oligomers = data.oligomers();

@@ -4,8 +4,9 @@
 //   conventional:  x = X(i), or X(i) · SCM(c, 1)
 //   P(s) = Σ P(i) · SCM(c, s) / Σ SCM(c, s)       property of a segment
 //
-// Conventional entries and segments stand in the order of first appearance. A conventional entry is appended
-// without looking for an earlier one; the amount of a segment goes to every entry that holds its component.
+// Conventional entries and segments are listed in the order of first appearance. A conventional entry is
+// appended without looking for an earlier one; the amount of a segment goes to every entry that holds its
+// component.
 #include <algorithm>
 #include <array>
 
@@ -16,8 +17,8 @@ namespace polyprops::basis {
 
 namespace {
 
-// The list on the segment basis while it grows. It notes where the first segments of the segment list stand,
-// so that the amount of one finds its entry without reading the list.
+// The list on the segment basis while it grows. It notes the places of the first segments of the segment
+// list, so that the amount of one finds its entry without reading the list.
 class SegmentBasisList {
 public:
     SegmentBasisList(const ComponentList& segments, Int* components, Real* amounts)
@@ -103,7 +104,7 @@ void list_from_attributes(const PolymerData& data, const ComponentList& componen
 }
 
 // The two lists from a segment-count matrix differ in what a conventional entry brings.
-enum class OwnAmount { times_own_count, alone };
+enum class OwnAmount { times_own_count, as_given };
 
 struct SegmentCounts {
     FlagArray flags;
@@ -134,8 +135,8 @@ struct WeightedProperty {
     Real weight = 0.0;
 };
 
-// Property of one member of a target list; repeats says how often it stands among the segments. An entry that
-// is not broken into segments replaces what came before it.
+// Property of one member of a target list; repeats is the number of times it is among the segments. An entry
+// that is not broken into segments replaces what came before it.
 WeightedProperty property_of_member(const SegmentCounts& counts, const ComponentList& components,
                                     Vector<const Real> properties, Component member, Int repeats)
 {
@@ -206,7 +207,7 @@ void POLY_PFTOSF(const Int* N, const Int* IDX, const Real* X, const Int* IFLAG, 
 {
     const basis::SegmentCounts counts{FlagArray{IFLAG}, {SCM, *LD}, {*NSEG, ISEG}};
     basis::SegmentBasisList list{counts.segments, IDXOUT, XOUT};
-    basis::list_from_counts(counts, basis::OwnAmount::alone, {*N, IDX}, Vector{X, *N}, list);
+    basis::list_from_counts(counts, basis::OwnAmount::as_given, {*N, IDX}, Vector{X, *N}, list);
     *NOUT = list.count();
     if (*NORM == basis::normalized) list.normalize();
 }

@@ -45,10 +45,10 @@ void mole_fractions(SegmentCountMatrix<const Real> counts, Component row, const 
     fractions_by_component(segments, out, [&](Component s) { return counts(row, s); });
 }
 
-void mass_fractions(SegmentCountMatrix<const Real> counts, ByComponent<const Real> weights, Component row,
-                    const ComponentList& segments, ByComponent<Real> out)
+void mass_fractions(SegmentCountMatrix<const Real> counts, ByComponent<const Real> molecular_weights,
+                    Component row, const ComponentList& segments, ByComponent<Real> out)
 {
-    fractions_by_component(segments, out, [&](Component s) { return weights(s) * counts(row, s); });
+    fractions_by_component(segments, out, [&](Component s) { return molecular_weights(s) * counts(row, s); });
 }
 
 }  // namespace

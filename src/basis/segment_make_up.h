@@ -1,11 +1,11 @@
-// The segments of one polymer or oligomer and how many of each stand in a molecule.
+// The segments of one polymer or oligomer and the number of each in a molecule.
 #pragma once
 
 #include "host/species.h"
 
 namespace polyprops::basis {
 
-// What the make-up of a component reads of the run.
+// Parts of the polymer data that the make-up of a component reads.
 inline constexpr unsigned segment_make_up_parts =
     PolymerData::segment_list | PolymerData::polymer_list | PolymerData::oligomer_block;
 
@@ -19,7 +19,7 @@ void visit_polymer_segments(Int segment_count, const Species& polymer, Visit vis
         if (const Real flow = flows(m); flow > 0.0) visit(m, chains > 0.0 ? flow / chains : 1.0);
 }
 
-// The make-up in the oligomer list, column after column when the component stands there more than once.
+// The make-up in the oligomer list, column after column when the component is there more than once.
 template <class Visit>
 void visit_oligomer_segments(Int segment_count, const OligomerTable& oligomers, Component c, Visit visit)
 {
@@ -31,7 +31,8 @@ void visit_oligomer_segments(Int segment_count, const OligomerTable& oligomers, 
 }
 
 // Calls visit(segment position, segments per molecule) for each segment with a positive amount, in the order
-// of the segment list. What is no polymer counts as an oligomer, and has no segments without a make-up.
+// of the segment list. Any component but a polymer counts as an oligomer, and has no segments without a
+// make-up.
 template <class Visit>
 void visit_segments(const PolymerData& data, const Species& species, Visit visit)
 {

@@ -4,10 +4,11 @@
 //   v_true = Mn · v_apparent / MW      a quantity per mole
 //   w      ∝ x · MW                    mass is the same on both bases
 //
-// Components that are not polymers or oligomers count the same on both bases. What a vanishing sum does
-// differs on purpose: exactly 0 or the zero bound, raw values or zeros.
+// Components that are not polymers or oligomers count the same on both bases. The treatment of a vanishing
+// sum differs on purpose: exactly 0 or the zero bound, raw values or zeros.
 #include <cmath>
 
+#include "basis/true_amount.h"
 #include "chain/molecular_weight.h"
 #include "host/totals.h"
 #include "polyprops/polyprops.h"
@@ -22,27 +23,28 @@ bool exceeds_zero_bound(Real total)
     return std::isgreater(total, zero_bound());
 }
 
-Real chain_amount(PolymerData& data, Component c, ByComponent<const Real> weights, Real amount)
+Real chain_amount(PolymerData& data, Component c, ByComponent<const Real> molecular_weights, Real amount)
 {
     const Species species{own_selector, c};
     if (!species.has_chains()) return amount;
     data.ensure(chain::molecular_weight_parts);
-    const Real chain_weight = chain::number_average_weight(data, species);
-    return chain_weight == 0.0 ? amount : weights(c) * amount / chain_weight;
+    const Real mn = chain::number_average_molecular_weight(data, species);
+    return mn == 0.0 ? amount : true_amount(amount, molecular_weights(c), mn);
 }
 
-void fractions_from_attributes(const ComponentList& components, ByComponent<const Real> weights,
+void fractions_from_attributes(const ComponentList& components, ByComponent<const Real> molecular_weights,
                                Vector<const Real> apparent, Vector<Real> out)
 {
     auto data = PolymerData::locate(0);
     const Int n = components.count();
     const Real total = write_values(out, n, [&](Int i) {
-        return data.exists() ? chain_amount(data, components(i), weights, apparent(i)) : apparent(i);
+        return data.exists() ? chain_amount(data, components(i), molecular_weights, apparent(i))
+                             : apparent(i);
     });
     if (data.exists() && total != 0.0) divide(out, n, total);
 }
 
-void fractions_from_counts(const ComponentList& components, ByComponent<const Real> weights,
+void fractions_from_counts(const ComponentList& components, ByComponent<const Real> molecular_weights,
                            const ComponentList& segments, FlagArray flags,
                            SegmentCountMatrix<const Real> counts, Vector<const Real> apparent,
                            Vector<Real> out)
@@ -51,30 +53,33 @@ void fractions_from_counts(const ComponentList& components, ByComponent<const Re
     const Real total = write_values(out, n, [&](Int i) {
         const Component c = components(i);
         if (!flags.is_flagged(c)) return apparent(i);
-        return apparent(i) * weights(c) / chain::weight_from_counts(counts, weights, segments, c);
+        const Real mn = chain::molecular_weight_from_counts(counts, molecular_weights, segments, c);
+        return true_amount(apparent(i), molecular_weights(c), mn);
     });
     if (total != 0.0) divide(out, n, total);
 }
 
 enum class Mode : Int { per_mole = 0, mole_fractions = 1 };
 
-// Values to the true basis with number-average weights by position; is_chain(c) tells polymers and oligomers.
-// Any other mode writes nothing.
+// Values to the true basis with number-average molecular weights by position; is_chain(c) is true of polymers
+// and oligomers. Any other mode writes nothing.
 template <class IsChain>
-void values_to_true_basis(Mode mode, const ComponentList& components, ByComponent<const Real> weights,
-                          Vector<const Real> chain_weights, Vector<const Real> values, Vector<Real> out,
-                          IsChain is_chain)
+void values_to_true_basis(Mode mode, const ComponentList& components,
+                          ByComponent<const Real> molecular_weights,
+                          Vector<const Real> chain_molecular_weights, Vector<const Real> values,
+                          Vector<Real> out, IsChain is_chain)
 {
     const Int n = components.count();
     if (mode == Mode::per_mole)
         for (Int i = 1; i <= n; ++i) {
             const Component c = components(i);
-            out(i) = is_chain(c) ? chain_weights(i) * values(i) / weights(c) : values(i);
+            out(i) = is_chain(c) ? chain_molecular_weights(i) * values(i) / molecular_weights(c) : values(i);
         }
     if (mode == Mode::mole_fractions) {
         const Real total = write_values(out, n, [&](Int i) {
             const Component c = components(i);
-            return is_chain(c) ? weights(c) * values(i) / chain_weights(i) : values(i);
+            return is_chain(c) ? true_amount(values(i), molecular_weights(c), chain_molecular_weights(i))
+                               : values(i);
         });
         if (exceeds_zero_bound(total)) divide(out, n, total);
     }
@@ -88,12 +93,13 @@ void mass_fractions(const ComponentList& components, Vector<const Real> fraction
     if (exceeds_zero_bound(total)) divide(out, n, total);
 }
 
-void mass_fractions(Int n, Vector<const Real> fractions, Vector<const Real> weights, Vector<Real> out)
+void mass_fractions(Int n, Vector<const Real> fractions, Vector<const Real> molecular_weights,
+                    Vector<Real> out)
 {
     Real total = 0.0;
-    for (Int i = 1; i <= n; ++i) total += fractions(i) * weights(i);
+    for (Int i = 1; i <= n; ++i) total += fractions(i) * molecular_weights(i);
     const bool vanishes = !exceeds_zero_bound(total);
-    for (Int i = 1; i <= n; ++i) out(i) = vanishes ? 0.0 : fractions(i) * weights(i) / total;
+    for (Int i = 1; i <= n; ++i) out(i) = vanishes ? 0.0 : fractions(i) * molecular_weights(i) / total;
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// What the host knows of each listed component without any averaging: its polymer flag, its CRY parameter.
+// Facts of each listed component that need no averaging: its polymer flag, its CRY parameter.
 #include "host/species.h"
 #include "polyprops/polyprops.h"
 

@@ -6,7 +6,7 @@
 
 namespace polyprops::chain {
 
-// What degree_of_polymerization reads of the run.
+// Parts of the polymer data that degree_of_polymerization reads.
 inline constexpr unsigned degree_of_polymerization_parts =
     PolymerData::segment_list | PolymerData::oligomer_block | PolymerData::end_segment_list;
 

@@ -1,6 +1,6 @@
 // Molecular-weight averages of listed components.
 //
-//   Mn  = DPN · MRF              segments per chain × mean segment weight              [g/mol]
+//   Mn  = DPN · MRF              segments per chain × mean segment molecular weight    [g/mol]
 //   Mn  = Σ MW(s) · SCM(j, s)    from a segment-count matrix
 //   MRT = Σ MW(s) · SFLOW(s) / Z segment mass flow over the amount of chains           [g/mol]
 //   PDI = S · Z / F²             Z chains, F segments (always Σ SFLOW), S second moment
@@ -17,34 +17,34 @@ namespace {
 Real segment_mass_flow(const PolymerData& data, const Attribute& flows)
 {
     Real mass = 0.0;
-    for (Int s = 1; s <= data.segments().count(); ++s) mass += data.segment_weight(s) * flows(s);
+    for (Int s = 1; s <= data.segments().count(); ++s) mass += data.segment_molecular_weight(s) * flows(s);
     return mass;
 }
 
-Real weight_from_flows(const PolymerData& data, const Species& species)
+Real molecular_weight_from_flows(const PolymerData& data, const Species& species)
 {
-    const Real own_weight = molecular_weight(species.component());
-    if (!data.exists() || data.polymers().count() < 1 || !species.is_polymer()) return own_weight;
+    const Real own_molecular_weight = molecular_weight(species.component());
+    if (!data.exists() || data.polymers().count() < 1 || !species.is_polymer()) return own_molecular_weight;
     const Attribute zeroth_moment = species.attribute(AttributeName::zmom);
-    if (!zeroth_moment.is_present() || !is_between_bounds(zeroth_moment.value())) return own_weight;
+    if (!zeroth_moment.is_present() || !is_between_bounds(zeroth_moment.value())) return own_molecular_weight;
     const Real mass = segment_mass_flow(data, species.attribute(AttributeName::sflow));
-    return mass > zero_bound() ? mass / zeroth_moment.value() : own_weight;
+    return mass > zero_bound() ? mass / zeroth_moment.value() : own_molecular_weight;
 }
 
-Real weight_average_weight(const PolymerData& data, const Species& species)
+Real weight_average_molecular_weight(const PolymerData& data, const Species& species)
 {
     const Component c = species.component();
     if (!species.has_chains()) return polydispersity_parameter(c) * molecular_weight(c);
-    const Real number_average = number_average_weight(data, species);
-    return polydispersity(data, species) * number_average;
+    const Real mn = number_average_molecular_weight(data, species);
+    return polydispersity(data, species) * mn;
 }
 
 }  // namespace
 
-Real number_average_weight(const PolymerData& data, const Species& species)
+Real number_average_molecular_weight(const PolymerData& data, const Species& species)
 {
     if (!data.exists() || !species.has_chains()) return molecular_weight(species.component());
-    return degree_of_polymerization(data, species) * mean_segment_weight(data, species);
+    return degree_of_polymerization(data, species) * mean_segment_molecular_weight(data, species);
 }
 
 Real polydispersity_parameter(Component c)
@@ -77,12 +77,14 @@ Real polydispersity(const PolymerData& data, const Species& species)
     return moments ? moments->index() : polydispersity_parameter(species.component());
 }
 
-Real weight_from_counts(SegmentCountMatrix<const Real> counts, ByComponent<const Real> weights,
-                        const ComponentList& segments, Component row)
+Real molecular_weight_from_counts(SegmentCountMatrix<const Real> counts,
+                                  ByComponent<const Real> molecular_weights, const ComponentList& segments,
+                                  Component row)
 {
-    Real weight = 0.0;
-    for (Int m = 1; m <= segments.count(); ++m) weight += weights(segments(m)) * counts(row, segments(m));
-    return weight;
+    Real chain_molecular_weight = 0.0;
+    for (Int m = 1; m <= segments.count(); ++m)
+        chain_molecular_weight += molecular_weights(segments(m)) * counts(row, segments(m));
+    return chain_molecular_weight;
 }
 
 }  // namespace polyprops::chain
@@ -97,13 +99,13 @@ void POLY_GETMWN(const Int* SEL, const Int* N, const Int* IDX, Real* MWN)
     for (Int i = 1; i <= components.count(); ++i) {
         const Species species{{*SEL}, components(i)};
         if (data.exists() && species.has_chains()) data.ensure(chain::molecular_weight_parts);
-        mwn(i) = chain::number_average_weight(data, species);
+        mwn(i) = chain::number_average_molecular_weight(data, species);
     }
 }
 
 void POLY_GETMRT(const Int* SEL, const Int* N, const Int* IDX, Real* MRT)
 {
-    chain::average_each(chain::moment_parts, {*SEL}, {*N, IDX}, MRT, chain::weight_from_flows);
+    chain::average_each(chain::moment_parts, {*SEL}, {*N, IDX}, MRT, chain::molecular_weight_from_flows);
 }
 
 void POLY_GETMWW(const Int* SEL, const Int* N, const Int* IDX, Real* MWW)
@@ -114,7 +116,7 @@ void POLY_GETMWW(const Int* SEL, const Int* N, const Int* IDX, Real* MWW)
     for (Int i = 1; i <= components.count(); ++i) {
         const Species species{{*SEL}, components(i)};
         if (species.has_chains()) data.ensure(chain::molecular_weight_parts);
-        mww(i) = chain::weight_average_weight(data, species);
+        mww(i) = chain::weight_average_molecular_weight(data, species);
     }
 }
 
@@ -127,7 +129,7 @@ void POLY_GETPDI(const Int* SEL, const Int* N, const Int* IDX, Real* PDI)
 void POLY_GETMWN1(const Int* LD, const Real* MW, const Int* NSEG, const Int* ISEG, const Real* SCM,
                   const Int* N, const Int* IDX, Real* MWN, const Int* IFLAG)
 {
-    const ByComponent<const Real> weights{MW};
+    const ByComponent<const Real> molecular_weights{MW};
     const ComponentList segments{*NSEG, ISEG};
     const SegmentCountMatrix counts{SCM, *LD};
     const ComponentList components{*N, IDX};
@@ -135,6 +137,8 @@ void POLY_GETMWN1(const Int* LD, const Real* MW, const Int* NSEG, const Int* ISE
     const Vector<Real> mwn{MWN, *N};
     for (Int i = 1; i <= components.count(); ++i) {
         const Component j = components(i);
-        mwn(i) = flags.is_flagged(j) ? chain::weight_from_counts(counts, weights, segments, j) : weights(j);
+        mwn(i) = flags.is_flagged(j)
+                     ? chain::molecular_weight_from_counts(counts, molecular_weights, segments, j)
+                     : molecular_weights(j);
     }
 }

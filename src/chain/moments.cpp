@@ -1,28 +1,27 @@
 // Chain-moment arrays of a stream vector, and the polymer that a second stream holds beyond a first.
 //
-//   Z = Σ ZMOM    F = Σ SFLOW(s)    S = Σ SMOM    W = Σ flow · MW     over substreams and polymers
+//   Z = Σ ZMOM    F = Σ SFLOW(s)    S = Σ SMOM    W = Σ flow · M     over substreams and polymers
 //
 // With one result entry these are sums over whole polymers. With more, entry t belongs to the catalyst site
-// type t ("SZMOM", "SSFLOW", "SSMOM"; W = Σ MW(s) · SSFLOW(s), the mass of the site's segments) and the last
-// entry holds the sums over all sites, with the mass flow of the polymers themselves. Of the differences
-// between two streams
+// type t ("SZMOM", "SSFLOW", "SSMOM"; W = Σ M(s) · SSFLOW(s), the mass of the site's segments) and the last
+// entry holds the sums over all sites, with the mass flow of the polymers themselves. M is the molecular
+// weight of a component. Of the differences between two streams
 //
-//   Mn  = W / Z      DPN = F / Z                                   number averages, ΔZ above the zero bound
-//   MRS = W / F      DPW = S / F      Mw = S · (W / F) / F         weight averages, ΔF above exactly 0
+//   MN  = W / Z      DPN = F / Z                                   number averages, ΔZ above the zero bound
+//   MRS = W / F      DPW = S / F      MW = S · (W / F) / F         weight averages, ΔF above exactly 0
 //   PDI = Z · (S / F) / F
 //
 // Each entry is summed on its own, so that no room is needed between the streams.
 #include <algorithm>
 #include <array>
 
-#include "host/species.h"
+#include "chain/molecular_weight.h"
 #include "polyprops/polyprops.h"
 
 namespace polyprops::chain {
 
 namespace {
 
-constexpr unsigned moment_parts = PolymerData::segment_list | PolymerData::polymer_list;
 constexpr Int skipped_substream_type = 3;
 
 struct Moments {
@@ -51,7 +50,7 @@ struct Offsets {
     Int second;
 };
 
-// Where the moments of each polymer stand. The host is asked once per polymer, however many substreams,
+// Where the moments of each polymer are. The host is asked once per polymer, however many substreams,
 // streams and entries are read; polymers beyond the first 64 of the run are asked for again each time.
 class MomentOffsets {
 public:
@@ -103,12 +102,12 @@ private:
     Int origin_;
 };
 
-// What both streams of a call have in common.
+// The data that both streams of a call share.
 struct Layout {
     Int substreams;
     Vector<const Int> origins;
     Vector<const Int> types;
-    ByComponent<const Real> weights;
+    ByComponent<const Real> molecular_weights;
     PolymerData data;
 };
 
@@ -123,7 +122,7 @@ Moments polymer_moments(const Layout& layout, const Substream& substream, const 
         for (Int s = 1; s <= segments.count(); ++s) {
             const Real flow = substream.value(offsets.first, (t - 1) * segments.count() + s);
             site.first += flow;
-            if (!sites.all) site.mass += layout.weights(segments(s)) * flow;
+            if (!sites.all) site.mass += layout.molecular_weights(segments(s)) * flow;
         }
         sum.zeroth += substream.value(offsets.zeroth, t);
         sum.first += site.first;
@@ -142,7 +141,7 @@ Moments stream_moments(const Layout& layout, Vector<const Real> stream, MomentOf
         if (layout.types(i) == skipped_substream_type) continue;
         const Substream substream{stream, layout.origins(i)};
         for (Int p = 1; p <= polymers.count(); ++p) {
-            const Real mass = substream.flow(polymers(p)) * layout.weights(polymers(p));
+            const Real mass = substream.flow(polymers(p)) * layout.molecular_weights(polymers(p));
             if (mass < zero_bound()) continue;
             const Moments polymer = polymer_moments(layout, substream, offsets.of(p), sites, mass);
             sum.zeroth += polymer.zeroth;
@@ -161,8 +160,8 @@ Moments difference(const Moments& later, const Moments& earlier)
 }
 
 struct NumberAverages {
-    Real weight = 0.0;
-    Real length = 0.0;
+    Real mn = 0.0;
+    Real dpn = 0.0;
 };
 
 NumberAverages number_averages(const Moments& m)
@@ -172,10 +171,10 @@ NumberAverages number_averages(const Moments& m)
 }
 
 struct WeightAverages {
-    Real segment_weight = 0.0;
-    Real weight = 0.0;
-    Real length = 0.0;
-    Real polydispersity = 0.0;
+    Real mrs = 0.0;
+    Real mw = 0.0;
+    Real dpw = 0.0;
+    Real pdi = 0.0;
 };
 
 // The bound is exactly 0 here, where the number averages take the zero bound.
@@ -221,12 +220,12 @@ void POLY_POLYRESULTS(const Real* SV1, const Real* SV2, const Int* NSS, const In
                                PolymerData::locate(chain::moment_parts)};
     chain::MomentOffsets offsets{layout.data.polymers(), *NS > 1};
     const Vector mass{PMASS, *NS};
-    const Vector segment_weight{PMRS, *NS};
-    const Vector number_weight{PMWN, *NS};
-    const Vector weight_weight{PMWW, *NS};
-    const Vector number_length{PDPN, *NS};
-    const Vector weight_length{PDPW, *NS};
-    const Vector polydispersity{PPDI, *NS};
+    const Vector mrs{PMRS, *NS};
+    const Vector mn{PMWN, *NS};
+    const Vector mw{PMWW, *NS};
+    const Vector dpn{PDPN, *NS};
+    const Vector dpw{PDPW, *NS};
+    const Vector pdi{PPDI, *NS};
     for (Int t = 1; t <= *NS; ++t) {
         const auto sites = chain::Sites::of_entry(t, *NS);
         const auto moments = [&](const Real* stream) {
@@ -236,11 +235,11 @@ void POLY_POLYRESULTS(const Real* SV1, const Real* SV2, const Int* NSS, const In
         const chain::NumberAverages by_number = chain::number_averages(made);
         const chain::WeightAverages by_weight = chain::weight_averages(made);
         mass(t) = made.mass;
-        segment_weight(t) = by_weight.segment_weight;
-        number_weight(t) = by_number.weight;
-        weight_weight(t) = by_weight.weight;
-        number_length(t) = by_number.length;
-        weight_length(t) = by_weight.length;
-        polydispersity(t) = by_weight.polydispersity;
+        mrs(t) = by_weight.mrs;
+        mn(t) = by_number.mn;
+        mw(t) = by_weight.mw;
+        dpn(t) = by_number.dpn;
+        dpw(t) = by_weight.dpw;
+        pdi(t) = by_weight.pdi;
     }
 }

@@ -87,11 +87,11 @@ void segment_mass_fractions(const PolymerData& data, const Species& species, Vec
     const Int n = data.segments().count();
     const auto of_polymer = [&] {
         const Attribute flows = species.attribute(AttributeName::sflow);
-        polymer_fractions(fractions, n, [&](Int s) { return flows(s) * data.segment_weight(s); });
+        polymer_fractions(fractions, n, [&](Int s) { return flows(s) * data.segment_molecular_weight(s); });
     };
     const auto of_oligomer = [&](Int column) {
         oligomer_fractions(fractions, n, [&](Int s) {
-            return data.segment_weight(s) * data.oligomers().segments(s, column);
+            return data.segment_molecular_weight(s) * data.oligomers().segments(s, column);
         });
     };
     choose_branch(data, species, of_polymer, of_oligomer);
@@ -135,9 +135,9 @@ void POLY_GETSWF1(const Int* K, const Int* LD, const Real* MW, const Real* SCM, 
                   const Int* ISEG, Real* SWF)
 {
     const SegmentCountMatrix counts{SCM, *LD};
-    const ByComponent<const Real> weights{MW};
+    const ByComponent<const Real> molecular_weights{MW};
     const ComponentList segments{*NSEG, ISEG};
     const Component row{*K};
     chain::row_fractions(Vector{SWF, *NSEG}, *NSEG,
-                         [&](Int m) { return weights(segments(m)) * counts(row, segments(m)); });
+                         [&](Int m) { return molecular_weights(segments(m)) * counts(row, segments(m)); });
 }

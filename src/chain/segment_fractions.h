@@ -4,7 +4,7 @@
 
 namespace polyprops::chain {
 
-// What the segment fractions of a component read of the run.
+// Parts of the polymer data that the segment fractions of a component read.
 inline constexpr unsigned segment_fraction_parts =
     PolymerData::segment_list | PolymerData::polymer_list | PolymerData::oligomer_block;
 

@@ -31,7 +31,7 @@ Real instantaneous(Site site, Real x)
     return value * s * (0.5 * x * site.beta * s + site.tau);
 }
 
-// What one call adds: f of one site type onto W of all, which makes W + F.
+// One call adds f of one site type to W of all, which makes W + F.
 struct Increment {
     Real amount;
     Real weight_before;

@@ -9,13 +9,14 @@
 namespace polyprops {
 
 // The host's answer to a message about to be composed. Rules differ in whether any answer but 0 allows it, or
-// exactly 1 alone.
+// only 1.
 inline Int check_message_level(const NamePair& routine, Int severity, Int number)
 {
     constexpr Int zero = 0;
     constexpr Int two = 2;
-    const Int level = ST_GLOBAL[7];
-    return ST_ERROR_CHECK(routine.data(), &severity, &number, &ST_GLOBAL[5], &level, &zero, &zero, &two);
+    const Int level = word(ST_GLOBAL, 8);
+    return ST_ERROR_CHECK(routine.data(), &severity, &number, &word(ST_GLOBAL, 6), &level, &zero, &zero,
+                          &two);
 }
 
 inline void print_message(Int lines)

@@ -69,7 +69,10 @@ public:
     bool lists_chains() const { return exists() && (polymers().count() >= 1 || oligomers().count() >= 1); }
 
     // Molecular weight of the component at a position of the segment list.
-    Real segment_weight(Int segment_position) const { return molecular_weight(segments()(segment_position)); }
+    Real segment_molecular_weight(Int segment_position) const
+    {
+        return molecular_weight(segments()(segment_position));
+    }
 
 private:
     template <class List>

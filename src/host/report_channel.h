@@ -13,9 +13,9 @@ class ReportLine {
 public:
     ReportLine& text(std::string_view text)
     {
-        const std::size_t fitting = std::min(text.size(), characters_.size() - length_);
-        std::copy_n(text.begin(), fitting, characters_.begin() + static_cast<std::ptrdiff_t>(length_));
-        length_ += fitting;
+        const std::size_t copied = std::min(text.size(), characters_.size() - length_);
+        std::copy_n(text.begin(), copied, characters_.begin() + static_cast<std::ptrdiff_t>(length_));
+        length_ += copied;
         return *this;
     }
     ReportLine& blanks(std::size_t count)
@@ -42,26 +42,26 @@ private:
 inline void write_report_line(std::string_view text)
 {
     const Int length = static_cast<Int>(text.size());
-    RP_WRITE_LINE(&ST_FILES[26], &length, text.data());
+    RP_WRITE_LINE(&word(ST_FILES, 27), &length, text.data());
 }
 
 enum class PageStart : Int { where_it_fits = 0, new_page = 1 };
 
-// The host starts a new page first when it is told to or when the lines do not fit on this one.
+// The host starts a new page first when asked to or when the lines do not fit on this one.
 inline void reserve_report_lines(Int lines, PageStart start)
 {
     const Int new_page = static_cast<Int>(start);
     const Int three = 3;
-    RP_RESERVE_LINES(&lines, &new_page, &three, &ST_RPTGLOBAL[1]);
+    RP_RESERVE_LINES(&lines, &new_page, &three, &word(ST_RPTGLOBAL, 2));
 }
 
 inline Int report_lines_used()
 {
-    return RP_PAGE[0];
+    return word(RP_PAGE, 1);
 }
 inline Int report_lines_per_page()
 {
-    return RP_PAGE[3];
+    return word(RP_PAGE, 4);
 }
 
 }  // namespace polyprops

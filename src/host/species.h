@@ -26,7 +26,7 @@ inline Int find_attribute(Selector selector, Component c, AttributeName name)
 // Where the attributes of the stream under evaluation begin; formed afresh on each call.
 inline Position attribute_origin()
 {
-    return Position{ST_GLOBAL[16] + ST_NCOMP[5] + ST_NCOMP[7]};
+    return Position{word(ST_GLOBAL, 17) + word(ST_NCOMP, 6) + word(ST_NCOMP, 8)};
 }
 
 // The values of one attribute of one component. An attribute that the component does not carry holds zeros.

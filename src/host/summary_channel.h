@@ -11,18 +11,19 @@ namespace polyprops {
 
 inline bool summary_is_wanted()
 {
-    return ST_RPTGLOBAL[11] == 1 || ST_RPTGLOBAL[11] == 2;
+    const Int report_switch = word(ST_RPTGLOBAL, 12);
+    return report_switch == 1 || report_switch == 2;
 }
 
 namespace summary {
 
 inline Real no_real()
 {
-    return std::bit_cast<Real>(ST_INITV[0]);
+    return std::bit_cast<Real>(word(ST_INITV, 1));
 }
 inline Int no_integer()
 {
-    return ST_INITV[1];
+    return word(ST_INITV, 2);
 }
 
 // ---- tokens ----
@@ -36,8 +37,8 @@ inline void put_text(Int kind, std::string_view text)
 {
     const Int length = static_cast<Int>(text.size());
     std::array<Int, 3> words;
-    for (Int& word : words) {
-        word = text_word(text);
+    for (Int& part : words) {
+        part = text_word(text);
         text.remove_prefix(std::min<std::size_t>(text.size(), 4));
     }
     put(kind, length, words.data(), no_real());
@@ -49,13 +50,13 @@ inline void put_integer(Int kind, Int value)
 
 inline void definition_break()
 {
-    put_integer(ST_GLOBAL[7], no_integer());
+    put_integer(word(ST_GLOBAL, 8), no_integer());
 }
 inline void data_break()
 {
-    put_integer(ST_GLOBAL[7], 0);
+    put_integer(word(ST_GLOBAL, 8), 0);
 }
-inline void word(std::string_view text)
+inline void keyword(std::string_view text)
 {
     put_text(0, text);
 }
@@ -93,20 +94,20 @@ inline void separator()
 
 inline Int next_data_set()
 {
-    return ST_SUMGLOBAL[2];
+    return word(ST_SUMGLOBAL, 3);
 }
 inline Int next_list_set()
 {
-    return ST_SUMGLOBAL[3];
+    return word(ST_SUMGLOBAL, 4);
 }
 inline void count_data_set()
 {
-    ++ST_SUMGLOBAL[2];
+    ++word(ST_SUMGLOBAL, 3);
 }
 inline void count_list_set()
 {
-    ST_SUMGLOBAL[1] = ST_SUMGLOBAL[3];
-    ++ST_SUMGLOBAL[3];
+    word(ST_SUMGLOBAL, 2) = word(ST_SUMGLOBAL, 4);
+    ++word(ST_SUMGLOBAL, 4);
 }
 
 // ---- a block of values ----

@@ -1,7 +1,7 @@
 // Words of the host's store and of its records.
 //
-// A word is a signed 64-bit integer or holds the bits of a double; which one, the block says. A store
-// position is a type of its own, so that it cannot stand in for a component index.
+// A word is a signed 64-bit integer or holds the bits of a double; which one depends on the block. A store
+// position is a type of its own, so that it cannot be taken for a component index.
 #pragma once
 
 #include <array>
@@ -20,9 +20,16 @@ constexpr Position operator+(Position p, Int words)
     return Position{static_cast<Int>(p) + words};
 }
 
+// Word k of a record of the host: the only place where its number becomes a subscript.
+template <class T>
+constexpr T& word(T* record, Int k)
+{
+    return record[k - 1];
+}
+
 inline Int* address_of(Position p)
 {
-    return ST_WORDS + (static_cast<Int>(p) - 1);
+    return &word(ST_WORDS, static_cast<Int>(p));
 }
 inline Int integer_at(Position p)
 {
@@ -43,7 +50,7 @@ public:
     RealWords() = default;
     explicit RealWords(Position first) : first_(address_of(first)) {}
 
-    Real operator()(Int i) const { return std::bit_cast<Real>(first_[i - 1]); }
+    Real operator()(Int i) const { return std::bit_cast<Real>(word(first_, i)); }
 
 private:
     const Int* first_ = nullptr;
@@ -71,8 +78,8 @@ struct NamePair {
     {
         std::array<char, 8> text{};
         for (std::size_t half = 0; half < 2; ++half) {
-            const auto word = std::bit_cast<std::array<char, 8>>(words[half]);
-            for (std::size_t i = 0; i < 4; ++i) text[4 * half + i] = word[i];
+            const auto stored = std::bit_cast<std::array<char, 8>>(words[half]);
+            for (std::size_t i = 0; i < 4; ++i) text[4 * half + i] = stored[i];
         }
         return text;
     }
@@ -83,11 +90,11 @@ struct NamePair {
 
 inline Real missing_value_bound()
 {
-    return ST_RGLOBAL[0];
+    return word(ST_RGLOBAL, 1);
 }
 inline Real zero_bound()
 {
-    return ST_RGLOBAL[1];
+    return word(ST_RGLOBAL, 2);
 }
 // At or above the bound a value counts as not given; a NaN counts as given.
 inline bool is_missing(Real value)
@@ -103,11 +110,11 @@ inline bool is_between_bounds(Real value)
 
 inline Int polymer_count_of_run()
 {
-    return ST_NCOMP[16];
+    return word(ST_NCOMP, 17);
 }
 inline bool keeps_polydispersity_parameter()
 {
-    return ST_GLOBAL[29] == 100;
+    return word(ST_GLOBAL, 30) == 100;
 }
 
 // A pure-component parameter: an offset of 0 means that the vector does not exist.
@@ -125,7 +132,7 @@ public:
     static ParameterVector polydispersity() { return ParameterVector{684}; }
 
 private:
-    explicit ParameterVector(Int entry) : offset_(ST_POFF1[entry - 1]) {}
+    explicit ParameterVector(Int entry) : offset_(word(ST_POFF1, entry)) {}
 
     Int offset_;
 };
@@ -139,7 +146,7 @@ inline Real molecular_weight(Component c)
 // The first eight characters of a component's name; the host's name table holds three such words a name.
 inline Int first_word_of_name(Component c)
 {
-    return integer_at(Position{ST_POFF4[0] + 3 * (c.index - 1) + 1});
+    return integer_at(Position{word(ST_POFF4, 1) + 3 * (c.index - 1) + 1});
 }
 
 }  // namespace polyprops

@@ -29,14 +29,14 @@ Int attribute_keyword()
     return ST_FIND_KEYWORD(keyword.data(), &zero);
 }
 
-// What a keyword table says of one keyword.
+// Entry of a keyword table for one keyword.
 Int table_entry(Int table_position, Int keyword)
 {
     constexpr Int seven = 7;
     return integer_at(Position{ST_KEYWORD_TEXT(&table_position, &keyword, &seven)});
 }
 
-// Reads a sub-table; returns the position at which the host says it stands.
+// Reads a sub-table; returns its position.
 Int read_table(Int entry, Int& target)
 {
     Int first = 0;
@@ -48,7 +48,8 @@ Int read_table(Int entry, Int& target)
 
 Int value_of_keyword(Int keyword)
 {
-    const Int sub_table = read_table(table_entry(ST_FIND_I(&ST_TABLES[0]), keyword), ST_TABLES[1]);
+    const Int sub_table =
+        read_table(table_entry(ST_FIND_I(&word(ST_TABLES, 1)), keyword), word(ST_TABLES, 2));
     Int value = 0;
     read_table(table_entry(sub_table, 1), value);
     return value;
@@ -60,8 +61,8 @@ void write_head(const SentenceBlocks& blocks, Int keyword)
     head(1) = keyword;
     head(3) = 1;
     head(4) = head(5) = blocks.descriptor;
-    head(6) = head(8) = ST_GLOBAL[8];
-    head(7) = head(9) = ST_GLOBAL[9];
+    head(6) = head(8) = word(ST_GLOBAL, 9);
+    head(7) = head(9) = word(ST_GLOBAL, 10);
     head(10) = blocks.keyword_value;
 }
 
@@ -79,10 +80,10 @@ void write_descriptor(const SentenceBlocks& blocks, Int name_count)
     descriptor(12) = 3;
 }
 
-void write_pair(const IntegerBlock& block, Int word, const NamePair& name)
+void write_pair(const IntegerBlock& block, Int first_word, const NamePair& name)
 {
-    block(word) = name.words[0];
-    block(word + 1) = name.words[1];
+    block(first_word) = name.words[0];
+    block(first_word + 1) = name.words[1];
 }
 
 void write_values(Int values_id, const AttributeEntry& entry, const SentenceWords& words)
@@ -113,7 +114,7 @@ AttributeEntry attribute_entry(const SentenceWords& words, Int entry)
 
 void forward_attribute_sentence(const AttributeEntry& entry, const Sentence& attributes, const void* context)
 {
-    const Int current_paragraph = ST_TABLES[1];
+    const Int current_paragraph = word(ST_TABLES, 2);
     const Int keyword = attribute_keyword();
     const Int keyword_value = value_of_keyword(keyword);
     const SentenceBlocks blocks = allocate_sentence(entry.name_count);
@@ -122,7 +123,7 @@ void forward_attribute_sentence(const AttributeEntry& entry, const Sentence& att
     write_descriptor(blocks, entry.name_count);
     write_values(blocks.values, entry, attributes.words());
     process_sentence(blocks, context);
-    ST_TABLES[1] = current_paragraph;
+    word(ST_TABLES, 2) = current_paragraph;
 }
 
 }  // namespace polyprops::input

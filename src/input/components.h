@@ -20,13 +20,13 @@ inline std::optional<Component> find_component(const NamePair& id)
 
 inline Int number_of_components()
 {
-    return find_integers(UT_COMPONENT_IDS[0])(1);
+    return find_integers(word(UT_COMPONENT_IDS, 1))(1);
 }
 
 // The ID of a component in the host's own list: two words of the six that each component has.
 inline NamePair id_of(Component c)
 {
-    const IntegerBlock ids = find_integers(UT_COMPONENT_IDS[0]);
+    const IntegerBlock ids = find_integers(word(UT_COMPONENT_IDS, 1));
     const Int first = 2 + 6 * (c.index - 1);
     return {ids(first), ids(first + 1)};
 }

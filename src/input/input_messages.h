@@ -1,8 +1,8 @@
 // Every message of the input checks, and its way through the host's message channel.
 //
-// In a line {1} and {2} stand for names: the eight stored characters, trailing blanks kept. Three habits
-// differ from message to message: which answer of the level check lets the text be composed, whether the
-// buffer is printed although it was not, and the severity.
+// In a line {1} and {2} are replaced by names: the eight stored characters, trailing blanks kept. Three
+// habits differ from message to message: which answer of the level check lets the text be composed, whether
+// the buffer is printed although it was not, and the severity.
 #pragma once
 
 #include <array>

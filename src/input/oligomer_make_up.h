@@ -1,5 +1,5 @@
-// The oligomers of the paragraph, in ascending order of their component indices, and how many of each segment
-// stand in one molecule: a table with one row per entry of the segment list and one column per oligomer.
+// The oligomers of the paragraph, in ascending order of their component indices, and the number of each
+// segment in one molecule: a table with one row per entry of the segment list and one column per oligomer.
 #pragma once
 
 #include "input/polymer_block_room.h"

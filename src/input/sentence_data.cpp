@@ -6,7 +6,7 @@ namespace polyprops::input {
 
 namespace {
 
-// What the host delivers for one sentence.
+// One sentence as the host delivers it.
 struct Delivery {
     Int kind;
     Int integer_position = 0;
@@ -90,7 +90,7 @@ SentenceWords Sentence::words() const
 
 Int number_of_sentences()
 {
-    return find_integers(ST_TABLES[1])(3);
+    return find_integers(word(ST_TABLES, 2))(3);
 }
 
 std::optional<Sentences> read_sentences(Int count, const Int* paragraph, Int* status)

@@ -12,7 +12,7 @@
 
 namespace polyprops::input {
 
-// The words of one sentence. What the sentence does not hold reads as 0, whatever a faulty count or list
+// The words of one sentence. Words beyond its end read as 0, whatever a faulty count or list
 // start says.
 class SentenceWords {
 public:

@@ -1,4 +1,4 @@
-// What the steps of one paragraph check remember between them, beside the blocks that they build.
+// Notes that the steps of one paragraph check share, apart from the blocks that they build.
 #pragma once
 
 #include "input/scratch.h"

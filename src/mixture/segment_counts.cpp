@@ -5,6 +5,7 @@
 //   SCM(j, 1)                any other component: its own count
 //
 //   D = DPN, else F / Z      Z chains, F segments
+//   MRF = Σ f(s) · MW(s)     mean segment molecular weight
 //
 // Two routines fill the matrix. They choose f and Z alike and differ in the rest:
 //
@@ -12,7 +13,7 @@
 //   neither polymer nor         counts of the listed components      nothing written but NPOL = 0
 //     oligomer listed
 //   "DPN" accepted              from 1.0                             above 1.0, below the missing-value bound
-//   "MWN" / Σ f(s) MW(s)        second choice                        not used
+//   "MWN" / MRF                 second choice                        not used
 //   "FMOM" as F                 when not below Z                     when present
 //   missing values of f         as they are                          as 0
 //   oligomer                    positive counts; a lone one becomes  counts, scaled to the length of the
@@ -58,24 +59,23 @@ void write_fractions(const PolymerData& data, const Attribute& values, SegmentCo
               [&](Int m) { return shares ? values(m) / total : 1.0 / static_cast<Real>(n); });
 }
 
-Real length_by_attributes(const PolymerData& data, const Species& polymer, Real mean_segment_weight)
+Real length_by_attributes(const PolymerData& data, const Species& polymer, Real mrf)
 {
     const Attribute length = polymer.attribute(AttributeName::dpn);
     if (length.is_present() && length.value() >= 1.0) return length.value();
-    const Attribute weight = polymer.attribute(AttributeName::mwn);
-    if (weight.is_present() && mean_segment_weight != 0.0 && weight.value() >= mean_segment_weight)
-        return weight.value() / mean_segment_weight;
+    const Attribute mwn = polymer.attribute(AttributeName::mwn);
+    if (mwn.is_present() && mrf != 0.0 && mwn.value() >= mrf) return mwn.value() / mrf;
     return chain::length_from_moments(data, polymer, FirstMomentCounts::when_not_below_chains);
 }
 
-void write_polymer(const PolymerData& data, const Species& polymer, ByComponent<const Real> weights,
+void write_polymer(const PolymerData& data, const Species& polymer, ByComponent<const Real> molecular_weights,
                    SegmentCountMatrix<Real> counts)
 {
     const Component j = polymer.component();
     write_fractions(data, fraction_values(polymer), counts, j);
-    const Real mean_segment_weight =
-        chain::weight_from_counts(counts.read_only(), weights, data.segments(), j);
-    const Real length = chain::at_least_one(length_by_attributes(data, polymer, mean_segment_weight));
+    const Real mrf =
+        chain::molecular_weight_from_counts(counts.read_only(), molecular_weights, data.segments(), j);
+    const Real length = chain::at_least_one(length_by_attributes(data, polymer, mrf));
     write_row(data, counts, j, [&](Int m) { return counts(j, data.segments()(m)) * length; });
 }
 
@@ -94,12 +94,12 @@ void write_positive_counts(const PolymerData& data, Int column, SegmentCountMatr
     if (kinds == 1 && std::isgreater(parameter, 1.0)) counts(j, data.segments()(last)) = parameter;
 }
 
-void write_counts(const PolymerData& data, const Species& species, ByComponent<const Real> weights,
+void write_counts(const PolymerData& data, const Species& species, ByComponent<const Real> molecular_weights,
                   SegmentCountMatrix<Real> counts)
 {
     const Component j = species.component();
     if (species.is_polymer())
-        write_polymer(data, species, weights, counts);
+        write_polymer(data, species, molecular_weights, counts);
     else if (species.is_oligomer())
         visit_columns(data, j, [&](Int e) { write_positive_counts(data, e, counts, j); });
     else

@@ -1,6 +1,6 @@
 // Tables of the polymers and oligomers among listed components, from their chain averages.
 //
-//   MWN(i)    = DPN(i) · MRF(i)     segments per chain × mean segment weight              [g/mol]
+//   MWN(i)    = DPN(i) · MRF(i)     segments per chain × mean segment molecular weight    [g/mol]
 //   SMFM(j, m), SWFM(j, m)          mole and mass fraction of the segment at position m
 //   SCM(j, s) = SMF(s) · DPN        segments of component s per molecule of j
 //
@@ -8,7 +8,7 @@
 // indices. A polymer and an oligomer are treated alike.
 #include "chain/degree_of_polymerization.h"
 #include "chain/segment_fractions.h"
-#include "chain/segment_weight.h"
+#include "chain/segment_molecular_weight.h"
 #include "mixture/outputs.h"
 #include "mixture/true_fractions.h"
 #include "polyprops/polyprops.h"
@@ -21,8 +21,8 @@ namespace {
 struct Tables {
     Int component_count;
     Real* lengths;
-    Real* weights;
-    Real* segment_weights;
+    Real* chain_molecular_weights;
+    Real* segment_molecular_weights;
     Int* flags;
     Real* mole_fractions;
     Real* mass_fractions;
@@ -34,7 +34,8 @@ struct Tables {
 
 void clear_tables(const Tables& out)
 {
-    for (Real* values : {out.lengths, out.weights, out.segment_weights}) clear(values, out.component_count);
+    for (Real* values : {out.lengths, out.chain_molecular_weights, out.segment_molecular_weights})
+        clear(values, out.component_count);
     clear(out.flags, out.component_count);
     clear(out.segment_list, out.component_count);
     clear_square(out.mole_fractions, out.component_count);
@@ -66,13 +67,13 @@ void write_tables(const ComponentList& components, const Tables& out)
     write_segment_list(data, out.segment_list);
     const Int n = components.count();
     const Vector lengths{out.lengths, n};
-    const Vector segment_weights{out.segment_weights, n};
-    const Vector weights{out.weights, n};
+    const Vector segment_molecular_weights{out.segment_molecular_weights, n};
+    const Vector chain_molecular_weights{out.chain_molecular_weights, n};
     for (Int i = 1; i <= n; ++i) {
         const Species species{own_selector, components(i)};
         lengths(i) = chain::degree_of_polymerization(data, species);
-        segment_weights(i) = chain::mean_segment_weight(data, species);
-        weights(i) = lengths(i) * segment_weights(i);
+        segment_molecular_weights(i) = chain::mean_segment_molecular_weight(data, species);
+        chain_molecular_weights(i) = lengths(i) * segment_molecular_weights(i);
         if (!species.has_chains()) continue;
         ByComponent{out.flags}(species.component()) = 1;
         write_fractions(data, species, out);

@@ -1,8 +1,8 @@
 // A composite distribution published: as a table in the report and as plot data in the summary file.
-#include "distribution/distribution_report.h"
-#include "distribution/distribution_summary.h"
 #include "host/summary_channel.h"
 #include "polyprops/polyprops.h"
+#include "report/distribution_report.h"
+#include "report/distribution_summary.h"
 
 using namespace polyprops;
 
@@ -13,8 +13,8 @@ void POLY_CSDPLOT(const void* CONTEXT, const void* /*UNUSED1*/, const void* /*UN
                   const Real* SCALE, const Int* SCALED, const Int* GPC)
 {
     const Matrix values{Y, *N};
-    distribution::write_report(*N, Vector{X, *N}, Vector{values.column(1), *N}, *GPC != 0);
+    report::write_report(*N, Vector{X, *N}, Vector{values.column(1), *N}, *GPC != 0);
     if (!summary_is_wanted()) return;
     const Real scale = *SCALED == 1 ? *SCALE : 1.0;
-    distribution::write_plot_data(CONTEXT, {*N, Vector{X, *N}, values, *NC, scale});
+    report::write_plot_data(CONTEXT, {*N, Vector{X, *N}, values, *NC, scale});
 }

@@ -9,12 +9,12 @@ namespace polyprops::input {
 
 namespace {
 
-IntegerBlock property_table(Int word)
+IntegerBlock property_table(Int k)
 {
-    return find_integers(ST_PROPTAB[word - 1]);
+    return find_integers(word(ST_PROPTAB, k));
 }
 
-// The entries of the sentence, list beside list.
+// The entries of the sentence, one list for each of their parts.
 class ScalingEntries {
 public:
     explicit ScalingEntries(const IntegerBlock& sentence)

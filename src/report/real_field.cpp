@@ -1,10 +1,10 @@
-#include "distribution/real_field.h"
+#include "report/real_field.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 
-namespace polyprops::distribution {
+namespace polyprops::report {
 
 namespace {
 
@@ -93,4 +93,4 @@ RealField::RealField(Real value)
     std::copy_backward(text.view().begin(), text.view().end(), characters_.end());
 }
 
-}  // namespace polyprops::distribution
+}  // namespace polyprops::report

@@ -3,7 +3,7 @@
 
 #include "host/views.h"
 
-namespace polyprops::distribution {
+namespace polyprops::report {
 
 struct PlotData {
     Int points;
@@ -16,4 +16,4 @@ struct PlotData {
 // Advances the host's summary counters by five data sets and three list sets.
 void write_plot_data(const void* context, const PlotData& data);
 
-}  // namespace polyprops::distribution
+}  // namespace polyprops::report

@@ -1,9 +1,9 @@
 // Molecular weights of chains that a segment-count matrix implies, and their polydispersity.
 //
-//   MWS = Σ MW(s) SCM(j, s) / Σ SCM(j, s)     mean segment weight                        [g/mol]
-//   MWP = Σ MW(s) SCM(j, s)                   number-average weight                      [g/mol]
+//   MWS = Σ MW(s) SCM(j, s) / Σ SCM(j, s)     mean segment molecular weight              [g/mol]
+//   MWP = Σ MW(s) SCM(j, s)                   number-average molecular weight            [g/mol]
 //   PDI = S · Z / F², at least 1              Z chains, F segments (always Σ SFLOW), S second moment
-//   WWP = PDI · MWP                           weight-average weight                      [g/mol]
+//   WWP = PDI · MWP                           weight-average molecular weight            [g/mol]
 //
 // A component that is not flagged has its own molecular weight.
 #include "chain/molecular_weight.h"
@@ -14,20 +14,23 @@ namespace polyprops::mixture {
 
 namespace {
 
-// The rows of a segment-count matrix with what gives them weight.
-struct WeighedCounts {
-    ByComponent<const Real> weights;
+// The rows of a segment-count matrix with the molecular weights of their segments.
+struct ChainCounts {
+    ByComponent<const Real> molecular_weights;
     ComponentList segments;
     FlagArray flags;
     SegmentCountMatrix<const Real> counts;
 
-    Real mean_segment_weight(Component j) const
+    Real mean_segment_molecular_weight(Component j) const
     {
-        return flags.is_flagged(j) ? sum_by_number(counts, segments, j, weights).average() : weights(j);
+        return flags.is_flagged(j) ? sum_by_number(counts, segments, j, molecular_weights).average()
+                                   : molecular_weights(j);
     }
-    Real chain_weight(Component j) const
+    Real number_average_molecular_weight(Component j) const
     {
-        return flags.is_flagged(j) ? chain::weight_from_counts(counts, weights, segments, j) : weights(j);
+        return flags.is_flagged(j)
+                   ? chain::molecular_weight_from_counts(counts, molecular_weights, segments, j)
+                   : molecular_weights(j);
     }
 };
 
@@ -57,19 +60,20 @@ void POLY_GETMWS(const Int* N, const Int* IDX, const Int* LD, const Real* MW, co
                  const Int* ISEG, const Int* IFLAG, const Real* SCM, Real* OUT)
 {
     const ComponentList components{*N, IDX};
-    const mixture::WeighedCounts chains{ByComponent{MW}, {*NSEG, ISEG}, FlagArray{IFLAG}, {SCM, *LD}};
+    const mixture::ChainCounts chains{ByComponent{MW}, {*NSEG, ISEG}, FlagArray{IFLAG}, {SCM, *LD}};
     const ByComponent out{OUT};
     for (Int i = 1; i <= components.count(); ++i)
-        out(components(i)) = chains.mean_segment_weight(components(i));
+        out(components(i)) = chains.mean_segment_molecular_weight(components(i));
 }
 
 void POLY_GETMWP(const Int* N, const Int* IDX, const Int* LD, const Real* MW, const Int* NSEG,
                  const Int* ISEG, const Int* IFLAG, const Real* SCM, Real* OUT)
 {
     const ComponentList components{*N, IDX};
-    const mixture::WeighedCounts chains{ByComponent{MW}, {*NSEG, ISEG}, FlagArray{IFLAG}, {SCM, *LD}};
+    const mixture::ChainCounts chains{ByComponent{MW}, {*NSEG, ISEG}, FlagArray{IFLAG}, {SCM, *LD}};
     const Vector out{OUT, *N};
-    for (Int i = 1; i <= components.count(); ++i) out(i) = chains.chain_weight(components(i));
+    for (Int i = 1; i <= components.count(); ++i)
+        out(i) = chains.number_average_molecular_weight(components(i));
 }
 
 void POLY_GETWWP(const Int* N, const Int* IDX, const Int* LD, const Real* MW, const Int* NSEG,
@@ -78,11 +82,11 @@ void POLY_GETWWP(const Int* N, const Int* IDX, const Int* LD, const Real* MW, co
     const ComponentList components{*N, IDX};
     if (components.count() < 1) return;
     const auto data = mixture::locate_for_polydispersity(components);
-    const mixture::WeighedCounts chains{ByComponent{MW}, {*NSEG, ISEG}, FlagArray{IFLAG}, {SCM, *LD}};
+    const mixture::ChainCounts chains{ByComponent{MW}, {*NSEG, ISEG}, FlagArray{IFLAG}, {SCM, *LD}};
     const Vector out{OUT, *N};
     for (Int i = 1; i <= components.count(); ++i)
         out(i) = mixture::bounded_polydispersity(data, Species{own_selector, components(i)}) *
-                 chains.chain_weight(components(i));
+                 chains.number_average_molecular_weight(components(i));
 }
 
 void POLY_GETPOLI(const Int* SEL, const Int* N, const Int* IDX, Real* PDI)

@@ -3,8 +3,8 @@
 
 #include "host/views.h"
 
-namespace polyprops::distribution {
+namespace polyprops::report {
 
 void write_report(Int n, Vector<const Real> x, Vector<const Real> y, bool is_gpc);
 
-}  // namespace polyprops::distribution
+}  // namespace polyprops::report

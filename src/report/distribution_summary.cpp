@@ -6,13 +6,13 @@
 //   D+2   PROPERTIES  40002, chain length      YCSDS   section after section    D+4, D, D+3
 //   D+3   TRAY_NO     the sections
 //   D+4   PROPERTIES  40009, of sections
-#include "distribution/distribution_summary.h"
+#include "report/distribution_summary.h"
 
 #include <initializer_list>
 
 #include "host/summary_channel.h"
 
-namespace polyprops::distribution {
+namespace polyprops::report {
 
 namespace {
 
@@ -24,7 +24,7 @@ template <class Body>
 void index_set(std::string_view name, Body write_body)
 {
     summary::definition_break();
-    summary::word("IDSET");
+    summary::keyword("IDSET");
     summary::label("ID_");
     summary::integer(summary::next_data_set());
     summary::name(name);
@@ -46,20 +46,20 @@ void property_set(Int code)
 {
     index_set("PROPERTIES", [&] {
         summary::integer(code);
-        summary::word("*2");
+        summary::keyword("*2");
     });
 }
 
 void list_set(std::initializer_list<Int> data_sets)
 {
     summary::definition_break();
-    summary::word("LSET");
+    summary::keyword("LSET");
     summary::label("L_");
     summary::integer(summary::next_list_set());
     summary::open();
     bool is_first = true;
     for (const Int data_set : data_sets) {
-        if (!is_first) summary::word("&");
+        if (!is_first) summary::keyword("&");
         summary::label("%ID_");
         summary::integer(data_set);
         is_first = false;
@@ -95,4 +95,4 @@ void write_plot_data(const void* context, const PlotData& data)
     });
 }
 
-}  // namespace polyprops::distribution
+}  // namespace polyprops::report

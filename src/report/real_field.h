@@ -6,7 +6,7 @@
 
 #include "host/views.h"
 
-namespace polyprops::distribution {
+namespace polyprops::report {
 
 class RealField {
 public:
@@ -21,4 +21,4 @@ private:
     std::array<char, 11> characters_;
 };
 
-}  // namespace polyprops::distribution
+}  // namespace polyprops::report

@@ -1,8 +1,8 @@
 // The distribution report.
 //
-// Averages by the trapezoid rule, each segment weighted by the chain length at its right-hand end:
+// Averages from trapezoids of area a(k) between x(k) and x(k+1) under a curve of height h:
 //
-//   a(k) = 0.5·(h(k) + h(k+1))·(x(k+1) − x(k))     h = y, or y/x when y holds length times weight fraction
+//   h    = y, or y/x when y holds length times weight fraction
 //   Area = Σ a(k)
 //   Pn   = 1 / Σ a(k)/x(k+1)
 //   Pw   = Σ a(k)·x(k+1)
@@ -10,12 +10,13 @@
 //
 // The table reserves its rows and four of the five lines of its heading: hosts count the pages of a
 // distribution this way.
-#include "distribution/distribution_report.h"
+#include "report/distribution_report.h"
 
-#include "distribution/real_field.h"
 #include "host/report_channel.h"
+#include "numeric/trapezoid_averages.h"
+#include "report/real_field.h"
 
-namespace polyprops::distribution {
+namespace polyprops::report {
 
 namespace {
 
@@ -23,27 +24,9 @@ constexpr std::size_t indent = 6;
 constexpr Int heading_lines = 5;
 constexpr Int shortest_page = 6;  // a heading and two rows, one line more than is reserved
 
-struct Sums {
-    Real area = 0.0;
-    Real over_length = 0.0;
-    Real times_length = 0.0;
-};
-
-Sums integrate(Int n, Vector<const Real> x, Vector<const Real> y, bool is_gpc)
+numeric::TrapezoidSums sums_of(Int n, Vector<const Real> x, Vector<const Real> y, bool is_gpc)
 {
-    const auto height = [&](Int k) { return is_gpc ? y(k) / x(k) : y(k); };
-    Sums sums;
-    if (n < 2) return sums;
-    Real left = height(1);
-    for (Int k = 1; k < n; ++k) {
-        const Real right = height(k + 1);
-        const Real segment = 0.5 * (left + right) * (x(k + 1) - x(k));
-        sums.area += segment;
-        sums.over_length += segment / x(k + 1);
-        sums.times_length += segment * x(k + 1);
-        left = right;
-    }
-    return sums;
+    return numeric::trapezoid_sums(n, x, [&](Int k) { return is_gpc ? y(k) / x(k) : y(k); });
 }
 
 void write_indented(std::string_view text)
@@ -93,7 +76,7 @@ PageStart write_table(Int n, Vector<const Real> x, Vector<const Real> y, bool is
     return start;
 }
 
-void write_averages(const Sums& sums)
+void write_averages(const numeric::TrapezoidSums& sums)
 {
     const Real number_average = 1.0 / sums.over_length;
     const Real weight_average = sums.times_length;
@@ -119,11 +102,11 @@ void write_title()
 void write_report(Int n, Vector<const Real> x, Vector<const Real> y, bool is_gpc)
 {
     write_title();
-    const Sums sums = integrate(n, x, y, is_gpc);
+    const auto sums = sums_of(n, x, y, is_gpc);
     if (sums.area < zero_bound()) return;
     const PageStart start = write_table(n, x, y, is_gpc);
     reserve_report_lines(2, start);
     write_averages(sums);
 }
 
-}  // namespace polyprops::distribution
+}  // namespace polyprops::report
