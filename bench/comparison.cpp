@@ -62,11 +62,13 @@ struct Results {
     const Int n = d.size;
     Real added = 0;
     for (Int j = 0; j < sites; ++j) added += d.amounts[j];
-    const Real before = r.weights[sites], after = before + added;
+    const Real before = r.weights[sites];
+    const Real after = before + added;
     for (Int k = 0; k < n; ++k) {
         r.second[k] = 0;
         for (Int j = 0; j < sites; ++j) {
-            const Real s = d.tau[j] + d.beta[j], x = d.x[k];
+            const Real s = d.tau[j] + d.beta[j];
+            const Real x = d.x[k];
             const Real g =
                 std::exp(std::clamp(-s * x, -250.0, 80.59)) * x * s * (0.5 * x * d.beta[j] * s + d.tau[j]);
             Real& value = r.first[j * n + k];
@@ -166,7 +168,8 @@ bool agree(const Reals& a, const Reals& b)
 
 bool agree(const Case& c, const Data& data)
 {
-    Results library(data.size), loop(data.size);
+    Results library(data.size);
+    Results loop(data.size);
     for (int increment = 0; increment < 2; ++increment) {
         c.library(data, library);
         c.loop(data, loop);

@@ -46,7 +46,7 @@ public:
         for (Int left = bytes_.below(12); left > 0; --left) {
             SentenceWords words = words_of(sentence(1 + bytes_.byte() % 9));
             if (bytes_.chance(4)) damage(words);
-            sentences.push_back(std::move(words));
+            sentences.emplace_back(std::move(words));
         }
         return sentences;
     }
@@ -81,7 +81,7 @@ private:
                                             "EFRAC", "DPN",   "NONSENSE"};
         const Int first = bytes_.byte();
         std::vector<std::string> result;
-        for (Int i = bytes_.byte() % 8; i > 0; --i) result.push_back(names[(first + i) % 7]);
+        for (Int i = bytes_.byte() % 8; i > 0; --i) result.emplace_back(names[(first + i) % 7]);
         return result;
     }
 

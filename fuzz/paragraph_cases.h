@@ -9,6 +9,6 @@ namespace polyprops_fuzz {
 
 // Throws when something does not hold: minihost::Error for what the host refuses, std::logic_error for the
 // rest.
-void check_paragraphs(const std::uint8_t* bytes, std::size_t size);
+void check_paragraphs(const std::uint8_t* first, std::size_t size);
 
 }  // namespace polyprops_fuzz

@@ -14,8 +14,8 @@ have_command() { command -v "$1" >/dev/null; }
 have_header() { echo "#include <$1>" | g++ -std=c++20 -E -x c++ - >/dev/null 2>&1; }
 have_python() { python3 -c 'import sys; sys.exit(sys.version_info < (3, 11))' 2>/dev/null; }
 
-# The Debian packages that are missing: for the program, with the word `tests` for the tests as well, and with
-# `browser` for those that look at HTML reports, which are skipped without one.
+# The Debian packages that are missing: for the program, with the word `tests` for the tests as well, with `browser`
+# for those that look at HTML reports, which are skipped without one, and with `lint` for the checks of the sources.
 missing_packages() {
     have_command cmake || echo cmake
     have_command ninja || echo ninja-build
@@ -26,6 +26,11 @@ missing_packages() {
     have_header nlohmann/json.hpp || echo nlohmann-json3-dev
     [[ -f /usr/share/javascript/chart.js/chart.min.js ]] || echo libjs-chart.js
     [[ " $* " != *" browser "* ]] || have_command chromium || echo chromium
+    if [[ " $* " == *" lint "* ]]; then
+        have_command git || echo git
+        have_command clang-format || echo clang-format
+        have_command clang-tidy || echo clang-tidy
+    fi
     [[ " $* " == *" tests "* ]] || return 0
     have_header gtest/gtest.h || echo libgtest-dev
     have_python || echo python3

@@ -7,6 +7,7 @@
 
 import argparse
 import sys
+from itertools import zip_longest
 from pathlib import Path
 
 from exports import c_header, fortran, python_signatures, reference, table
@@ -30,6 +31,13 @@ def stale_files(root, routines):
             yield path, content
 
 
+def first_difference(path, content):
+    """The first line of a stale file that is wrong."""
+    seen = path.read_text(encoding="utf-8").splitlines() if path.is_file() else []
+    lines = enumerate(zip_longest(seen, content.splitlines()), 1)
+    return next((number for number, (old, new) in lines if old != new), 1)
+
+
 def main(arguments=None):
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--check", action="store_true", help="write nothing; exit with 1 when a file is stale")
@@ -44,7 +52,7 @@ def main(arguments=None):
     for path, content in stale:
         name = path.relative_to(options.root)
         if options.check:
-            print(f"{name}: does not follow from {TABLE}; run scripts/generate.py", file=sys.stderr)
+            print(f"{name}:{first_difference(path, content)}: does not follow from {TABLE}; run scripts/generate.py", file=sys.stderr)
             continue
         path.parent.mkdir(parents=True, exist_ok=True)
         path.write_text(content, encoding="utf-8")

@@ -13,7 +13,8 @@ using namespace cli_test;
 std::string shortened(std::string text)
 {
     const auto prefix = examples.parent_path().string() + "/";
-    for (auto at = text.find(prefix); at != text.npos; at = text.find(prefix)) text.erase(at, prefix.size());
+    for (auto at = text.find(prefix); at != std::string::npos; at = text.find(prefix))
+        text.erase(at, prefix.size());
     return text;
 }
 

@@ -69,7 +69,7 @@ TEST(MeasuredCurve, ResidualComparesCurvesOfAreaOne)
 
 TEST(MeasuredCurve, SaysWhatIsWrongWithItAndWhatACaseLacksForIt)
 {
-    const auto second =
+    const auto* const second =
         "[distributions.E]\npoints = 2\nlongest_chain = 9\nsites = [{ tau = 1, amount = 1 }]\n";
     const std::string two_numbers = "; expected two numbers, molecular weight and signal\n";
     const struct {

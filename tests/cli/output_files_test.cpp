@@ -33,7 +33,7 @@ std::vector<app::OutputFile> files_of(const Evaluation& e)
 std::size_t count(const std::string& text, const std::string& part)
 {
     std::size_t found = 0;
-    for (auto at = text.find(part); at != text.npos; at = text.find(part, at + 1)) ++found;
+    for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++found;
     return found;
 }
 

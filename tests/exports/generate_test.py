@@ -89,10 +89,12 @@ class Products(unittest.TestCase):
             self.assertEqual(capture(generate.main, ["--root", folder])[0], 0)
             self.assertEqual(capture(generate.main, ["--root", folder, "--check"]), (0, ""))
             stale = root / "src/exports/polyprops.map"
-            stale.write_text("stale")
+            sound = stale.read_text()
+            stale.write_text(sound + "stale")
             status, text = capture(generate.main, ["--root", folder, "--check"])
-            self.assertEqual((status, stale.read_text()), (1, "stale"))
-            self.assertIn("src/exports/polyprops.map: does not follow", text)
+            self.assertEqual((status, stale.read_text()), (1, sound + "stale"))
+            line = sound.count("\n") + 1
+            self.assertIn(f"src/exports/polyprops.map:{line}: does not follow", text)
             self.assertNotIn("polyprops.h", text)
 
 

@@ -36,7 +36,7 @@ struct Mixture {
         const int oligomers = whole(0, 3);
         for (int o = 0; o < oligomers; ++o) add_oligomer("O" + std::to_string(o));
         for (const char* id : {"C0", "C1"}) {
-            ids.push_back(id);
+            ids.emplace_back(id);
             world.conventional(id, number(10, 90));
         }
         world.host();

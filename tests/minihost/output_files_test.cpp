@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 bool contains(const std::string& text, const std::string& part)
 {
-    return text.find(part) != text.npos;
+    return text.find(part) != std::string::npos;
 }
 
 void write(Host& host, std::string_view line, std::int32_t unit = ST_FILES[27 - 1])

@@ -68,7 +68,7 @@ public:
     // list.
     World& segments(std::initializer_list<Segment> segments);
     // A polymer component, listed as a polymer, with its attributes in the current stream.
-    World& polymer(const std::string& id, const Attributes& attributes = {}, double molecular_weight = 1);
+    World& polymer(const std::string& id, const Attributes& given = {}, double molecular_weight = 1);
     // An oligomer component, listed as an oligomer, with its segments per molecule.
     World& oligomer(const std::string& id, const std::map<std::string, double>& counts,
                     double molecular_weight = 1);
@@ -86,7 +86,7 @@ public:
     }
 
     // Attributes of any component in the current stream.
-    World& attributes(const std::string& id, const Attributes& attributes);
+    World& attributes(const std::string& id, const Attributes& given);
     // The component carries the attribute, but the host gives an offset that is not positive.
     World& hidden_attribute(const std::string& id, const std::string& attribute, Int offset = -1)
     {
