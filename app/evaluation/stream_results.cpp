@@ -41,7 +41,7 @@ std::vector<ChainAverages> chain_averages(const StreamList& list, const Host& ho
 
 std::vector<SegmentShare> segment_shares(const std::vector<Int>& chains, Host& host)
 {
-    const auto segments = minihost::segment_list(host);
+    const auto segments = minihost::segment_ids(host);
     if (segments.empty()) return {};
     const auto n = static_cast<Int>(chains.size());
     const auto rows = static_cast<Int>(segments.size());

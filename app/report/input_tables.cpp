@@ -1,8 +1,8 @@
 // The tables of what the paragraph check and the catalyst scaling left behind. Counts, codes and places have
 // no unit, and the values that a paragraph only hands on have none that is known here.
-#include "minihost/polymer_input.h"
 #include "app/report/columns.h"
 #include "app/report/report.h"
+#include "minihost/polymer_input.h"
 
 namespace app {
 
@@ -61,7 +61,7 @@ Table make_up(const PolymerInput& built)
         const auto before = table.rows.size();
         for (std::size_t s = 0; s < oligomer.counts.size(); ++s)
             if (oligomer.counts[s] != 0)
-                table.rows.push_back({oligomer.id, built.segment_list[s], oligomer.counts[s]});
+                table.rows.push_back({oligomer.id, built.segment_ids[s], oligomer.counts[s]});
         if (table.rows.size() == before) table.rows.push_back({oligomer.id, std::string{}, 0.0});
     }
     return table;
