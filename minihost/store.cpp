@@ -345,7 +345,7 @@ void Store::check_guards(BlockId id, const Block& block) const
     };
     const bool damaged = (block.kind != BlockKind::reals && !intact(block.integers)) ||
                          (block.kind != BlockKind::integers && !intact(block.reals));
-    if (damaged) throw Error("words beside " + named(id) + " were overwritten");
+    if (damaged) throw Error("words around " + named(id) + " were overwritten");
 }
 
 Position Store::word_of_extent(const Extent& extent, BlockId id, Int k, const char* part)

@@ -26,7 +26,7 @@ public:
     // Words that the array has room for.
     static constexpr Int capacity = 16'000'000;
 
-    // What a new word holds in checked mode.
+    // Contents of a new word in checked mode.
     static constexpr Word poison = 0x7FF4'DEAD'0BAD'F00D;
 
     // Checked when the environment variable POLYPROPS_CHECKED_STORE is set to anything but 0, otherwise

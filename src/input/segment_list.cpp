@@ -19,7 +19,7 @@ public:
                  ListWriter{block.list(POLYPROPS_BRANCH4_SEGMENT_LIST)}}
     {
     }
-    // A segment of any other type stands in the list of all segments alone.
+    // A segment of any other type is only in the list of all segments.
     void append(Int type, Component segment) const
     {
         if (1 <= type && type <= 4) lists_[static_cast<std::size_t>(type - 1)].append(segment);
@@ -33,7 +33,7 @@ void note_segments(const Sentence& segments, const TypeLists& types, const Works
 {
     const SentenceWords words = segments.words();
     const Int ids = words.list_start(1);
-    // The types stand behind as many IDs as are stated, also where a cut sentence holds fewer.
+    // The types follow as many IDs as are stated, also where a cut sentence holds fewer.
     const Int types_at = ids + 2 * std::clamp<Int>(words.integer(3), 0, segments.integer_count);
     for (Int i = 1; i <= segments.entry_count; ++i) {
         const NamePair id = words.name(ids, i);

@@ -4,7 +4,7 @@ namespace polyprops::input {
 
 namespace {
 
-// What the host delivers for one sentence.
+// One sentence as the host delivers it.
 struct Delivery {
     Int kind;
     Int integer_position = 0;

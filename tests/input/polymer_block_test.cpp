@@ -19,7 +19,7 @@ TEST(PolymerParagraph, ListsSegmentsAndOligomersByIndexAndTheRestByOrderOfInput)
 {
     const SegmentSentence unsorted{
         {{"E", 1}, {"B", 4}, {"A", 1}, {"D", 3}, {"X", 1}, {"C", 9}, {"B", 2}, {"W", 2}}};
-    // A blank ID stands for the last one written, also when that was in error; of two counts the later holds.
+    // A blank ID repeats the last one written, also when that was in error; of two counts the later holds.
     const OligomerSentence oligomers{{{"R", "C", 5},
                                       {"O", "A", 2},
                                       {"", "B", 1},
@@ -142,7 +142,7 @@ TEST(PolymerParagraph, BuildsNothingForAnotherOperationOrAfterAnUnreadableSenten
 {
     CheckedParagraph world;
     EXPECT_EQ(world.check({polymer, segments}, 3), 0);
-    EXPECT_EQ(world.check({polymer, segments}, 5), 5) << "the answer alone";
+    EXPECT_EQ(world.check({polymer, segments}, 5), 5) << "the answer, nothing else";
     world.host.paragraph().fail_at(2);
     EXPECT_EQ(world.check({polymer, segments}), 2);
     EXPECT_TRUE(world.host.messages().printed().empty());
