@@ -1,6 +1,7 @@
 #include "fuzz/paragraph_cases.h"
 
 #include <polyprops/host.h>
+#include <polyprops/polymer_block.h>
 #include <polyprops/polyprops.h>
 
 #include <algorithm>
@@ -162,24 +163,35 @@ public:
 
     void check()
     {
-        for (const Int list : {2, 3, 9, 11, 12, 13, 17}) check_list(block(list), list == 17 ? 0 : 1);
-        for (const Int list : {6, 7}) check_list(block(list), list == 7 ? 0 : 1);
-        const Int segments = count(block(2));
-        check_ascending(block(2));
-        check_ascending(block(6));
-        for (Int s = 1; s <= segments; ++s) integer(block(2), 1 + segments + s);
-        for (Int k = 1; k <= segments * count(block(6)); ++k) real(block(6), k);
-        for (Int k = 1; k <= count(block(7)); ++k) real(block(7), k);
-        for (Int k = 1; k <= 13; ++k) integer(block(8), k);
-        real(block(8), 1);
-        const Int groups_end = integer(block(14), 12) + integer(block(14), 23);
-        require(groups_end == store_.real_length(block(14)),
-                "the attribute groups do not fill the layout table");
+        for (const auto list : {POLYPROPS_SEGMENT_LIST, POLYPROPS_POLYMER_LIST, POLYPROPS_OLIGOMER_LIST,
+                                POLYPROPS_END_SEGMENT_LIST, POLYPROPS_REPEAT_SEGMENT_LIST,
+                                POLYPROPS_BRANCH3_SEGMENT_LIST, POLYPROPS_BRANCH4_SEGMENT_LIST})
+            check_list(block(list), 1);
+        for (const auto list : {POLYPROPS_CATALYST_LIST, POLYPROPS_INITIATOR_LIST})
+            check_list(block(list), 0);
+        const BlockId segments = block(POLYPROPS_SEGMENT_LIST), oligomers = block(POLYPROPS_OLIGOMER_LIST);
+        const BlockId catalysts = block(POLYPROPS_CATALYST_LIST), parameters = block(POLYPROPS_PARAMETERS);
+        check_ascending(segments);
+        check_ascending(oligomers);
+        for (Int s = 1; s <= count(segments); ++s) integer(segments, 1 + count(segments) + s);
+        for (Int k = 1; k <= count(segments) * count(oligomers); ++k) real(oligomers, k);
+        for (Int k = 1; k <= count(catalysts); ++k) real(catalysts, k);
+        for (Int k = 1; k <= POLYPROPS_PARAMETER_INTEGERS; ++k) integer(parameters, k);
+        for (Int k = 1; k <= POLYPROPS_PARAMETER_REALS; ++k) real(parameters, k);
+        check_layout(block(POLYPROPS_ATTRIBUTE_LAYOUT));
         check_distributions();
     }
 
 private:
-    BlockId block(Int word) { return store_.integer(host_.polymer_block(), word); }
+    void check_layout(BlockId layout)
+    {
+        const Int last = POLYPROPS_GROUPS - 1;
+        const Int groups_end =
+            integer(layout, POLYPROPS_GROUP_STARTS + last) + integer(layout, POLYPROPS_GROUP_LENGTHS + last);
+        require(groups_end == store_.real_length(layout),
+                "the attribute groups do not fill the layout table");
+    }
+    BlockId block(PolypropsPolymerWord word) { return store_.integer(host_.polymer_block(), word); }
     Int count(BlockId id) { return store_.integer(id, 1); }
     // A word that a reader may read: it lies in its block and was written.
     Int integer(BlockId id, Int k)
@@ -207,14 +219,16 @@ private:
     }
     void check_distributions()
     {
-        require(integer(block(16), 1) == 4, "the distribution directory has not four types");
-        for (Int type = 1; type <= 4; ++type) {
-            const BlockId requests = integer(block(16), 1 + type);
+        const BlockId directory = block(POLYPROPS_DISTRIBUTION_DIRECTORY);
+        require(count(directory) == POLYPROPS_DISTRIBUTION_TYPES,
+                "the distribution directory has another number of types");
+        for (Int type = 1; type <= count(directory); ++type) {
+            const BlockId requests = integer(directory, 1 + type);
             if (requests == 0) continue;
-            for (Int k = 1; k <= 1 + 5 * count(requests); ++k) integer(requests, k);
+            for (Int k = 1; k <= 1 + POLYPROPS_REQUEST_COLUMNS * count(requests); ++k) integer(requests, k);
             for (Int k = 1; k <= count(requests); ++k) {
                 require(integer(requests, 1 + count(requests) + k) == type,
-                        "a request stands under another type");
+                        "a request is filed under another type");
                 real(requests, k);
             }
         }

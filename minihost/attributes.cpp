@@ -77,9 +77,9 @@ std::size_t AttributeTable::row(Int component) const
     return static_cast<std::size_t>(component - 1);
 }
 
-void AttributeTable::check_open(const char* what) const
+void AttributeTable::check_open(const char* subject) const
 {
-    if (frozen_) throw Error(std::string(what) + " cannot change: streams already hold attribute values");
+    if (frozen_) throw Error(std::string(subject) + " cannot change: streams already hold attribute values");
 }
 
 void AttributeTable::carry(Int component, const std::vector<std::string>& names)

@@ -1,4 +1,4 @@
-// Which attributes each component carries and where their values stand.
+// The attributes that each component carries, and the places of their values.
 //
 // Attribute values follow the component flows of each substream. With k0 the position of component 1's flow
 // in a stream vector SV and j the attribute's offset, element e is SV(k0 + j + e - 1); an offset therefore
@@ -20,7 +20,7 @@ namespace minihost {
 struct AttributeDimensions {
     Int segments = 0;
     Int end_segments = 0;
-    Int sites = 0;  // catalyst site types; none counts as one, whose values stand for the whole catalyst
+    Int sites = 0;  // catalyst site types; none counts as one: the whole catalyst
     bool operator==(const AttributeDimensions&) const = default;
 };
 
@@ -69,7 +69,7 @@ public:
     // The attribute of a component, null when it does not carry it.
     const Entry* find(Int component, std::string_view name) const;
 
-    // What the library is told: the offset, 0 when the component does not carry the attribute.
+    // The offset that the library gets, 0 when the component does not carry the attribute.
     Int reported_offset(Int component, std::string_view name) const;
 
     const std::vector<Entry>& carried_by(Int component) const;
@@ -78,7 +78,7 @@ public:
     Int substream_length() const { return substream_length_; }
 
 private:
-    void check_open(const char* what) const;
+    void check_open(const char* subject) const;
     std::size_t row(Int component) const;
 
     std::vector<std::vector<Entry>> rows_;

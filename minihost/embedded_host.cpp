@@ -1,6 +1,7 @@
 #include "minihost/embedded_host.h"
 
 #include <polyprops/host.h>
+#include <polyprops/polymer_block.h>
 
 #include "minihost/records.h"
 #include "minihost/services.h"
@@ -8,31 +9,19 @@
 namespace minihost {
 namespace {
 
-// Block 2 is the run's directory; its word 200 names the polymer root block, whose word 13 names the polymer
-// block.
-constexpr BlockId directory_id = 2;
 constexpr Int directory_words = 256;
-constexpr Int root_entry = 200;
 constexpr Int root_words = 32;
-constexpr Int polymer_entry = 13;
-
-BlockId allocate_cleared(Store& store, Int length)
-{
-    const BlockId id = store.allocate_integers(length);
-    for (Int k = 1; k <= length; ++k) store.set_integer(id, k, 0);
-    return id;
-}
 
 BlockId allocate_directory(Store& store)
 {
-    while (store.block_count() < directory_id - 1) allocate_cleared(store, 1);
-    return allocate_cleared(store, directory_words);
+    while (store.block_count() < POLYPROPS_RUN_DIRECTORY_ID - 1) store.allocate_zeros(1);
+    return store.allocate_zeros(directory_words);
 }
 
 BlockId allocate_root(Store& store, BlockId directory)
 {
-    const BlockId root = allocate_cleared(store, root_words);
-    store.set_integer(directory, root_entry, root);
+    const BlockId root = store.allocate_zeros(root_words);
+    store.set_integer(directory, POLYPROPS_ROOT_WORD, root);
     return root;
 }
 
@@ -41,11 +30,6 @@ Int count_polymers(const ComponentTable& components)
     Int count = 0;
     for (Int c = 1; c <= components.count(); ++c) count += components.is(ComponentClass::polymer, c);
     return count;
-}
-
-Int count_of_list(const Store& store, BlockId list)
-{
-    return list > 0 ? store.integer(list, 1) : 0;
 }
 
 }  // namespace
@@ -89,21 +73,24 @@ Host& Host::active()
 
 BlockId Host::polymer_block()
 {
-    return store_.integer(root_, polymer_entry);
+    return store_.integer(root_, POLYPROPS_POLYMER_BLOCK_WORD);
 }
 void Host::set_polymer_block(BlockId id)
 {
-    store_.set_integer(root_, polymer_entry, id);
+    store_.set_integer(root_, POLYPROPS_POLYMER_BLOCK_WORD, id);
 }
 
 AttributeDimensions Host::dimensions()
 {
     const BlockId id = polymer_block();
     if (id <= 0) return {};
-    const BlockId parameters = store_.integer(id, 8);
-    return {.segments = count_of_list(store_, store_.integer(id, 2)),
-            .end_segments = count_of_list(store_, store_.integer(id, 9)),
-            .sites = count_of_list(store_, parameters)};
+    const auto word_1 = [&](PolypropsPolymerWord word) {
+        const BlockId block = store_.integer(id, word);
+        return block > 0 ? store_.integer(block, 1) : 0;
+    };
+    return {.segments = word_1(POLYPROPS_SEGMENT_LIST),
+            .end_segments = word_1(POLYPROPS_END_SEGMENT_LIST),
+            .sites = word_1(POLYPROPS_PARAMETERS)};
 }
 
 Int Host::attribute_offset(Int component, std::string_view name)

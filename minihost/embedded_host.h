@@ -16,8 +16,8 @@
 #include <string_view>
 #include <vector>
 
+#include "minihost/attribute_blocks.h"
 #include "minihost/attributes.h"
-#include "minihost/catalyst_scaling.h"
 #include "minihost/component_table.h"
 #include "minihost/error.h"
 #include "minihost/keywords.h"
@@ -25,6 +25,7 @@
 #include "minihost/polymer_paragraph.h"
 #include "minihost/property_sentences.h"
 #include "minihost/report_file.h"
+#include "minihost/scaling_sentence.h"
 #include "minihost/store.h"
 #include "minihost/streams.h"
 #include "minihost/summary_file.h"
@@ -35,8 +36,8 @@ struct Options {
     Store::Mode store_mode = Store::default_mode();
     double missing_value_bound = 1e35;
     double zero_bound = 1e-15;
-    std::set<Parameter> absent_parameters =
-        {};  // parameter vectors that do not exist whatever components give
+    // Parameter vectors that do not exist, whatever components give.
+    std::set<Parameter> absent_parameters = {};
 };
 
 class Host {
@@ -61,7 +62,7 @@ public:
     ReportFile& report() { return report_; }
     SummaryFile& summary() { return summary_; }
 
-    // What a caller hands to the paragraph check as the semantics context, for the host to know it again.
+    // The semantics context that a caller hands to the paragraph check; the host recognizes it.
     const void* semantics_context() const { return &property_sentences_; }
 
     // Component attribute blocks for the attributes that components carry now.
@@ -83,7 +84,7 @@ public:
     void select_stream(std::string_view name, Int substream = 1) { streams_.select(name, substream); }
 
     void set_bounds(double missing_value_bound, double zero_bound);
-    void set_pdi_mode(Int mode);        // 100: polydispersity is the PDI parameter alone
+    void set_pdi_mode(Int mode);        // 100: polydispersity is the PDI parameter, nothing else
     void set_polymer_count(Int count);  // number of polymer components; counted from the classes at first
 
 private:

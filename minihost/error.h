@@ -4,7 +4,7 @@
 
 namespace minihost {
 
-// What the host refuses. The text names the thing refused, what was seen and what was expected.
+// A refusal. The text names the thing refused, the value seen and the value expected.
 class Error : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;

@@ -21,8 +21,8 @@ constexpr Int entry_base = 50'000;
 
 BlockId lay_table(Store& store, Int rows)
 {
-    const BlockId id = store.allocate_integers(1 + rows * row_words, Placement::pinned);
-    for (Int k = 1; k <= 1 + rows * row_words; ++k) store.set_integer(id, k, k == 1 ? rows : 0);
+    const BlockId id = store.allocate_zeros(1 + rows * row_words, Placement::pinned);
+    store.set_integer(id, 1, rows);
     return id;
 }
 

@@ -9,7 +9,7 @@ namespace minihost {
 class Store;
 
 // The keyword tables: a table, named by word 1 of ST_TABLES, with one row per keyword, whose last word leads
-// to a sub-table; the row of the sub-table leads to the value that stands for the keyword in a built
+// to a sub-table; the row of the sub-table leads to the value that replaces the keyword in a built
 // sentence.
 class KeywordTables {
 public:
@@ -29,7 +29,7 @@ public:
     // Where a table entry leads. Throws Error for a number that is no table entry.
     Reading read(Int entry) const;
 
-    // What word 1 of the keyword-value block of an ATTR-COMPS sentence holds.
+    // Word 1 of the keyword-value block of an ATTR-COMPS sentence.
     BlockId attribute_sentence_value() const { return value_; }
 
 private:

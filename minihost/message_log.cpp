@@ -12,8 +12,8 @@ namespace {
 constexpr Int buffer_lines = 10;
 constexpr Int line_length = 80;
 
-// A message blanks what it does not write: what an earlier one left must not shine through unseen.
-void scribble()
+// A message must blank the lines that it does not write; marks show where it did not.
+void mark_buffer_unwritten()
 {
     std::fill_n(ST_ERROUT, buffer_lines * line_length, '#');
 }
@@ -29,7 +29,7 @@ std::string buffer_line(Int line)
 
 MessageLog::MessageLog()
 {
-    scribble();
+    mark_buffer_unwritten();
 }
 
 void MessageLog::set_level(Int level)
@@ -61,7 +61,7 @@ void MessageLog::print(Int line_count)
     for (Int line = 0; line < line_count; ++line) pending_.lines.push_back(buffer_line(line));
     printed_.push_back(std::move(pending_));
     pending_ = {};
-    scribble();
+    mark_buffer_unwritten();
 }
 
 void MessageLog::clear()

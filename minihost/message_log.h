@@ -1,7 +1,8 @@
-// The message channel: a level check, a buffer of 10 lines of 80 characters, and what was printed from it.
+// The message channel: a level check, a buffer of 10 lines of 80 characters, and the messages printed from
+// it.
 //
-// Severity 1 is severer than 2. A message is printed when its severity is at most the printed level, which
-// stands in word 6 of ST_GLOBAL.
+// Severity 1 is severer than 2. A message is printed when its severity is at most the printed level, word
+// 6 of ST_GLOBAL.
 #pragma once
 
 #include <map>

@@ -77,7 +77,7 @@ struct SentenceWords {
     std::vector<double> reals = {};
 };
 
-// A sentence of kind 1 to 8 in that order, or words that are delivered as they stand.
+// A sentence of kind 1 to 8 in that order, or words that are delivered unchanged.
 using Sentence =
     std::variant<PolymerSentence, SegmentSentence, AttributeSentence, OligomerSentence, CatalystSentence,
                  SiteSentence, DistributionSentence, InitiatorSentence, SentenceWords>;

@@ -1,113 +1,92 @@
 #include "minihost/polymer_input.h"
 
+#include <polyprops/polymer_block.h>
+
 #include <algorithm>
 
-namespace minihost {
+#include "minihost/embedded_host.h"
 
+namespace minihost {
 namespace {
 
-
-// Words of the polymer block.
-enum BlockWord : Int {
-    segments = 2,
-    polymers = 3,
-    oligomers = 6,
-    catalysts = 7,
-    parameters = 8,
-    end_segments = 9,
-    branch3_segments = 11,
-    branch4_segments = 12,
-    repeat_segments = 13,
-    attribute_layout = 14,
-    distributions = 16,
-    initiators = 17,
-};
-
-constexpr Int attribute_groups = 11;
-
-class Reader {
+class PolymerBlockReader {
 public:
-    explicit Reader(Host& host)
+    explicit PolymerBlockReader(Host& host)
         : store_(host.store()), components_(host.components()), polymer_block_(host.polymer_block())
     {
     }
 
     bool has_polymer_block() const { return polymer_block_ > 0; }
 
-    std::vector<std::string> list(BlockWord word) const
+    // The entry of an unknown ID holds 0.
+    std::vector<std::string> ids(PolypropsPolymerWord word) const
     {
-        std::vector<std::string> ids;
-        if (!has_polymer_block()) return ids;
-        for (Int i = 1; i <= count(block(word)); ++i) ids.push_back(id_in(block(word), i + 1));
-        return ids;
+        std::vector<std::string> all;
+        if (!has_polymer_block()) return all;
+        const BlockId list = block(word);
+        for (Int i = 1; i <= count(list); ++i)
+            if (store_.integer(list, i + 1) > 0) all.push_back(id_in(list, i + 1));
+        return all;
     }
 
-    std::vector<ListedSegment> segments_by_type() const
+    std::vector<ListedSegment> segments() const
     {
-        const auto in_order = list(BlockWord::segments);
+        const auto in_order = ids(POLYPROPS_SEGMENT_LIST);
         std::vector<ListedSegment> all;
-        for (const auto& [word, type] : {std::pair{BlockWord::end_segments, 1},
-                                         {BlockWord::repeat_segments, 2},
-                                         {BlockWord::branch3_segments, 3},
-                                         {BlockWord::branch4_segments, 4}})
-            for (const auto& id : list(word))
+        for (const auto& [word, type] : {std::pair{POLYPROPS_END_SEGMENT_LIST, 1},
+                                         {POLYPROPS_REPEAT_SEGMENT_LIST, 2},
+                                         {POLYPROPS_BRANCH3_SEGMENT_LIST, 3},
+                                         {POLYPROPS_BRANCH4_SEGMENT_LIST, 4}})
+            for (const auto& id : ids(word))
                 all.push_back({id, type, std::ranges::find(in_order, id) - in_order.begin() + 1});
         return all;
     }
 
-    std::vector<ListedOligomer> make_up() const
+    std::vector<ListedOligomer> oligomers() const
     {
-        const Int rows = count(block(BlockWord::segments));
+        const Int rows = count(block(POLYPROPS_SEGMENT_LIST));
         std::vector<ListedOligomer> all;
-        for (const auto& id : list(BlockWord::oligomers)) {
+        for (const auto& id : ids(POLYPROPS_OLIGOMER_LIST)) {
             ListedOligomer oligomer{id, {}};
             for (Int s = 1; s <= rows; ++s)
                 oligomer.counts.push_back(
-                    store_.real(block(BlockWord::oligomers), static_cast<Int>(all.size()) * rows + s));
+                    store_.real(block(POLYPROPS_OLIGOMER_LIST), static_cast<Int>(all.size()) * rows + s));
             all.push_back(std::move(oligomer));
         }
         return all;
     }
 
-    // An entry whose ID no component has keeps its place, which then holds 0.
-    std::vector<ListedCatalyst> catalyst_list() const
+    std::vector<ListedCatalyst> catalysts() const
     {
-        const BlockId id = block(BlockWord::catalysts);
+        const BlockId id = block(POLYPROPS_CATALYST_LIST);
         std::vector<ListedCatalyst> all;
         for (Int i = 1; i <= count(id); ++i)
             if (store_.integer(id, i + 1) > 0) all.push_back({id_in(id, i + 1), store_.real(id, i)});
         return all;
     }
 
-    std::vector<std::string> initiator_list() const
-    {
-        const BlockId id = block(BlockWord::initiators);
-        std::vector<std::string> all;
-        for (Int i = 1; i <= count(id); ++i)
-            if (store_.integer(id, i + 1) > 0) all.push_back(id_in(id, i + 1));
-        return all;
-    }
-
     SiteData sites() const
     {
-        const BlockId id = block(BlockWord::parameters);
-        return {store_.integer(id, 1),
-                {store_.integer(id, 11), store_.integer(id, 12), store_.integer(id, 13)},
+        const BlockId id = block(POLYPROPS_PARAMETERS);
+        const auto further = [&](Int k) { return store_.integer(id, POLYPROPS_SITE_INTEGERS + k); };
+        return {store_.integer(id, POLYPROPS_SITE_TYPES),
+                {further(0), further(1), further(2)},
                 store_.real(id, 1)};
     }
 
-    std::vector<AttributeGroup> layout() const
+    std::vector<AttributeGroup> attribute_layout() const
     {
-        const BlockId id = block(BlockWord::attribute_layout);
+        const BlockId id = block(POLYPROPS_ATTRIBUTE_LAYOUT);
         std::vector<AttributeGroup> groups;
-        for (Int g = 1; g <= attribute_groups; ++g)
-            groups.push_back({store_.integer(id, 1 + g), store_.integer(id, 1 + attribute_groups + g)});
+        for (Int g = 0; g < POLYPROPS_GROUPS; ++g)
+            groups.push_back({store_.integer(id, POLYPROPS_GROUP_STARTS + g),
+                              store_.integer(id, POLYPROPS_GROUP_LENGTHS + g)});
         return groups;
     }
 
-    std::vector<ListedDistribution> requests() const
+    std::vector<ListedDistribution> distributions() const
     {
-        const BlockId directory = block(BlockWord::distributions);
+        const BlockId directory = block(POLYPROPS_DISTRIBUTION_DIRECTORY);
         std::vector<ListedDistribution> all;
         for (Int type = 1; type <= count(directory); ++type)
             if (const BlockId id = store_.integer(directory, type + 1); id > 0) append_requests(id, all);
@@ -115,7 +94,7 @@ public:
     }
 
 private:
-    BlockId block(BlockWord word) const { return store_.integer(polymer_block_, word); }
+    BlockId block(PolypropsPolymerWord word) const { return store_.integer(polymer_block_, word); }
     Int count(BlockId id) const { return store_.integer(id, 1); }
     std::string id_in(BlockId id, Int word) const { return components_.at(store_.integer(id, word)).id; }
 
@@ -137,27 +116,27 @@ private:
 
 PolymerInput read_polymer_input(Host& host)
 {
-    const Reader reader{host};
+    const PolymerBlockReader reader{host};
     if (!reader.has_polymer_block()) return {};
-    return {.segment_list = reader.list(BlockWord::segments),
-            .segments = reader.segments_by_type(),
-            .polymers = reader.list(BlockWord::polymers),
-            .oligomers = reader.make_up(),
-            .catalysts = reader.catalyst_list(),
-            .initiators = reader.initiator_list(),
+    return {.segment_ids = reader.ids(POLYPROPS_SEGMENT_LIST),
+            .segments = reader.segments(),
+            .polymers = reader.ids(POLYPROPS_POLYMER_LIST),
+            .oligomers = reader.oligomers(),
+            .catalysts = reader.catalysts(),
+            .initiators = reader.ids(POLYPROPS_INITIATOR_LIST),
             .sites = reader.sites(),
-            .attribute_layout = reader.layout(),
-            .distributions = reader.requests()};
+            .attribute_layout = reader.attribute_layout(),
+            .distributions = reader.distributions()};
 }
 
-std::vector<std::string> segment_list(Host& host)
+std::vector<std::string> segment_ids(Host& host)
 {
-    return Reader{host}.list(BlockWord::segments);
+    return PolymerBlockReader{host}.ids(POLYPROPS_SEGMENT_LIST);
 }
 
-std::vector<std::string> end_segment_list(Host& host)
+std::vector<std::string> end_segment_ids(Host& host)
 {
-    return Reader{host}.list(BlockWord::end_segments);
+    return PolymerBlockReader{host}.ids(POLYPROPS_END_SEGMENT_LIST);
 }
 
 }  // namespace minihost

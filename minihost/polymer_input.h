@@ -1,13 +1,15 @@
-// What the paragraph check built, read from the blocks that it left in the host's store.
+// The result of the paragraph check, read back from the polymer block for display.
 #pragma once
 
 #include <array>
 #include <string>
 #include <vector>
 
-#include "minihost/embedded_host.h"
+#include "minihost/store_words.h"
 
 namespace minihost {
+
+class Host;
 
 struct ListedSegment {
     std::string id;
@@ -31,7 +33,7 @@ struct SiteData {
     double real;
 };
 
-// One of the groups that lie end to end in an attribute vector.
+// A group of elements of an attribute vector.
 struct AttributeGroup {
     Int start;
     Int length;
@@ -45,8 +47,8 @@ struct ListedDistribution {
 };
 
 struct PolymerInput {
-    std::vector<std::string> segment_list;
-    std::vector<ListedSegment> segments;  // type by type
+    std::vector<std::string> segment_ids;  // in the order of the segment list
+    std::vector<ListedSegment> segments;   // type by type
     std::vector<std::string> polymers;
     std::vector<ListedOligomer> oligomers;
     std::vector<ListedCatalyst> catalysts;
@@ -56,11 +58,11 @@ struct PolymerInput {
     std::vector<ListedDistribution> distributions;  // type by type
 };
 
-// All empty in a run without polymer block.
+// Empty without a polymer block. Catalysts and initiators whose ID no component has are left out.
 PolymerInput read_polymer_input(Host& host);
 
-// IDs of one of its lists alone.
-std::vector<std::string> segment_list(Host& host);
-std::vector<std::string> end_segment_list(Host& host);
+// The IDs in the segment list and in the list of end segments. Empty without a polymer block.
+std::vector<std::string> segment_ids(Host& host);
+std::vector<std::string> end_segment_ids(Host& host);
 
 }  // namespace minihost

@@ -19,8 +19,7 @@ public:
     struct Forwarded {
         std::string component;
         std::vector<std::string> names;
-        std::string
-            refusal;  // why the host did not take it; empty when the component carries the attributes
+        std::string refusal;  // why the host refused it; empty when the component carries the attributes
     };
 
     PropertySentences(const Store& store, const ComponentTable& components, const KeywordTables& keywords,

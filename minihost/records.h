@@ -5,7 +5,7 @@ namespace minihost {
 
 inline constexpr int record_size = 1024;  // words of every record but the store and the message buffer
 
-// Clears every record and sets the values that stand for "nothing used yet".
+// Clears every record and sets the values that mean "nothing used yet".
 void reset_records();
 
 }  // namespace minihost

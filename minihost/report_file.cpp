@@ -19,7 +19,7 @@ Int& lines_per_page()
     return RP_PAGE[4 - 1];
 }
 
-std::string heading(const std::string& title, Int page)
+std::string heading(const std::string& title, std::size_t page)
 {
     const std::string number = "Page " + std::to_string(page);
     const std::size_t used = title.size() + number.size();
@@ -28,6 +28,17 @@ std::string heading(const std::string& title, Int page)
 }
 
 }  // namespace
+
+std::string page_text(const std::string& title, const std::vector<ReportPage>& pages)
+{
+    std::string text;
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        if (i > 0) text += '\f';
+        text += heading(title, i + 1);
+        for (const std::string& line : pages[i]) text += line + '\n';
+    }
+    return text;
+}
 
 void ReportFile::set_lines_per_page(Int lines)
 {
@@ -39,7 +50,7 @@ void ReportFile::reserve(Int lines, bool new_page)
 {
     if (lines < 0) throw Error("reserved report lines: " + std::to_string(lines) + "; expected 0 or more");
     const bool fits = lines <= lines_per_page() - lines_used();
-    if (pages_ == 0 || (lines_used() > 0 && (new_page || !fits))) start_page();
+    if (pages_.empty() || (lines_used() > 0 && (new_page || !fits))) start_page();
 }
 
 void ReportFile::write_line(Int unit, Int length, const char* text)
@@ -51,15 +62,14 @@ void ReportFile::write_line(Int unit, Int length, const char* text)
     const std::string_view line(text, static_cast<std::size_t>(length));
     if (line.find_first_of("\n\r\f") != std::string_view::npos)
         throw Error("report line with a line end in it");
-    if (pages_ == 0) start_page();
-    text_.append(line).push_back('\n');
+    if (pages_.empty()) start_page();
+    pages_.back().emplace_back(line);
     ++lines_used();
 }
 
 void ReportFile::start_page()
 {
-    if (pages_ > 0) text_.push_back('\f');
-    text_ += heading(title_, ++pages_);
+    pages_.emplace_back();
     lines_used() = 0;
 }
 

@@ -7,35 +7,39 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "minihost/store_words.h"
 
 namespace minihost {
 
+// The lines under the heading, without line ends.
+using ReportPage = std::vector<std::string>;
+
+// The text of a report file with these pages.
+std::string page_text(const std::string& title, const std::vector<ReportPage>& pages);
+
 class ReportFile {
 public:
-    static constexpr Int default_lines_per_page = 60;
-
-    // Heads every page that starts after it.
+    // Heads every page.
     void set_title(std::string_view title) { title_ = title; }
     // Throws Error below 1.
     void set_lines_per_page(Int lines);
 
-    // Starts a new page when told to, or when the lines do not fit on this one; never behind an empty page.
+    // Starts a new page when asked to, or when the lines do not fit on this one; never behind an empty page.
     void reserve(Int lines, bool new_page);
     // Throws Error for a unit that is not the report unit, a negative length, and a line end within the
     // line.
     void write_line(Int unit, Int length, const char* text);
 
-    Int pages() const { return pages_; }
-    const std::string& text() const { return text_; }
+    const std::vector<ReportPage>& pages() const { return pages_; }
+    std::string text() const { return page_text(title_, pages_); }
 
 private:
     void start_page();
 
     std::string title_;
-    std::string text_;
-    Int pages_ = 0;
+    std::vector<ReportPage> pages_;
 };
 
 }  // namespace minihost

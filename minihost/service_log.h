@@ -34,7 +34,7 @@ public:
     // Calls that were made more than once with the same subject, attribute and selector, each named once.
     std::vector<ServiceCall> repeated(std::string_view service) const;
 
-    // What services.cpp tells; nothing is kept without a log.
+    // For services.cpp: a call is recorded only while a log exists.
     static bool wanted() { return current_ != nullptr; }
     static void record(ServiceCall call) { current_->calls_.push_back(std::move(call)); }
 

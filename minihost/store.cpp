@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <string_view>
 
 #include "minihost/error.h"
 #include "minihost/store_memory.h"
@@ -74,12 +73,12 @@ Store::Store(Mode mode)
       pinned_(pinned_arena(mode)),
       halves_{half_arena(mode, 0), half_arena(mode, 1)}
 {
-    if (mode == Mode::checked) memory::close_all();
+    if (mode == Mode::checked) memory::close(1, capacity);
 }
 
 Store::~Store()
 {
-    if (mode_ == Mode::checked) memory::open_all();
+    if (mode_ == Mode::checked) memory::open(1, capacity);
 }
 
 BlockId Store::allocate_integers(Int length, Placement placement)
@@ -95,6 +94,13 @@ BlockId Store::allocate_reals(Int length, Placement placement)
 BlockId Store::allocate_two_part(Int integers, Int reals, Placement placement)
 {
     return allocate(BlockKind::two_part, integers, reals, placement);
+}
+
+BlockId Store::allocate_zeros(Int length, Placement placement)
+{
+    const BlockId id = allocate_integers(length, placement);
+    for (Int k = 1; k <= length; ++k) set_integer(id, k, 0);
+    return id;
 }
 
 BlockId Store::allocate(BlockKind kind, Int integers, Int reals, Placement placement)
@@ -187,6 +193,13 @@ double Store::real(BlockId id, Int k) const
 void Store::set_real(BlockId id, Int k, double value)
 {
     ST_WORDS[word_of_extent(real_extent(id), id, k, "real") - 1] = word_of(value);
+}
+
+void Store::set_name(BlockId id, Int k, std::string_view name)
+{
+    const NamePair pair = name_pair(name);
+    set_integer(id, k, pair[0]);
+    set_integer(id, k + 1, pair[1]);
 }
 
 void Store::check_run(const void* first, Int count, const char* service) const
@@ -332,13 +345,13 @@ void Store::check_guards(BlockId id, const Block& block) const
     };
     const bool damaged = (block.kind != BlockKind::reals && !intact(block.integers)) ||
                          (block.kind != BlockKind::integers && !intact(block.reals));
-    if (damaged) throw Error("words beside " + named(id) + " were overwritten");
+    if (damaged) throw Error("words around " + named(id) + " were overwritten");
 }
 
-Position Store::word_of_extent(const Extent& extent, BlockId id, Int k, const char* what)
+Position Store::word_of_extent(const Extent& extent, BlockId id, Int k, const char* part)
 {
     if (k < 1 || k > extent.length)
-        throw Error(named(id) + " has no " + what + " word " + std::to_string(k) + "; it has " +
+        throw Error(named(id) + " has no " + part + " word " + std::to_string(k) + "; it has " +
                     std::to_string(extent.length));
     return extent.position + k - 1;
 }

@@ -1,11 +1,12 @@
 // The word store: blocks of integers, of reals, or of both, named by ids, inside the one array ST_WORDS.
 //
-// Plain mode reuses freed space first-fit and clears new blocks. Checked mode is for tests: every block
-// stands between guard words, every allocation moves every movable block, new, freed and vacated words hold a
+// Plain mode reuses freed space first-fit and clears new blocks. Checked mode is for tests: guard words
+// enclose every block, every allocation moves every movable block, new, freed and vacated words hold a
 // pattern that is a signalling NaN and a huge count, and the address sanitizer sees nothing but live blocks.
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "minihost/arena.h"
@@ -25,7 +26,7 @@ public:
     // Words that the array has room for.
     static constexpr Int capacity = 16'000'000;
 
-    // What a new word holds in checked mode.
+    // Contents of a new word in checked mode.
     static constexpr Word poison = 0x7FF4'DEAD'0BAD'F00D;
 
     // Checked when the environment variable POLYPROPS_CHECKED_STORE is set to anything but 0, otherwise
@@ -43,6 +44,8 @@ public:
     BlockId allocate_integers(Int length, Placement placement = Placement::movable);
     BlockId allocate_reals(Int length, Placement placement = Placement::movable);
     BlockId allocate_two_part(Int integers, Int reals, Placement placement = Placement::movable);
+    // An integer block of zeros.
+    BlockId allocate_zeros(Int length, Placement placement = Placement::movable);
 
     // Gives an integer block a new length; the words that fit keep their contents.
     void resize_integers(BlockId id, Int length);
@@ -65,6 +68,8 @@ public:
     void set_integer(BlockId id, Int k, Word value);
     double real(BlockId id, Int k) const;
     void set_real(BlockId id, Int k, double value);
+    // Writes the name pair of a text of up to eight characters to words k and k+1 of the integers.
+    void set_name(BlockId id, Int k, std::string_view name);
 
     // Refuses a run of words that starts inside the store but does not lie wholly in it (plain mode) or in
     // one block (checked mode). Words outside the store are the caller's own and pass.
@@ -103,7 +108,7 @@ private:
     void move(Extent& extent, Arena& target);
     Extent open(Position start, Int length) const;
     void check_guards(BlockId id, const Block& block) const;
-    static Position word_of_extent(const Extent& extent, BlockId id, Int k, const char* what);
+    static Position word_of_extent(const Extent& extent, BlockId id, Int k, const char* part);
 
     Mode mode_;
     Int guard_;  // guard words on either side of a block

@@ -4,8 +4,6 @@
 
 #include <algorithm>
 
-#include "minihost/store.h"
-
 #if defined(__has_feature)
 #if __has_feature(address_sanitizer)
 #define MINIHOST_ADDRESS_SANITIZER
@@ -32,15 +30,6 @@ void close([[maybe_unused]] Position start, [[maybe_unused]] Int length)
 #ifdef MINIHOST_ADDRESS_SANITIZER
     ASAN_POISON_MEMORY_REGION(ST_WORDS + start - 1, static_cast<std::size_t>(length) * sizeof(Word));
 #endif
-}
-
-void open_all()
-{
-    open(1, Store::capacity);
-}
-void close_all()
-{
-    close(1, Store::capacity);
 }
 
 void fill(Position start, Int length, Word value)

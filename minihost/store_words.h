@@ -1,4 +1,4 @@
-// How integers, reals and text stand in 64-bit words.
+// Integers, reals and text in 64-bit words.
 //
 // Names and component IDs travel as pairs of words: four characters and four blanks in each. The component
 // name table is the exception: eight characters a word.

@@ -15,12 +15,11 @@ class AttributeTable;
 class ComponentTable;
 class Store;
 
-// What a stream holds, by component ID. Flows that are not named are 0.
+// Contents of a substream, by component ID. Flows that are not named are 0.
 struct Substream {
     Int type = 1;  // type code; 3 holds no polymer for the moment routines
     std::map<std::string, double> flows = {};
-    std::map<std::string, std::map<std::string, std::vector<double>>> attributes =
-        {};  // [component][attribute]
+    std::map<std::string, std::map<std::string, std::vector<double>>> attributes = {};  // [component][name]
 };
 
 struct Stream {
@@ -28,8 +27,8 @@ struct Stream {
     std::vector<Substream> substreams = {Substream{}};
 };
 
-// Where a stream stands. `values` points to word 1 of its vector; first_flow[i] is the 1-based position of
-// component 1's flow of substream i+1 in it.
+// The place of a stream in the store. `values` points to word 1 of its vector; first_flow[i] is the 1-based
+// position of component 1's flow of substream i+1 in it.
 struct StreamView {
     const double* values = nullptr;
     Position position = 0;
@@ -59,7 +58,7 @@ public:
 private:
     StreamView lay(const Stream& stream);
     void fill_flows(const Stream& stream, std::size_t i, const StreamView& view);
-    // Every attribute that a component carries, without what the stream gives: 0 or missing.
+    // Every attribute that a component carries, 0 or missing where the stream gives none.
     void fill_defaults(Int first, const StreamView& view, double missing);
     void fill_attributes(const Substream& substream, Int first, const StreamView& view);
     void check(const Stream& stream) const;

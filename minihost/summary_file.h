@@ -1,7 +1,7 @@
 // The summary file: one token a line, as docs/summary-file.md describes it.
 //
-// A token comes as kind, length, data words and a real. What a kind does not use must hold the run's initial
-// values (ST_INITV), text must stand four characters to a word: anything else is refused.
+// A token comes as kind, length, data words and a real. A kind leaves what it does not use at the run's
+// initial values (ST_INITV); text has four characters to a word. Anything else is refused.
 #pragma once
 
 #include <set>
@@ -32,7 +32,7 @@ struct SummaryToken {
     std::string text = {};     // of word, close ("" for one without a name), name, label, header
     Int integer = 0;           // of integer
     double real = 0.0;         // of real
-    std::string context = {};  // of header: what the block is about
+    std::string context = {};  // of header: the subject of the block
 
     // The token's line in the file, without its end.
     std::string line() const;

@@ -27,7 +27,7 @@ std::vector<ChainAverages> chain_averages(const StreamList& list, const Host& ho
 
 std::vector<SegmentShare> segment_shares(const routines::Components& chains, Host& host)
 {
-    const auto segments = minihost::segment_list(host);
+    const auto segments = minihost::segment_ids(host);
     if (segments.empty()) return {};
     const auto mass = routines::segment_mass_fractions(chains, segments.size());
     std::vector<SegmentShare> shares;

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "app/case/case_model.h"
-#include "minihost/catalyst_scaling.h"
 #include "minihost/paragraph_sentences.h"
+#include "minihost/scaling_sentence.h"
 
 namespace app {
 

@@ -5,8 +5,8 @@
 
 #include <algorithm>
 
-#include "minihost/polymer_input.h"
 #include "minihost/attributes.h"
+#include "minihost/polymer_input.h"
 
 namespace app {
 
@@ -109,8 +109,8 @@ std::vector<double> in_order(const AttributeValue& value, const Ids& segments)
 
 StreamValues::StreamValues(Host& host, std::string consequence, Diagnostics& diagnostics)
     : host_(host),
-      segments_(minihost::segment_list(host)),
-      end_segments_(minihost::end_segment_list(host)),
+      segments_(minihost::segment_ids(host)),
+      end_segments_(minihost::end_segment_ids(host)),
       consequence_(std::move(consequence)),
       diagnostics_(diagnostics)
 {

@@ -60,7 +60,7 @@ Table make_up(const PolymerInput& paragraph)
         const auto before = table.rows.size();
         for (std::size_t s = 0; s < oligomer.counts.size(); ++s)
             if (oligomer.counts[s] != 0)
-                table.rows.push_back({oligomer.id, paragraph.segment_list[s], oligomer.counts[s]});
+                table.rows.push_back({oligomer.id, paragraph.segment_ids[s], oligomer.counts[s]});
         if (table.rows.size() == before) table.rows.push_back({oligomer.id, std::string{}, 0.0});
     }
     return table;

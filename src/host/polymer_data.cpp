@@ -1,10 +1,10 @@
 #include "host/polymer_data.h"
 
+#include "polyprops/polymer_block.h"
+
 namespace polyprops {
 
 namespace {
-
-enum class Word : Int { segments = 2, polymers = 3, oligomers = 6, end_segments = 9 };
 
 Position find_integers(Int id)
 {
@@ -38,12 +38,13 @@ void PolymerData::ensure(unsigned parts)
     if (!exists() || wanted == 0) return;
 
     if (block_ == nowhere) block_ = find_integers(id_);
-    const auto id_in = [&](Word word) { return integer_at(block_ + (static_cast<Int>(word) - 1)); };
-    const auto list_in = [&](Word word) { return list_at(find_integers(id_in(word))); };
-    if (wanted & segment_list) segments_ = list_in(Word::segments);
-    if (wanted & polymer_list) polymers_ = list_in(Word::polymers);
-    if (wanted & oligomer_block) oligomers_ = find_oligomers(id_in(Word::oligomers), segments().count());
-    if (wanted & end_segment_list) end_segments_ = list_in(Word::end_segments);
+    const auto id_in = [&](PolypropsPolymerWord word) { return integer_at(block_ + (word - 1)); };
+    const auto list_in = [&](PolypropsPolymerWord word) { return list_at(find_integers(id_in(word))); };
+    if (wanted & segment_list) segments_ = list_in(POLYPROPS_SEGMENT_LIST);
+    if (wanted & polymer_list) polymers_ = list_in(POLYPROPS_POLYMER_LIST);
+    if (wanted & oligomer_block)
+        oligomers_ = find_oligomers(id_in(POLYPROPS_OLIGOMER_LIST), segments().count());
+    if (wanted & end_segment_list) end_segments_ = list_in(POLYPROPS_END_SEGMENT_LIST);
 }
 
 }  // namespace polyprops

@@ -8,8 +8,6 @@ namespace polyprops::input {
 
 namespace {
 
-using Word = PolymerBlock::Word;
-
 struct Roles {
     bool polymer = false;
     bool catalyst = false;
@@ -38,8 +36,8 @@ struct AttributesSeen {
 
 Roles roles_of(Component c, const PolymerBlock& block)
 {
-    return {position_in_list(block.list(Word::polymers), c) > 0,
-            position_in_list(block.two_part(Word::catalysts).integers, c) > 0};
+    return {position_in_list(block.list(POLYPROPS_POLYMER_LIST), c) > 0,
+            position_in_list(block.two_part(POLYPROPS_CATALYST_LIST).integers, c) > 0};
 }
 
 // Each check is passed by a message that the host suppresses.
@@ -69,7 +67,7 @@ bool is_accepted(const AttributeEntry& entry, const SentenceWords& words, const 
     const auto c = find_component(entry.component);
     if (!c && report(messages::unknown_attribute_owner, entry.component)) return false;
     if (c) work.notes(*c).has_attribute_entry = true;
-    const bool has_end_segments = block.list(Word::end_segments)(1) >= 1;
+    const bool has_end_segments = block.list(POLYPROPS_END_SEGMENT_LIST)(1) >= 1;
     return names_what_its_roles_need(entry, words, c ? roles_of(*c, block) : Roles{}, has_end_segments);
 }
 
@@ -95,8 +93,8 @@ void report_missing_attribute_entries(const PolymerBlock& block, const Workspace
             if (c.index != 0 && !work.notes(c).has_attribute_entry) report(message, id_of(c));
         }
     };
-    report_missing(block.list(Word::polymers), messages::polymer_without_attributes);
-    report_missing(block.two_part(Word::catalysts).integers, messages::catalyst_without_attributes);
+    report_missing(block.list(POLYPROPS_POLYMER_LIST), messages::polymer_without_attributes);
+    report_missing(block.two_part(POLYPROPS_CATALYST_LIST).integers, messages::catalyst_without_attributes);
 }
 
 }  // namespace polyprops::input

@@ -7,10 +7,7 @@ namespace polyprops::input {
 
 namespace {
 
-using Word = PolymerBlock::Word;
-
-constexpr Int groups_by_segment = 5;
-constexpr Int groups = 11;
+constexpr Int groups_by_site = POLYPROPS_GROUPS - POLYPROPS_GROUPS_BY_SEGMENT;
 
 // Beyond this the length of the table is no integer; the host refuses to allocate far less.
 constexpr Int most_site_types = std::numeric_limits<Int>::max() / 16;
@@ -19,17 +16,19 @@ constexpr Int most_site_types = std::numeric_limits<Int>::max() / 16;
 
 void lay_out_attributes(Int site_types, const PolymerBlock& block)
 {
-    if (block.has(Word::attribute_layout)) release(block.id_in(Word::attribute_layout));
+    if (block.has(POLYPROPS_ATTRIBUTE_LAYOUT)) release(block.id_in(POLYPROPS_ATTRIBUTE_LAYOUT));
     const Int sites = std::clamp<Int>(site_types, 0, most_site_types);
-    const Int segments = block.list(Word::segments)(1);
-    const Int id = allocate_two_part(23, 5 * segments + 6 * sites + 12);
-    block.write_id(Word::attribute_layout, id);
+    const Int segments = block.list(POLYPROPS_SEGMENT_LIST)(1);
+    const Int id =
+        allocate_two_part(POLYPROPS_LAYOUT_INTEGERS, POLYPROPS_GROUPS_BY_SEGMENT * segments +
+                                                         groups_by_site * sites + POLYPROPS_GROUPS + 1);
+    block.write_id(POLYPROPS_ATTRIBUTE_LAYOUT, id);
     const IntegerBlock table = find_two_part(id).integers;
     Int start = 1;
-    for (Int group = 1; group <= groups; ++group) {
-        const Int length = (group <= groups_by_segment ? segments : sites) + 1;
-        table(1 + group) = start;
-        table(1 + groups + group) = length;
+    for (Int group = 0; group < POLYPROPS_GROUPS; ++group) {
+        const Int length = (group < POLYPROPS_GROUPS_BY_SEGMENT ? segments : sites) + 1;
+        table(POLYPROPS_GROUP_STARTS + group) = start;
+        table(POLYPROPS_GROUP_LENGTHS + group) = length;
         start += length;
     }
 }

@@ -21,7 +21,7 @@ void list_catalysts(const Sentence& catalysts, const PolymerBlock& block)
 {
     const SentenceWords words = catalysts.words();
     const Int ids = words.list_start(1);
-    const TwoPartBlock target = block.two_part(PolymerBlock::Word::catalysts);
+    const TwoPartBlock target = block.two_part(POLYPROPS_CATALYST_LIST);
     target.integers(1) = catalysts.entry_count;
     for (Int i = 1; i <= catalysts.entry_count; ++i) {
         const Int index = index_or_zero(words.name(ids, i), messages::unknown_catalyst);
@@ -34,7 +34,7 @@ void list_initiators(const Sentence& initiators, const PolymerBlock& block)
 {
     const SentenceWords words = initiators.words();
     const Int ids = words.list_start(1);
-    const IntegerBlock target = block.list(PolymerBlock::Word::initiators);
+    const IntegerBlock target = block.list(POLYPROPS_INITIATOR_LIST);
     target(1) = initiators.entry_count;
     for (Int i = 1; i <= initiators.entry_count; ++i)
         target(i + 1) = index_or_zero(words.name(ids, i), messages::unknown_initiator);

@@ -10,8 +10,7 @@ namespace polyprops::input {
 
 namespace {
 
-constexpr std::size_t type_count = 4;
-constexpr Int column_count = 5;
+constexpr std::size_t type_count = POLYPROPS_DISTRIBUTION_TYPES;
 
 using PerType = std::array<Int, type_count>;
 
@@ -50,8 +49,9 @@ PerType allocate_type_blocks(const Sentence& requests, const PerType& counts)
     PerType ids{};
     for (std::size_t t = 0; t < type_count; ++t) {
         if (counts[t] == 0) continue;
-        ids[t] = allocate_two_part(std::max(requests.integer_count, 1 + column_count * counts[t]),
-                                   std::max(requests.real_count, counts[t]));
+        ids[t] =
+            allocate_two_part(std::max(requests.integer_count, 1 + POLYPROPS_REQUEST_COLUMNS * counts[t]),
+                              std::max(requests.real_count, counts[t]));
         find_two_part(ids[t]).integers(1) = counts[t];
     }
     return ids;
@@ -59,7 +59,7 @@ PerType allocate_type_blocks(const Sentence& requests, const PerType& counts)
 
 void write_directory(const PerType& ids, const PolymerBlock& block)
 {
-    const IntegerBlock directory = block.list(PolymerBlock::Word::distributions);
+    const IntegerBlock directory = block.list(POLYPROPS_DISTRIBUTION_DIRECTORY);
     directory(1) = Int{type_count};
     for (std::size_t t = 0; t < type_count; ++t) directory(2 + static_cast<Int>(t)) = ids[t];
 }

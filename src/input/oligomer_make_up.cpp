@@ -7,8 +7,6 @@ namespace polyprops::input {
 
 namespace {
 
-using Word = PolymerBlock::Word;
-
 constexpr NamePair same_as_before{0, 0};
 
 // Position of the segment in the segment list; 0, with a message, when it is no listed segment.
@@ -73,9 +71,9 @@ void write_counts(const RealBlock& table, Int rows, Int columns, Int collected, 
 Int list_oligomers(const Sentence& oligomers, const PolymerBlock& block, const Workspace& work)
 {
     if (oligomers.entry_count < 1) return 0;
-    const IntegerBlock segments = block.list(Word::segments);
+    const IntegerBlock segments = block.list(POLYPROPS_SEGMENT_LIST);
     const Int collected = collect_make_up(oligomers, segments, work);
-    const TwoPartBlock target = block.two_part(Word::oligomers);
+    const TwoPartBlock target = block.two_part(POLYPROPS_OLIGOMER_LIST);
     const Int columns = write_oligomer_list(target.integers, work);
     write_counts(target.reals, segments(1), columns, collected, work);
     return columns;

@@ -6,25 +6,19 @@ namespace polyprops::input {
 
 namespace {
 
-constexpr Int directory_length = 17;
-
-// Block 2 of the store names the polymer root block, and that one the polymer block.
-IntegerBlock polymer_root()
-{
-    constexpr Int store_directory = 2;
-    return find_integers(find_integers(store_directory)(200));
-}
 Int& polymer_block_id()
 {
-    return polymer_root()(13);
+    const Int root = find_integers(POLYPROPS_RUN_DIRECTORY_ID)(POLYPROPS_ROOT_WORD);
+    return find_integers(root)(POLYPROPS_POLYMER_BLOCK_WORD);
 }
 
 Int allocate_directory()
 {
-    const Int id = allocate_integers(directory_length);
+    constexpr Int length = POLYPROPS_POLYMER_BLOCK_LENGTH;
+    const Int id = allocate_integers(length);
     const IntegerBlock directory = find_integers(id);
-    clear(&directory(1), directory_length);
-    directory(1) = directory_length;
+    clear(&directory(1), length);
+    directory(1) = length;
     return id;
 }
 
@@ -37,23 +31,23 @@ PolymerBlock PolymerBlock::locate_or_make(const Sentence& attributes)
         polymer_block_id() = id;
     }
     const PolymerBlock block{polymer_block_id()};
-    if (attributes.is_given()) block.write_id(Word::attribute_sentence, attributes.id);
+    if (attributes.is_given()) block.write_id(POLYPROPS_ATTRIBUTE_SENTENCE, attributes.id);
     return block;
 }
 
 void PolymerBlock::make_room(const Sentences& sentences) const
 {
     const Int segments = sentences.segments.entry_count;
-    make_list(Word::polymers, sentences.polymers.entry_count + 1);
+    make_list(POLYPROPS_POLYMER_LIST, sentences.polymers.entry_count + 1);
     make_oligomer_block(sentences.oligomers.entry_count, segments);
-    make_list(Word::segments, 2 * segments + 1);
-    make_list(Word::end_segments, segments + 1);
-    make_list(Word::type_2_segments, segments + 1);
-    make_list(Word::type_3_segments, segments + 1);
-    make_list(Word::type_4_segments, segments + 1);
+    make_list(POLYPROPS_SEGMENT_LIST, 2 * segments + 1);
+    make_list(POLYPROPS_END_SEGMENT_LIST, segments + 1);
+    make_list(POLYPROPS_REPEAT_SEGMENT_LIST, segments + 1);
+    make_list(POLYPROPS_BRANCH3_SEGMENT_LIST, segments + 1);
+    make_list(POLYPROPS_BRANCH4_SEGMENT_LIST, segments + 1);
     make_catalyst_block(sentences.catalysts);
-    make_list(Word::initiators, sentences.initiators.entry_count + 1);
-    make_list(Word::distributions, 5);
+    make_list(POLYPROPS_INITIATOR_LIST, sentences.initiators.entry_count + 1);
+    make_list(POLYPROPS_DISTRIBUTION_DIRECTORY, POLYPROPS_DISTRIBUTION_TYPES + 1);
 }
 
 void PolymerBlock::make_list(Word word, Int length) const
@@ -79,19 +73,19 @@ void PolymerBlock::make_two_part_list(Word word, Int integers, Int reals) const
 // listed: whatever else it has room for, the store does not say.
 void PolymerBlock::make_oligomer_block(Int oligomers, Int segments) const
 {
-    if (has(Word::oligomers)) {
-        const Int listed = two_part(Word::oligomers).integers(1);
-        const Int rows = has(Word::segments) ? list(Word::segments)(1) : 0;
+    if (has(POLYPROPS_OLIGOMER_LIST)) {
+        const Int listed = two_part(POLYPROPS_OLIGOMER_LIST).integers(1);
+        const Int rows = has(POLYPROPS_SEGMENT_LIST) ? list(POLYPROPS_SEGMENT_LIST)(1) : 0;
         if (oligomers <= listed && oligomers * segments <= listed * rows) return;
     }
-    make_two_part_list(Word::oligomers, oligomers + 1, 3 * segments * oligomers + 1);
+    make_two_part_list(POLYPROPS_OLIGOMER_LIST, oligomers + 1, 3 * segments * oligomers + 1);
 }
 
 void PolymerBlock::make_catalyst_block(const Sentence& catalysts) const
 {
     const Int count = catalysts.entry_count;
-    if (has(Word::catalysts) && two_part(Word::catalysts).integers(1) >= count) return;
-    make_two_part_list(Word::catalysts, std::max(catalysts.integer_count, count + 1),
+    if (has(POLYPROPS_CATALYST_LIST) && two_part(POLYPROPS_CATALYST_LIST).integers(1) >= count) return;
+    make_two_part_list(POLYPROPS_CATALYST_LIST, std::max(catalysts.integer_count, count + 1),
                        std::max(catalysts.real_count, count));
 }
 

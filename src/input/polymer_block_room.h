@@ -5,27 +5,13 @@
 #pragma once
 
 #include "input/sentence_data.h"
+#include "polyprops/polymer_block.h"
 
 namespace polyprops::input {
 
 class PolymerBlock {
 public:
-    // Words of the directory; each holds the id of a block.
-    enum class Word : Int {
-        segments = 2,
-        polymers = 3,
-        attribute_sentence = 5,
-        oligomers = 6,
-        catalysts = 7,
-        parameters = 8,
-        end_segments = 9,
-        type_3_segments = 11,
-        type_4_segments = 12,
-        type_2_segments = 13,
-        attribute_layout = 14,
-        distributions = 16,
-        initiators = 17,
-    };
+    using Word = PolypropsPolymerWord;
 
     // Locates the polymer block of the run, or makes an empty one, and notes the copy of the attribute
     // sentence.
@@ -34,8 +20,8 @@ public:
     // Makes sure that every list exists and has room for what the sentences name.
     void make_room(const Sentences& sentences) const;
 
-    Int id_in(Word word) const { return directory()(static_cast<Int>(word)); }
-    void write_id(Word word, Int id) const { directory()(static_cast<Int>(word)) = id; }
+    Int id_in(Word word) const { return directory()(word); }
+    void write_id(Word word, Int id) const { directory()(word) = id; }
     bool has(Word word) const { return id_in(word) >= 1; }
 
     // Good until the next allocation.

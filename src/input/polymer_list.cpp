@@ -9,7 +9,7 @@ void list_polymers(const Sentence& polymers, const PolymerBlock& block, const Wo
 {
     const SentenceWords words = polymers.words();
     const Int ids = words.list_start(1);
-    const ListWriter list{block.list(PolymerBlock::Word::polymers)};
+    const ListWriter list{block.list(POLYPROPS_POLYMER_LIST)};
     for (Int i = 1; i <= polymers.entry_count; ++i) {
         const NamePair id = words.name(ids, i);
         const auto c = find_component(id);

@@ -10,13 +10,13 @@ namespace polyprops::input {
 
 namespace {
 
-using Word = PolymerBlock::Word;
-
 class TypeLists {
 public:
     explicit TypeLists(const PolymerBlock& block)
-        : lists_{ListWriter{block.list(Word::end_segments)}, ListWriter{block.list(Word::type_2_segments)},
-                 ListWriter{block.list(Word::type_3_segments)}, ListWriter{block.list(Word::type_4_segments)}}
+        : lists_{ListWriter{block.list(POLYPROPS_END_SEGMENT_LIST)},
+                 ListWriter{block.list(POLYPROPS_REPEAT_SEGMENT_LIST)},
+                 ListWriter{block.list(POLYPROPS_BRANCH3_SEGMENT_LIST)},
+                 ListWriter{block.list(POLYPROPS_BRANCH4_SEGMENT_LIST)}}
     {
     }
     // A segment of any other type is only in the list of all segments.
@@ -63,11 +63,11 @@ void write_segment_list(const IntegerBlock& block, const Workspace& work)
 void list_segments(const Sentence& segments, const PolymerBlock& block, const Workspace& work)
 {
     note_segments(segments, TypeLists{block}, work);
-    const IntegerBlock list = block.list(Word::segments);
+    const IntegerBlock list = block.list(POLYPROPS_SEGMENT_LIST);
     const Int former_count = list(1);
     write_segment_list(list, work);
     // The table of an earlier paragraph's oligomers has as many rows as there were segments.
-    if (list(1) != former_count) block.two_part(Word::oligomers).integers(1) = 0;
+    if (list(1) != former_count) block.two_part(POLYPROPS_OLIGOMER_LIST).integers(1) = 0;
 }
 
 }  // namespace polyprops::input

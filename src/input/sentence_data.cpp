@@ -1,7 +1,5 @@
 #include "input/sentence_data.h"
 
-#include <array>
-
 namespace polyprops::input {
 
 namespace {
@@ -76,7 +74,7 @@ Sentence copy_of(const Delivery& from, const Kind& kind)
 
 SiteScalars scalars_of(const SentenceWords& words)
 {
-    return {words.integer(1), words.integer(11), words.integer(12), words.integer(13), words.real(1)};
+    return {words.integer(1), {words.integer(11), words.integer(12), words.integer(13)}, words.real(1)};
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <optional>
 
 #include "input/blocks.h"
@@ -68,10 +69,8 @@ struct Sentence {
 // The catalyst-site sentence: the number of site types, and values that the host's readers understand.
 struct SiteScalars {
     Int site_type_count = 0;
-    Int word_11 = 0;
-    Int word_12 = 0;
-    Int word_13 = 0;
-    Real real_1 = 0.0;
+    std::array<Int, 3> integers = {};
+    Real real = 0.0;
 };
 
 struct Sentences {

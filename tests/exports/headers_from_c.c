@@ -1,5 +1,6 @@
-/* Both public headers serve a host written in C. */
+// The public headers serve a host written in C.
 #include "polyprops/host.h"
+#include "polyprops/polymer_block.h"
 #include "polyprops/polyprops.h"
 
 double c_host_asks_molecular_weight(int64_t component)

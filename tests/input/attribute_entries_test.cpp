@@ -58,9 +58,9 @@ TEST(AttributeEntries, AreForwardedWhenTheyHoldWhatTheirRolesNeed)
         EXPECT_EQ(world.forwarded(), c.forwarded);
         EXPECT_EQ(world.integers(ST_TABLES[1], 3, 1), (Ints{4})) << "the current paragraph is current again";
 
-        const BlockId copy = world.block(word::attribute_sentence);
+        const BlockId copy = world.block(POLYPROPS_ATTRIBUTE_SENTENCE);
         world.check(sentences);
-        EXPECT_NE(world.block(word::attribute_sentence), copy)
+        EXPECT_NE(world.block(POLYPROPS_ATTRIBUTE_SENTENCE), copy)
             << "the block names the copy of the latest sentence";
     }
 }

@@ -48,8 +48,8 @@ TEST(CatalystScaling, WritesTheSecondValueIntoColumnOneAndTheFirstIntoColumnThre
     const double below = std::nextafter(bound, 0);
     const Case cases[] = {
         {"both", 3, 5, {5, 0, 3}},
-        {"first alone", 3, bound, {0, 0, 3}},
-        {"second alone", bound, 5, {5, 0, 0}},
+        {"only the first", 3, bound, {0, 0, 3}},
+        {"only the second", bound, 5, {5, 0, 0}},
         {"neither", bound, 2 * bound, {0, 0, 0}},
         {"just below", below, below, {below, 0, below}},
         {"not a number", not_a_number, not_a_number, {0, 0, 0}},
@@ -92,7 +92,7 @@ TEST(CatalystScaling, ReportsAnAttributeThatIsNotUsedAndAppliesTheRest)
               Lines{"      Component \"K       \" does not use attribute \"DPN     \".  Sentence ignored."});
     EXPECT_EQ(log.printed()[1].lines,
               Lines{"      Component \"W       \" does not use attribute \"CPSFLOW \".  Sentence ignored."});
-    EXPECT_EQ(world.column("K", "CPSFLOW", 1), (Reals{7, 7})) << "the later entry stands";
+    EXPECT_EQ(world.column("K", "CPSFLOW", 1), (Reals{7, 7})) << "the later entry holds";
 
     for (const Int answer : {0, 2}) {
         log.clear();

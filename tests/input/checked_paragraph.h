@@ -1,7 +1,8 @@
-// A host with named components whose polymer paragraphs go through the check, and what the check built, told
-// by component IDs. The store is a checked one.
+// A host with named components whose polymer paragraphs go through the check. The blocks that the check built
+// are shown by component IDs. The store is a checked one.
 #pragma once
 
+#include <polyprops/polymer_block.h>
 #include <polyprops/polyprops.h>
 
 #include <string>
@@ -14,13 +15,6 @@ namespace support {
 using minihost::Int;
 using Ints = std::vector<Int>;
 using Reals = std::vector<double>;
-
-// Words of the polymer block.
-namespace word {
-inline constexpr Int segments = 2, polymers = 3, attribute_sentence = 5, oligomers = 6, catalysts = 7,
-                     parameters = 8, end_segments = 9, type_3 = 11, type_4 = 12, type_2 = 13, layout = 14,
-                     distributions = 16, initiators = 17;
-}
 
 // Components W, segments A B C D E, polymers P Q, oligomers O R, catalyst K, initiator I, with the indices 1
 // to 12 in this order.

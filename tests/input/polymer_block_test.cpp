@@ -19,7 +19,7 @@ TEST(PolymerParagraph, ListsSegmentsAndOligomersByIndexAndTheRestByOrderOfInput)
 {
     const SegmentSentence unsorted{
         {{"E", 1}, {"B", 4}, {"A", 1}, {"D", 3}, {"X", 1}, {"C", 9}, {"B", 2}, {"W", 2}}};
-    // A blank ID stands for the last one written, also when that was in error; of two counts the later holds.
+    // A blank ID repeats the last one written, also when that was in error; of two counts the later holds.
     const OligomerSentence oligomers{{{"R", "C", 5},
                                       {"O", "A", 2},
                                       {"", "B", 1},
@@ -33,19 +33,15 @@ TEST(PolymerParagraph, ListsSegmentsAndOligomersByIndexAndTheRestByOrderOfInput)
                  SentenceWords{9, {1, 2, 3}}, unsorted, PolymerSentence{{"Q", "X", "P", "Q"}}, oligomers,
                  CatalystSentence{{{"W", 1.5}, {"X", 2.5}, {"K", 3.5}}}, InitiatorSentence{{"X", "I"}}});
     EXPECT_EQ(world.message_numbers(), (Ints{4, 5, 6, 11, 7, 7, 8, 10, 10, 31, 31}));
-    EXPECT_EQ(world.list(word::segments), "W A B C D E");
-    EXPECT_EQ(world.integers(world.block(word::segments), 8, 6), (Ints{2, 1, 4, 9, 3, 1}));
-    EXPECT_EQ(world.list(word::end_segments), "E A");
-    EXPECT_EQ(world.list(word::type_2), "W");
-    EXPECT_EQ(world.list(word::type_3), "D");
-    EXPECT_EQ(world.list(word::type_4), "B");
-    EXPECT_EQ(world.list(word::polymers), "Q P");
-    EXPECT_EQ(world.list(word::oligomers), "P O R");
-    EXPECT_EQ(world.reals(world.block(word::oligomers), 18),
+    // Other tests take the words from the header; this one and the next state them.
+    const std::pair<Int, const char*> lists[] = {{2, "W A B C D E"}, {3, "Q P"}, {6, "P O R"},
+                                                 {7, "W - K"},       {9, "E A"}, {11, "D"},
+                                                 {12, "B"},          {13, "W"},  {17, "- I"}};
+    for (const auto& [word, ids] : lists) EXPECT_EQ(world.list(word), ids) << "word " << word;
+    EXPECT_EQ(world.integers(world.block(POLYPROPS_SEGMENT_LIST), 8, 6), (Ints{2, 1, 4, 9, 3, 1}));
+    EXPECT_EQ(world.reals(world.block(POLYPROPS_OLIGOMER_LIST), 18),
               (Reals{0, 0, 0, 0, 0, 0, 0, 3, 1, 0, 0, 0, 0, 0, 0, 5, 0, 0}));
-    EXPECT_EQ(world.list(word::catalysts), "W - K") << "the unknown one keeps its place";
-    EXPECT_EQ(world.reals(world.block(word::catalysts), 3), (Reals{1.5, 0, 3.5}));
-    EXPECT_EQ(world.list(word::initiators), "- I");
+    EXPECT_EQ(world.reals(world.block(POLYPROPS_CATALYST_LIST), 3), (Reals{1.5, 0, 3.5}));
 }
 
 TEST(PolymerParagraph, CountsEntriesForItsParametersAndAttributeGroups)
@@ -55,10 +51,17 @@ TEST(PolymerParagraph, CountsEntriesForItsParametersAndAttributeGroups)
                  SegmentSentence{{{"A", 1}, {"B", 2}, {"C", 3}, {"D", 4}, {"E", 3}, {"X", 1}}}, attributes,
                  OligomerSentence{{{"O", "A", 2}, {"R", "A", 1}, {"R", "B", 1}}},
                  CatalystSentence{{{"K", 1}}}, SiteSentence{3, {21, 22, 23}, 0.25}});
-    const BlockId parameters = world.block(word::parameters);
+    const BlockId root = world.integers(2, 200, 1)[0];
+    ASSERT_EQ(world.integers(root, 13, 1), (Ints{world.host.polymer_block()}));
+    EXPECT_EQ(world.integers(world.host.polymer_block(), 1, 1), (Ints{17}));
+    const BlockId copy = world.block(5);
+    const NamePair p = name_pair("P");
+    EXPECT_EQ(world.integers(copy, world.integers(copy, 1, 1)[0], 2), (Ints{p[0], p[1]}));
+    EXPECT_EQ(world.integers(world.block(16), 1, 5), (Ints{4, 0, 0, 0, 0}));
+    const BlockId parameters = world.block(8);
     EXPECT_EQ(world.integers(parameters, 1, 13), (Ints{3, 2, 6, 2, 1, 1, 1, 2, 1, 0, 21, 22, 23}));
     EXPECT_EQ(world.reals(parameters, 1), (Reals{0.25}));
-    const BlockId layout = world.block(word::layout);
+    const BlockId layout = world.block(14);
     // Six words, one more than segments, for each of five groups; four, one more than site types, for six.
     EXPECT_EQ(world.integers(layout, 2, 22),
               (Ints{1, 7, 13, 19, 25, 31, 35, 39, 43, 47, 51, 6, 6, 6, 6, 6, 4, 4, 4, 4, 4, 4}));
@@ -66,12 +69,12 @@ TEST(PolymerParagraph, CountsEntriesForItsParametersAndAttributeGroups)
     EXPECT_EQ(world.host.store().real_length(layout), 55);
 
     world.check({polymer, segments, attributes});
-    EXPECT_EQ(world.block(word::parameters), parameters);
+    EXPECT_EQ(world.block(POLYPROPS_PARAMETERS), parameters);
     EXPECT_EQ(world.integers(parameters, 1, 13), (Ints{0, 1, 1, 2, 1, 1, 1, 2, 1, 0, 21, 22, 23}))
         << "what would be zero now stays as it was, but for the site types";
     EXPECT_EQ(world.reals(parameters, 1), (Reals{0}));
     EXPECT_FALSE(world.host.store().exists(layout)) << "a replaced table is freed";
-    EXPECT_EQ(world.integers(world.block(word::layout), 2, 22),
+    EXPECT_EQ(world.integers(world.block(POLYPROPS_ATTRIBUTE_LAYOUT), 2, 22),
               (Ints{1, 3, 5, 7, 9, 11, 12, 13, 14, 15, 16, 2, 2, 2, 2, 2, 1, 1, 1, 1, 1, 1}));
 }
 
@@ -85,7 +88,7 @@ TEST(PolymerParagraph, FilesDistributionRequestsByType)
                                        {"P", 7, {9, 9, 9}, 9},
                                        {"Q", 4, {7, 8, 9}, 2.5}}}});
     EXPECT_EQ(world.message_numbers(), (Ints{10}));
-    const Ints directory = world.integers(world.block(word::distributions), 1, 5);
+    const Ints directory = world.integers(world.block(POLYPROPS_DISTRIBUTION_DIRECTORY), 1, 5);
     EXPECT_EQ((Ints{directory[0], directory[1], directory[3]}), (Ints{4, 0, 0}));
     constexpr Int p = 7, q = 8;
     EXPECT_EQ(world.integers(directory[2], 1, 6), (Ints{1, q, 2, 4, 5, 6}));
@@ -94,7 +97,7 @@ TEST(PolymerParagraph, FilesDistributionRequestsByType)
     EXPECT_EQ(world.reals(directory[4], 2), (Reals{0.5, 2.5}));
 
     world.check({polymer, segments, attributes});
-    EXPECT_EQ(world.integers(world.block(word::distributions), 1, 5), (Ints{4, 0, 0, 0, 0}));
+    EXPECT_EQ(world.integers(world.block(POLYPROPS_DISTRIBUTION_DIRECTORY), 1, 5), (Ints{4, 0, 0, 0, 0}));
 }
 
 TEST(PolymerParagraph, ReadsNothingBeyondAFaultySentence)
@@ -112,11 +115,11 @@ TEST(PolymerParagraph, ReadsNothingBeyondAFaultySentence)
          SentenceWords{
              7, {7, 13, 13, 13, 13, 3, p[0], p[1], p[0], p[1], p[0], p[1], 1, 1, 1}}});  // lists share words
     EXPECT_EQ(world.message_numbers(), (Ints{31}));
-    EXPECT_EQ(world.list(word::polymers), "P");
-    EXPECT_EQ(world.list(word::initiators), "");
-    EXPECT_EQ(world.reals(world.block(word::catalysts), 1), (Reals{0}));
-    EXPECT_EQ(world.integers(world.block(word::layout), 12, 1), (Ints{5 * 2 + 5 + 1}));
-    const BlockId requests = world.integers(world.block(word::distributions), 2, 1)[0];
+    EXPECT_EQ(world.list(POLYPROPS_POLYMER_LIST), "P");
+    EXPECT_EQ(world.list(POLYPROPS_INITIATOR_LIST), "");
+    EXPECT_EQ(world.reals(world.block(POLYPROPS_CATALYST_LIST), 1), (Reals{0}));
+    EXPECT_EQ(world.integers(world.block(POLYPROPS_ATTRIBUTE_LAYOUT), 12, 1), (Ints{5 * 2 + 5 + 1}));
+    const BlockId requests = world.integers(world.block(POLYPROPS_DISTRIBUTION_DIRECTORY), 2, 1)[0];
     EXPECT_EQ(world.integers(requests, 1, 16), (Ints{3, 7, 7, 7, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1}));
 }
 
@@ -125,9 +128,9 @@ TEST(PolymerParagraph, AcceptsOneThatNamesNeitherChainsNorSegments)
     CheckedParagraph world;
     EXPECT_EQ(world.check({InitiatorSentence{{"I"}}}), 0);
     EXPECT_TRUE(world.host.messages().printed().empty());
-    EXPECT_EQ(world.integers(world.host.polymer_block(), 1, 1), (Ints{17}));
-    for (const Int list : {word::segments, word::polymers, word::oligomers, word::catalysts,
-                           word::end_segments, word::type_2, word::type_3, word::type_4})
+    for (const Int list : {POLYPROPS_SEGMENT_LIST, POLYPROPS_POLYMER_LIST, POLYPROPS_OLIGOMER_LIST,
+                           POLYPROPS_CATALYST_LIST, POLYPROPS_END_SEGMENT_LIST, POLYPROPS_REPEAT_SEGMENT_LIST,
+                           POLYPROPS_BRANCH3_SEGMENT_LIST, POLYPROPS_BRANCH4_SEGMENT_LIST})
         EXPECT_EQ(world.list(list), "") << "word " << list;
     EXPECT_EQ(world.host.paragraph().times_ended(), 1);
     world.host.paragraph().handle()[0] = 0;
@@ -139,7 +142,7 @@ TEST(PolymerParagraph, BuildsNothingForAnotherOperationOrAfterAnUnreadableSenten
 {
     CheckedParagraph world;
     EXPECT_EQ(world.check({polymer, segments}, 3), 0);
-    EXPECT_EQ(world.check({polymer, segments}, 5), 5) << "the answer alone";
+    EXPECT_EQ(world.check({polymer, segments}, 5), 5) << "the answer, nothing else";
     world.host.paragraph().fail_at(2);
     EXPECT_EQ(world.check({polymer, segments}), 2);
     EXPECT_TRUE(world.host.messages().printed().empty());

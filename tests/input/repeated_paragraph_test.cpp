@@ -54,18 +54,18 @@ TEST(RepeatedParagraph, GrowsAndShrinksItsBlocks)
         for (const auto& id : ids(step.catalysts)) catalyst.entries.push_back({id, 1});
         world.check({PolymerSentence{ids(step.polymers)}, segments, OligomerSentence{step.oligomers},
                      catalyst, InitiatorSentence{ids(step.catalysts)}});
-        EXPECT_EQ(world.list(word::polymers), step.polymers);
-        EXPECT_EQ(world.list(word::segments), step.segments);
-        EXPECT_EQ(world.list(word::end_segments), step.segments);
-        EXPECT_EQ(world.list(word::catalysts), step.catalysts);
-        EXPECT_EQ(world.list(word::initiators), step.catalysts);
-        EXPECT_EQ(world.list(word::oligomers), step.listed_oligomers);
-        EXPECT_EQ(world.reals(world.block(word::oligomers), std::ssize(step.counts)), step.counts);
+        EXPECT_EQ(world.list(POLYPROPS_POLYMER_LIST), step.polymers);
+        EXPECT_EQ(world.list(POLYPROPS_SEGMENT_LIST), step.segments);
+        EXPECT_EQ(world.list(POLYPROPS_END_SEGMENT_LIST), step.segments);
+        EXPECT_EQ(world.list(POLYPROPS_CATALYST_LIST), step.catalysts);
+        EXPECT_EQ(world.list(POLYPROPS_INITIATOR_LIST), step.catalysts);
+        EXPECT_EQ(world.list(POLYPROPS_OLIGOMER_LIST), step.listed_oligomers);
+        EXPECT_EQ(world.reals(world.block(POLYPROPS_OLIGOMER_LIST), std::ssize(step.counts)), step.counts);
 
-        EXPECT_EQ(world.block(word::oligomers) == oligomers, step.oligomers_stay);
-        EXPECT_EQ(world.block(word::catalysts) == catalysts, step.catalysts_stay);
+        EXPECT_EQ(world.block(POLYPROPS_OLIGOMER_LIST) == oligomers, step.oligomers_stay);
+        EXPECT_EQ(world.block(POLYPROPS_CATALYST_LIST) == catalysts, step.catalysts_stay);
         EXPECT_TRUE(step.oligomers_stay || oligomers == 0 || !world.host.store().exists(oligomers));
-        oligomers = world.block(word::oligomers);
-        catalysts = world.block(word::catalysts);
+        oligomers = world.block(POLYPROPS_OLIGOMER_LIST);
+        catalysts = world.block(POLYPROPS_CATALYST_LIST);
     }
 }

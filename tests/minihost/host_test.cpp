@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <polyprops/host.h>
+#include <polyprops/polymer_block.h>
 #include <polyprops/polyprops.h>
 
 #include <functional>
@@ -130,7 +131,7 @@ TEST(Host, RefusesComponentsInError)
 TEST(Host, ARefusalTravelsThroughTheLibraryToItsCaller)
 {
     auto world = World{}.segments({"A"}).polymer("P", {{"ZMOM", 1}});
-    world.host().store().set_integer(world.host().polymer_block(), 2, 4711);
+    world.host().store().set_integer(world.host().polymer_block(), POLYPROPS_SEGMENT_LIST, 4711);
     EXPECT_EQ(refusal([&] { world.ask(POLY_GETDPN, "P"); }), "store block 4711 does not exist");
     EXPECT_THROW(world.ask(POLY_GETMWW, "P"), Error) << "and the library works as before";
 }

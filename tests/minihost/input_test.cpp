@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-#include "minihost/error.h"
 #include "minihost/embedded_host.h"
+#include "minihost/error.h"
 #include "support/world.h"
 
 namespace minihost {
@@ -36,7 +36,7 @@ TEST(Messages, HoldWhatWasComposedForThemAlone)
     ST_PRINT_ERROR(&one);
     EXPECT_EQ(printed.at(0).routine, "POLSEM");
     EXPECT_EQ(printed.at(0).lines, (std::vector<std::string>{"      ONE", "      TWO"}));
-    EXPECT_EQ(printed.at(1).lines[0][0], '#') << "an earlier text must not stand in for a missing one";
+    EXPECT_EQ(printed.at(1).lines[0][0], '#') << "an earlier text must not replace a missing one";
     EXPECT_THROW(ST_PRINT_ERROR(&one), Error) << "no check came before";
 }
 

@@ -37,13 +37,15 @@ TEST(ReportFile, StartsAPageWhenLinesDoNotFitAndRefusesBadOnes)
     write(host, "");
     host.report().reserve(1, false);
     write(host, "fits");
-    host.report().set_title("LATER");
     host.report().reserve(1, false);
-    host.report().reserve(9, true);  // nothing stands on the page yet
+    host.report().reserve(9, true);  // the page is still empty
     write(host, "next");
+    EXPECT_EQ(host.report().pages(), (std::vector<ReportPage>{{"one", "", "fits"}, {"next"}}));
     const std::string gap(80 - 4 - 6, ' ');
     EXPECT_EQ(host.report().text(),
-              "CASE" + gap + "Page 1\n\none\n\nfits\n\fLATER" + gap.substr(1) + "Page 2\n\nnext\n");
+              "CASE" + gap + "Page 1\n\none\n\nfits\n\fCASE" + gap + "Page 2\n\nnext\n");
+    const std::string long_title(73, 'T');
+    EXPECT_EQ(page_text(long_title, {{}}), long_title + "  Page 1\n\n") << "two blanks at least";
     EXPECT_EQ(RP_PAGE[1 - 1], 1);
     EXPECT_TRUE(contains(refusal([&] { write(host, "text", 99); }), "unit 99"));
     EXPECT_TRUE(contains(refusal([&] { write(host, "two\nlines"); }), "line end"));

@@ -5,8 +5,8 @@
 
 #include <functional>
 
-#include "minihost/error.h"
 #include "minihost/embedded_host.h"
+#include "minihost/error.h"
 #include "support/refusal.h"
 
 namespace minihost {
@@ -127,7 +127,7 @@ TEST(Store, CheckedModeNamesTheBlockWhoseFenceIsDamaged)
         const BlockId hit = store.allocate_integers(4);
         store.verify();
         ST_WORDS[store.integers(hit) - 1 + beyond] = 1;
-        EXPECT_EQ(refusal([&] { store.verify(); }), "words beside store block 2 were overwritten");
+        EXPECT_EQ(refusal([&] { store.verify(); }), "words around store block 2 were overwritten");
         EXPECT_NE(refusal([&] { store.integers(hit); }), "");
         EXPECT_NE(refusal([&] { store.allocate_reals(1); }), "");
     }

@@ -1,6 +1,7 @@
 // Segment counts straight from attributes: POLY_GETPOL and POLY_GETPALL side by side.
 #include <cmath>
 
+#include "polyprops/polymer_block.h"
 #include "polyprops/polyprops.h"
 #include "support/arguments.h"
 #include "support/asked_once.h"
@@ -115,7 +116,8 @@ TEST(SegmentCounts, OfAnOligomer)
     // O in both columns of the table, Q in none.
     auto world = World{}.segments({"A", "B"}).oligomer("O", {{"A", 3}}).oligomer("Q", {{"B", 1}});
     auto& store = world.parameter("O", Parameter::dpn, 5).host().store();
-    store.set_integer(store.integer(world.host().polymer_block(), 6), 3, world.index("O"));
+    store.set_integer(store.integer(world.host().polymer_block(), POLYPROPS_OLIGOMER_LIST), 3,
+                      world.index("O"));
     const Counts counts(world, {"O", "Q"});
     EXPECT_EQ(counts.rows(4), std::pair(Values{5, 5}, Values{0, 1.25}));
     EXPECT_EQ(counts.rows(5).first, (Values{0, 0}));

@@ -1,5 +1,7 @@
 #include "support/laid_polymer_block.h"
 
+#include <polyprops/polymer_block.h>
+
 #include "minihost/store.h"
 
 namespace support {
@@ -51,15 +53,15 @@ BlockId lay_polymer_block(Store& store, const PolymerLists& lists)
         for (const auto& segment : lists.segments) counts.push_back(oligomer.counts[segment.component]);
     }
 
-    std::vector<Int> parameters(13);
-    parameters[0] = lists.sites;
-    std::vector<Int> block(17);
+    std::vector<Int> parameters(POLYPROPS_PARAMETER_INTEGERS);
+    parameters[POLYPROPS_SITE_TYPES - 1] = lists.sites;
+    std::vector<Int> block(POLYPROPS_POLYMER_BLOCK_LENGTH);
     block[0] = std::ssize(block);
-    block[1] = lay(store, segments);
-    block[2] = lay_list(store, lists.polymers);
-    block[5] = lay(store, oligomers, counts);
-    block[7] = lay(store, parameters, {0});
-    block[8] = lay_list(store, lists.end_segments);
+    block[POLYPROPS_SEGMENT_LIST - 1] = lay(store, segments);
+    block[POLYPROPS_POLYMER_LIST - 1] = lay_list(store, lists.polymers);
+    block[POLYPROPS_OLIGOMER_LIST - 1] = lay(store, oligomers, counts);
+    block[POLYPROPS_PARAMETERS - 1] = lay(store, parameters, {0});
+    block[POLYPROPS_END_SEGMENT_LIST - 1] = lay_list(store, lists.end_segments);
     return lay(store, block);
 }
 

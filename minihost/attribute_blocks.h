@@ -1,7 +1,6 @@
-// The blocks of the CATSCALE sentence, and the component attribute blocks that it writes into.
+// Component attribute blocks, into which the library writes the values of the CATSCALE sentence.
 #pragma once
 
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -13,15 +12,7 @@ namespace minihost {
 class ComponentTable;
 class Store;
 
-// One entry: two values for an attribute of a component. A value at the missing-value bound is not given.
-struct ScalingEntry {
-    std::string component;
-    std::string attribute;
-    double first;
-    double second;
-};
-
-// Each component's attribute block: a directory of its attributes, and three columns of reals.
+// A block per component: a directory of its attributes, and three columns of reals.
 class AttributeBlocks {
 public:
     AttributeBlocks(Store& store, const ComponentTable& components) : store_(store), components_(components)
@@ -47,10 +38,5 @@ private:
     std::vector<BlockId> blocks_;
     BlockId directory_ = 0;
 };
-
-// Lays the data of a CATSCALE sentence and returns the id of the block that names them: its word 4 is the id
-// of the data block. Throws Error for an unknown component.
-BlockId lay_scaling_sentence(Store& store, const ComponentTable& components,
-                             const std::vector<ScalingEntry>& entries);
 
 }  // namespace minihost
