@@ -15,17 +15,18 @@ int run_unguarded(const RunOptions& options, std::FILE* out, std::FILE* errors)
     if (!input) return exit_case_error;
     std::optional<app::MeasuredCurve> measured;
     if (options.gpc) measured = app::read_measured_curve(*options.gpc);
-    const auto results = app::evaluate(*input, {measured ? &*measured : nullptr, options.distribution,
-                                                options.out.has_value()});
+    const auto results = app::evaluate(
+        *input, {measured ? &*measured : nullptr, options.distribution, options.out.has_value()});
     const auto report = app::make_report(*input, results);
     if (!results.is_complete) {
         print(report.diagnostics, report.file, errors);
         return exit_case_error;
     }
     if (options.export_gpc)
-        app::write_whole_file(*options.export_gpc,
-                              app::format_measured_curve(
-                                  results.distributions[app::find_distribution(*input, options.distribution)]));
+        app::write_whole_file(
+            *options.export_gpc,
+            app::format_measured_curve(
+                results.distributions[app::find_distribution(*input, options.distribution)]));
     if (options.out)
         app::write_files(*options.out, app::output_files(options.file.stem().string(), *input, report,
                                                          results.library_output));

@@ -75,14 +75,14 @@ std::vector<Answer> known_answers()
     };
 }
 
-std::optional<double> find(const std::vector<app::Number>& all, std::string_view key)
+std::optional<double> find(const std::vector<app::ResultNumber>& all, std::string_view key)
 {
     for (const auto& n : all)
         if (n.key() == key) return std::get<double>(n.value);
     return {};
 }
 
-bool check(const Answer& answer, const std::vector<app::Number>& all, std::FILE* out)
+bool check(const Answer& answer, const std::vector<app::ResultNumber>& all, std::FILE* out)
 {
     constexpr double rounding = 1e-9;
     const auto seen = find(all, answer.key);
@@ -100,9 +100,10 @@ bool check_all(std::FILE* out)
     if (!diagnostics.empty()) return false;
     const auto report = app::make_report(input, app::evaluate(input));
     for (const auto& found : report.diagnostics)
-        if (found.severity != app::Severity::warning) fmt::print(out, "FAILED  {}\n", line(found, report.file));
+        if (found.severity != app::Severity::warning)
+            fmt::print(out, "FAILED  {}\n", line(found, report.file));
     bool is_good = !has_errors(report);
-    const auto all = numbers(report);
+    const auto all = result_numbers(report);
     for (const auto& answer : known_answers()) is_good = check(answer, all, out) && is_good;
     return is_good;
 }

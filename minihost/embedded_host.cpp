@@ -3,8 +3,8 @@
 #include <polyprops/host.h>
 #include <polyprops/polymer_block.h>
 
+#include "minihost/active_host.h"
 #include "minihost/records.h"
-#include "minihost/services.h"
 
 namespace minihost {
 namespace {

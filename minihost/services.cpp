@@ -1,6 +1,4 @@
 // The host services of <polyprops/host.h>, each forwarded to the active Host.
-#include "minihost/services.h"
-
 #include <polyprops/host.h>
 
 #include <algorithm>
@@ -9,12 +7,6 @@
 #include "minihost/service_log.h"
 
 namespace minihost {
-
-Host*& active_host()
-{
-    static Host* host = nullptr;
-    return host;
-}
 
 namespace {
 

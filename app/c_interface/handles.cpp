@@ -72,14 +72,15 @@ void RunHandle::fail(const std::string& why)
 
 void RunHandle::index_numbers()
 {
-    const auto all = numbers(report_);
+    const auto all = result_numbers(report_);
     number_keys_.reserve(all.size());
     numbers_.reserve(all.size());
     for (const auto& n : all) {
         if (n.table->is_long) continue;
         number_keys_.push_back(n.key());
         const auto as_real = [](const auto& value) -> double {
-            if constexpr (std::is_arithmetic_v<std::decay_t<decltype(value)>>) return static_cast<double>(value);
+            if constexpr (std::is_arithmetic_v<std::decay_t<decltype(value)>>)
+                return static_cast<double>(value);
             return 0;
         };
         numbers_.emplace(number_keys_.back(), std::visit(as_real, n.value));

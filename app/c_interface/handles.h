@@ -27,7 +27,10 @@ class CaseHandle {
 public:
     explicit CaseHandle(CaseDocument document) : document_(std::move(document)) { check(); }
     // A case that cannot be read.
-    CaseHandle(std::string file, const std::string& why) : document_("", std::move(file)), failure_(why) { check(); }
+    CaseHandle(std::string file, const std::string& why) : document_("", std::move(file)), failure_(why)
+    {
+        check();
+    }
 
     double number(const std::string& key) const { return document_.number(key); }
     void set_number(const std::string& key, double value)

@@ -41,7 +41,10 @@ std::string line(const Diagnostic& diagnostic, std::string_view file);
 
 class Diagnostics {
 public:
-    void add(SourcePosition source, std::string text) { found_.push_back({std::move(source), std::move(text)}); }
+    void add(SourcePosition source, std::string text)
+    {
+        found_.push_back({std::move(source), std::move(text)});
+    }
     bool empty() const { return found_.empty(); }
 
     // In the order of the file.

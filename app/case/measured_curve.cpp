@@ -36,13 +36,13 @@ std::optional<double> take_number(std::string_view& text)
 // Two numbers with blanks or a comma between them, and nothing else.
 std::optional<Pair> read_pair(std::string_view line)
 {
-    const auto weight = take_number(line);
-    if (!weight || line.empty() || blanks.find(line.front()) == std::string_view::npos) return {};
+    const auto molecular_weight = take_number(line);
+    if (!molecular_weight || line.empty() || blanks.find(line.front()) == std::string_view::npos) return {};
     line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
     if (line.starts_with(',')) line.remove_prefix(1);
     const auto signal = take_number(line);
     if (!signal || line.find_first_not_of(" \t\r") != std::string_view::npos) return {};
-    return Pair{*weight, *signal};
+    return Pair{*molecular_weight, *signal};
 }
 
 [[noreturn]] void refuse(const std::string& file, std::size_t line, std::string_view seen,

@@ -123,7 +123,8 @@ std::vector<Entry> read_array(const Entry& entry, Diagnostics& diagnostics)
     return elements;
 }
 
-TableReader::TableReader(const toml::table& table, std::string path, SourcePosition source, Diagnostics& diagnostics)
+TableReader::TableReader(const toml::table& table, std::string path, SourcePosition source,
+                         Diagnostics& diagnostics)
     : table_(&table), path_(std::move(path)), source_(std::move(source)), diagnostics_(&diagnostics)
 {
 }

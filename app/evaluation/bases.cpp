@@ -1,6 +1,6 @@
 #include "app/evaluation/bases.h"
 
-#include "app/routines/bases.h"
+#include "app/routines/basis_conversions.h"
 #include "app/routines/chain_averages.h"
 
 namespace app {
@@ -39,17 +39,19 @@ Composition composition(Basis basis, const Amounts& amounts, const Host& host)
 
 Amounts apparent(const StreamList& list)
 {
-    return {list.components, list.mole_flow, routines::sub_composition(list.flow_of_component, list.components),
+    return {list.components, list.mole_flow,
+            routines::sub_composition(list.flow_of_component, list.components),
             list.molecular_weights_of(list.components)};
 }
 
 Amounts true_chains(const StreamList& list, const Amounts& apparent)
 {
-    Amounts amounts{list.components, list.mole_flow,
-                    routines::true_mole_fractions(list.components, list.molecular_weight, apparent.mole_fraction),
-                    routines::number_average_molecular_weights(list.components)};
-    const auto moles = routines::per_true_mole(list.components, list.molecular_weight, amounts.molecular_weight,
-                                               Reals(list.size(), 1.0));
+    Amounts amounts{
+        list.components, list.mole_flow,
+        routines::true_mole_fractions(list.components, list.molecular_weight, apparent.mole_fraction),
+        routines::number_average_molecular_weights(list.components)};
+    const auto moles = routines::per_true_mole(list.components, list.molecular_weight,
+                                               amounts.molecular_weight, Reals(list.size(), 1.0));
     // A chain without weight keeps its apparent amount, as POLY_XATOXT lets it.
     for (std::size_t i = 0; i < moles.size(); ++i)
         if (moles[i] != 0) amounts.mole_flow[i] /= moles[i];
@@ -58,9 +60,10 @@ Amounts true_chains(const StreamList& list, const Amounts& apparent)
 
 Amounts segment(const StreamList& list, const Amounts& chains)
 {
-    auto basis = routines::segment_basis(list.components, list.counts, chains.mole_flow, chains.mole_fraction);
-    const auto weights = list.molecular_weights_of(basis.list);
-    return {std::move(basis.list), std::move(basis.flows), std::move(basis.mole_fractions), weights};
+    auto basis =
+        routines::segment_basis(list.components, list.counts, chains.mole_flow, chains.mole_fraction);
+    const auto molecular_weight = list.molecular_weights_of(basis.list);
+    return {std::move(basis.list), std::move(basis.flows), std::move(basis.mole_fractions), molecular_weight};
 }
 
 std::vector<Composition> on_all_bases(const StreamList& list, const Host& host)
@@ -78,7 +81,8 @@ Composition apparent_from_true(const StreamList& list, const Host& host)
 {
     const auto chains = true_chains(list, apparent(list));
     const auto per_true_mole = [&](const Reals& quantity) {
-        return routines::per_true_mole(list.components, list.molecular_weight, chains.molecular_weight, quantity);
+        return routines::per_true_mole(list.components, list.molecular_weight, chains.molecular_weight,
+                                       quantity);
     };
     Components positions;
     for (std::size_t i = 0; i < list.size(); ++i) positions.push_back({static_cast<routines::Int>(i) + 1});

@@ -26,7 +26,8 @@ SegmentCountMatrix segment_count_matrix(const StreamList& list, const minihost::
     return matrix;
 }
 
-std::vector<WeightComparison> chain_weights(const StreamList& list, const minihost::Host& host)
+std::vector<ChainAverageComparison> chain_average_comparisons(const StreamList& list,
+                                                              const minihost::Host& host)
 {
     const auto chains = list.chains();
     const auto& counts = list.counts;
@@ -43,7 +44,7 @@ std::vector<WeightComparison> chain_weights(const StreamList& list, const miniho
         {"mw", routines::weight_average_molecular_weights(counts, chains, mw),
          routines::weight_average_molecular_weights(chains)},
     };
-    std::vector<WeightComparison> found;
+    std::vector<ChainAverageComparison> found;
     for (std::size_t i = 0; i < chains.size(); ++i)
         for (const auto& [average, from_counts, from_attributes] : averages)
             found.push_back({host.components().at(chains[i].index).id, average, from_counts[i],

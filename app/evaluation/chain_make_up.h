@@ -20,7 +20,7 @@ struct SegmentCountMatrix {
 };
 
 // One average of a chain computed in two ways, g/mol.
-struct WeightComparison {
+struct ChainAverageComparison {
     std::string component;
     std::string average;  // key of the same quantity in the chain averages
     double from_counts;
@@ -31,6 +31,7 @@ struct WeightComparison {
 SegmentCountMatrix segment_count_matrix(const StreamList& list, const minihost::Host& host);
 
 // Of the selected stream.
-std::vector<WeightComparison> chain_weights(const StreamList& list, const minihost::Host& host);
+std::vector<ChainAverageComparison> chain_average_comparisons(const StreamList& list,
+                                                              const minihost::Host& host);
 
 }  // namespace app

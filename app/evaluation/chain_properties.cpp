@@ -24,7 +24,8 @@ Reals by_component(const std::vector<ComponentValue>& values, const Host& host)
 
 bool has_segments(const StreamList& list, Component chain)
 {
-    return std::ranges::any_of(list.counts.segments, [&](Component s) { return list.counts.of(chain, s) > 0; });
+    return std::ranges::any_of(list.counts.segments,
+                               [&](Component s) { return list.counts.of(chain, s) > 0; });
 }
 
 double value_of(const Property& property, const StreamList& list, Component chain, const Host& host)

@@ -153,10 +153,11 @@ std::vector<Diagnostic> disagreements(const Distribution& distribution, const Di
         if (std::isfinite(check.pn) && std::isfinite(check.pw) && !check.agrees())
             found.push_back(
                 {distribution.name.source,
-                 fmt::format("distributions.{}: {} has Pn {:.6g} and Pw {:.6g} on the grid; by its {} they are "
-                             "{:.6g} and {:.6g}: more points or a greater longest_chain may be needed",
-                             results.name, check.curve, check.averages.pn, check.averages.pw, check.source,
-                             check.pn, check.pw),
+                 fmt::format(
+                     "distributions.{}: {} has Pn {:.6g} and Pw {:.6g} on the grid; by its {} they are "
+                     "{:.6g} and {:.6g}: more points or a greater longest_chain may be needed",
+                     results.name, check.curve, check.averages.pn, check.averages.pw, check.source, check.pn,
+                     check.pw),
                  Severity::warning});
     return found;
 }

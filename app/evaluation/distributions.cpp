@@ -6,6 +6,7 @@
 #include "app/evaluation/reactors.h"
 #include "app/evaluation/stream_list.h"
 #include "app/routines/chain_length_distribution.h"
+#include "app/routines/publication.h"
 #include "src/numeric/trapezoid_averages.h"
 
 namespace app {
@@ -19,7 +20,8 @@ routines::CurveForm form_of(bool is_gpc)
     return is_gpc ? routines::CurveForm::gpc : routines::CurveForm::weight_fraction;
 }
 
-routines::AccumulatedDistribution accumulate(const Distribution& distribution, const DistributionSection& section)
+routines::AccumulatedDistribution accumulate(const Distribution& distribution,
+                                             const DistributionSection& section)
 {
     routines::AccumulatedDistribution made{static_cast<std::size_t>(distribution.points),
                                            distribution.longest_chain, section.sites.size(),
@@ -94,8 +96,11 @@ DistributionResults curves(const Distribution& distribution)
     results.name = distribution.name.id;
     results.is_gpc = distribution.is_gpc;
     results.segment_weight = distribution.segment_weight;
-    results.curves.push_back({"composite", Curve::Kind::composite, 0.0,
-                              std::vector<double>(static_cast<std::size_t>(distribution.points)), {}});
+    results.curves.push_back({"composite",
+                              Curve::Kind::composite,
+                              0.0,
+                              std::vector<double>(static_cast<std::size_t>(distribution.points)),
+                              {}});
     for (const auto& section : distribution.sections) {
         const auto made = accumulate(distribution, section);
         auto& composite = results.curves.front();
@@ -116,10 +121,10 @@ std::optional<StreamPolymer> polymer_of(const Distribution& distribution, Host& 
 {
     if (!distribution.stream) return {};
     const auto& view = host.streams().view(distribution.stream->id);
-    const auto weights = molecular_weights(host);
+    const auto by_component = molecular_weights(host);
     const auto sites = site_types(host);
-    return StreamPolymer{routines::stream_moments(view, weights, sites),
-                         routines::polymer_held(view, weights, sites).mean_segment_weight.back()};
+    return StreamPolymer{routines::stream_moments(view, by_component, sites),
+                         routines::polymer_held(view, by_component, sites).mean_segment_weight.back()};
 }
 
 void add_molecular_weights(DistributionResults& results)
@@ -138,7 +143,8 @@ DistributionResults evaluate(const Distribution& distribution, Host& host)
     for (auto& curve : results.curves) curve.averages = averages(results, curve);
     results.cumulative = cumulative(results);
     for (std::size_t k = 0; k < results.lengths.size(); ++k)
-        results.chromatogram.push_back(std::numbers::ln10 * (results.lengths[k] * results.height(results.composite(), k)));
+        results.chromatogram.push_back(std::numbers::ln10 *
+                                       (results.lengths[k] * results.height(results.composite(), k)));
     const auto polymer = polymer_of(distribution, host);
     if (polymer && !results.segment_weight && polymer->mean_segment_weight > 0)
         results.segment_weight = polymer->mean_segment_weight;

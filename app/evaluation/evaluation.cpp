@@ -7,7 +7,7 @@
 #include "app/evaluation/distribution_checks.h"
 #include "app/evaluation/distributions.h"
 #include "app/host_setup/loaded_case.h"
-#include "app/routines/site_summary.h"
+#include "app/routines/publication.h"
 
 namespace app {
 
@@ -89,7 +89,8 @@ std::size_t find_distribution(const Case& input, const std::string& name)
 {
     std::vector<std::string_view> names;
     for (const auto& distribution : input.distributions) {
-        if (distribution.name.id == name || (name.empty() && input.distributions.size() == 1)) return names.size();
+        if (distribution.name.id == name || (name.empty() && input.distributions.size() == 1))
+            return names.size();
         names.push_back(distribution.name.id);
     }
     if (names.empty()) throw std::runtime_error{input.file + " has no distribution to compare or to export"};

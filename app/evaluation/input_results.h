@@ -4,7 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "app/host_setup/message_places.h"
+#include "app/case/case_model.h"
+#include "app/case/input_message.h"
 #include "minihost/polymer_input.h"
 
 namespace app {
@@ -24,7 +25,7 @@ struct ScaledElement {
 };
 
 struct InputResults {
-    std::vector<PlacedMessage> messages;  // the rest is empty when there is one
+    std::vector<InputMessage> messages;  // the rest is empty when there is one
     minihost::PolymerInput polymer_input;
     std::vector<CarriedAttribute> attributes;
     std::vector<ScaledElement> catalyst_scaling;

@@ -78,10 +78,10 @@ MeasuredComparison compare(const MeasuredCurve& measured, const CompositeCurve& 
         c.calculated.push_back(interpolated(composite, m / composite.segment_weight));
     }
     scale_to_area_one(c.molecular_weight, c.measured, measured.file + ": the signal");
-    scale_to_area_one(c.molecular_weight, c.calculated,
-                      fmt::format("distributions.{}: the composite in the measured range, {} to {} g/mol,",
-                                  composite.distribution, c.molecular_weight.front(),
-                                  c.molecular_weight.back()));
+    scale_to_area_one(
+        c.molecular_weight, c.calculated,
+        fmt::format("distributions.{}: the composite in the measured range, {} to {} g/mol,",
+                    composite.distribution, c.molecular_weight.front(), c.molecular_weight.back()));
     for (std::size_t k = 0; k < c.measured.size(); ++k)
         c.overlay.push_back(c.measured[k] / std::numbers::ln10 / (composite.is_gpc ? 1 : c.chain_length[k]));
     add_averages(c.molecular_weight, c.measured, c.mn_measured, c.mw_measured);

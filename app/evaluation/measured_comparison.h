@@ -28,10 +28,10 @@ struct MeasuredComparison {
 // The composite of a distribution.
 struct CompositeCurve {
     std::string distribution;
-    bool is_gpc = false;           // the form of the distribution's curves
-    double segment_weight = 0;     // g/mol
-    std::vector<double> lengths;   // segments
-    std::vector<double> heights;   // x·w(x)
+    bool is_gpc = false;          // the form of the distribution's curves
+    double segment_weight = 0;    // g/mol
+    std::vector<double> lengths;  // segments
+    std::vector<double> heights;  // x·w(x)
 };
 
 // Throws std::runtime_error when the composite has nothing in the measured range.

@@ -21,8 +21,9 @@ bool carries_site_attributes(Int component, Host& host)
 
 ReactorResults evaluate(const Reactor& reactor, std::size_t sites, Host& host)
 {
-    const auto made = routines::polymer_made(host.streams().view(reactor.inlet.id),
-                                             host.streams().view(reactor.outlet.id), molecular_weights(host), sites);
+    const auto made =
+        routines::polymer_made(host.streams().view(reactor.inlet.id), host.streams().view(reactor.outlet.id),
+                               molecular_weights(host), sites);
     ReactorResults results{reactor.name.id, reactor.inlet.id, reactor.outlet.id, {}};
     for (std::size_t t = 0; t <= sites; ++t)
         results.made.push_back({t < sites ? std::to_string(t + 1) : "total", made.mass[t],

@@ -41,11 +41,12 @@ void add(const DistributionResults& results, Collector& all)
 void add(const ParameterResults& results, Collector& all)
 {
     const auto size = results.components.size();
-    all.add_matrix(fmt::format("parameters.{}.binary_coefficients", results.name), results.coefficients.values,
-                   results.positions());
+    all.add_matrix(fmt::format("parameters.{}.binary_coefficients", results.name),
+                   results.coefficients.values, results.positions());
     for (const auto& at : results.temperatures) {
         const auto add_matrix = [&](const char* table, const PairMatrix& matrix) {
-            all.add_matrix(fmt::format("parameters.{}.{}.{}", results.name, table, at.temperature), matrix, size);
+            all.add_matrix(fmt::format("parameters.{}.{}.{}", results.name, table, at.temperature), matrix,
+                           size);
         };
         add_matrix("binary_parameters", at.values);
         add_matrix("binary_parameter_slopes", at.slopes);

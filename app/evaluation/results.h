@@ -4,11 +4,12 @@
 #include <string>
 #include <vector>
 
+#include "app/case/case_model.h"
+#include "app/case/input_message.h"
 #include "app/evaluation/distribution_results.h"
 #include "app/evaluation/parameter_results.h"
 #include "app/evaluation/reactors.h"
 #include "app/evaluation/stream_results.h"
-#include "app/host_setup/message_places.h"
 #include "minihost/report_file.h"
 
 namespace app {
@@ -20,9 +21,9 @@ struct LibraryOutput {
 };
 
 struct Results {
-    bool is_complete = false;             // false: an error ended the run before its results
-    std::vector<PlacedMessage> messages;  // of the library's input checks
-    std::vector<Diagnostic> errors;       // values of streams that were refused
+    bool is_complete = false;            // false: an error ended the run before its results
+    std::vector<InputMessage> messages;  // of the library's input checks
+    std::vector<Diagnostic> errors;      // values of streams that were refused
     std::vector<Diagnostic> warnings;
     std::vector<StreamResults> streams;
     std::vector<ReactorResults> reactors;
@@ -34,7 +35,7 @@ struct Results {
 // One stream of a case on two bases.
 struct ConversionResults {
     bool is_complete = false;
-    std::vector<PlacedMessage> messages;
+    std::vector<InputMessage> messages;
     std::vector<Diagnostic> errors;
     std::string stream;
     Compositions compositions;

@@ -13,18 +13,18 @@ routines::Components StreamList::chains() const
 
 std::vector<double> StreamList::molecular_weights_of(const routines::Components& listed) const
 {
-    std::vector<double> weights;
-    weights.reserve(listed.size());
-    for (const auto c : listed) weights.push_back(molecular_weight[routines::at(c)]);
-    return weights;
+    std::vector<double> found;
+    found.reserve(listed.size());
+    for (const auto c : listed) found.push_back(molecular_weight[routines::at(c)]);
+    return found;
 }
 
 std::vector<double> molecular_weights(const minihost::Host& host)
 {
-    std::vector<double> weights;
+    std::vector<double> found;
     for (routines::Int c = 1; c <= host.components().count(); ++c)
-        weights.push_back(host.components().at(c).molecular_weight.value_or(0));
-    return weights;
+        found.push_back(host.components().at(c).molecular_weight.value_or(0));
+    return found;
 }
 
 StreamList list_stream(const std::string& name, minihost::Host& host)

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "app/routines/segment_counts.h"
+#include "app/routines/segment_count_matrix.h"
 #include "minihost/embedded_host.h"
 
 namespace app {

@@ -48,7 +48,7 @@ StreamResults evaluate(const std::string& name, const Case& input, Host& host)
             segment_shares(list.chains(), host),
             compositions(list, host),
             segment_count_matrix(list, host),
-            chain_weights(list, host),
+            chain_average_comparisons(list, host),
             chain_properties(input, list, host)};
 }
 

@@ -36,7 +36,7 @@ struct StreamResults {
     std::vector<SegmentShare> shares;
     Compositions compositions;
     SegmentCountMatrix segment_counts;
-    std::vector<WeightComparison> chain_weights;
+    std::vector<ChainAverageComparison> chain_weights;
     std::vector<ChainProperties> properties;
 };
 

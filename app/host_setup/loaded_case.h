@@ -24,12 +24,12 @@ public:
     Diagnostics add_streams(const Case& input);
 
     minihost::Host& host() const { return *host_; }
-    const std::vector<PlacedMessage>& messages() const { return messages_; }
+    const std::vector<InputMessage>& messages() const { return messages_; }
 
 private:
     std::unique_lock<std::mutex> turn_;
     std::unique_ptr<minihost::Host> host_;
-    std::vector<PlacedMessage> messages_;
+    std::vector<InputMessage> messages_;
 };
 
 }  // namespace app

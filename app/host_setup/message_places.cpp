@@ -182,7 +182,8 @@ private:
     SourcePosition end_fractions_source()
     {
         const auto* found = attributes_.next([](const Item& item) { return item.carries("EFRAC"); });
-        return found ? std::ranges::find(found->attributes->names, "EFRAC", &PlacedName::id)->source : source_;
+        return found ? std::ranges::find(found->attributes->names, "EFRAC", &PlacedName::id)->source
+                     : source_;
     }
 
     SourcePosition source_;
@@ -209,24 +210,15 @@ std::string hint(const minihost::Message& message, const Case& input)
 
 }  // namespace
 
-std::vector<PlacedMessage> place(const std::vector<minihost::Message>& messages, const Case& input)
+std::vector<InputMessage> place(const std::vector<minihost::Message>& messages, const Case& input)
 {
     const Paragraph none;
     Places places{input.paragraph ? *input.paragraph : none, input.catalyst_scaling};
-    std::vector<PlacedMessage> placed;
+    std::vector<InputMessage> placed;
     placed.reserve(messages.size());
     for (const auto& message : messages)
         placed.push_back({places.of(message), hint(message, input), message});
     return placed;
-}
-
-Diagnostic diagnostic(const PlacedMessage& placed)
-{
-    const auto& [source, hint, message] = placed;
-    auto text = fmt::format("{} message {}, severity {}{}", message.routine, message.number, message.severity,
-                            hint);
-    for (const auto& line : message.lines) text += "\n" + line;
-    return {source, std::move(text), Severity::message};
 }
 
 }  // namespace app

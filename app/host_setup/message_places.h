@@ -1,24 +1,14 @@
-// The library's input messages, each with the place in the case file that it is about.
+// Finds the places of the library's input messages in the case file.
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "app/case/case_model.h"
-#include "minihost/message_log.h"
+#include "app/case/input_message.h"
 
 namespace app {
 
-struct PlacedMessage {
-    SourcePosition source;
-    std::string hint;  // `; did you mean "ID"?` for an ID that no component has, empty otherwise
-    minihost::Message message;
-};
-
-// Finds the places of the messages of one paragraph check and, after it, one catalyst scaling.
-std::vector<PlacedMessage> place(const std::vector<minihost::Message>& messages, const Case& input);
-
-// "ROUTINE message NUMBER, severity SEVERITY" and the lines of the message as they are.
-Diagnostic diagnostic(const PlacedMessage& placed);
+// Of the messages of one paragraph check and, after it, one catalyst scaling.
+std::vector<InputMessage> place(const std::vector<minihost::Message>& messages, const Case& input);
 
 }  // namespace app

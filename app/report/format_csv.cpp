@@ -31,7 +31,7 @@ std::string format_csv(const Report& report)
 {
     if (report.sections.empty()) return input_csv(report.input);
     std::string csv = "section,name,table,item,component,segment,quantity,value,unit\n";
-    for (const auto& n : numbers(report))
+    for (const auto& n : result_numbers(report))
         csv += fmt::format("{},{},{},{},{},{},{},{},{}\n", n.section->kind, csv_field(n.section->name),
                            n.table->key, csv_field(n.item), csv_field(n.component), csv_field(n.segment),
                            csv_field(n.quantity->key), text(n.value), csv_field(n.quantity->unit));

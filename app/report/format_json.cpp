@@ -50,7 +50,7 @@ Json section_object(const Section& section)
     return object;
 }
 
-Json message_object(const PlacedMessage& placed, const std::string& file)
+Json message_object(const InputMessage& placed, const std::string& file)
 {
     const auto& [source, hint, message] = placed;
     return {{"file", file},

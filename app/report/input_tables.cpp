@@ -1,5 +1,5 @@
-// Counts, codes and places have no unit, and the values that a paragraph only hands on have none that is known
-// here.
+// Counts, codes and places have no unit, and the values that a paragraph only hands on have none that is
+// known here.
 #include "app/report/input_tables.h"
 
 #include "app/report/columns.h"
@@ -38,7 +38,8 @@ Table segments(const PolymerInput& paragraph)
                  {"type", "Code", ""},
                  {"position", "Place in the segment list", ""}},
                 {}};
-    for (const auto& s : paragraph.segments) table.rows.push_back({s.id, type_name(s.type), s.type, s.position});
+    for (const auto& s : paragraph.segments)
+        table.rows.push_back({s.id, type_name(s.type), s.type, s.position});
     return table;
 }
 
@@ -120,7 +121,8 @@ Table catalyst_scaling(const std::vector<ScaledElement>& elements)
                  {"first", "First value", ""},
                  {"second", "Second value", ""}},
                 {}};
-    for (const auto& e : elements) table.rows.push_back({e.component, e.attribute, e.element, e.first, e.second});
+    for (const auto& e : elements)
+        table.rows.push_back({e.component, e.attribute, e.element, e.first, e.second});
     return table;
 }
 

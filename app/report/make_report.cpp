@@ -15,7 +15,7 @@ namespace app {
 
 namespace {
 
-Report start(const Case& input, const std::vector<PlacedMessage>& messages)
+Report start(const Case& input, const std::vector<InputMessage>& messages)
 {
     Report report{input.title, input.file, messages, {}, {}, {}};
     for (const auto& message : messages) report.diagnostics.push_back(diagnostic(message));

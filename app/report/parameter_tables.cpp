@@ -36,8 +36,8 @@ Table coefficients(const ParameterResults& results)
 
 // One square after the other: a row for each temperature and first component, a column for each second
 // component.
-Table matrix_table(const ParameterResults& results, std::string key, std::string heading, const std::string& unit,
-              const PairMatrix& (*matrix)(const ParametersAtTemperature&))
+Table matrix_table(const ParameterResults& results, std::string key, std::string heading,
+                   const std::string& unit, const PairMatrix& (*matrix)(const ParametersAtTemperature&))
 {
     Table table{
         std::move(key), std::move(heading), {{"temperature", "Temperature", "K"}, columns::component}, {}};
@@ -56,19 +56,20 @@ Table matrix_table(const ParameterResults& results, std::string key, std::string
 Section parameter_section(const ParameterResults& results)
 {
     const auto per_kelvin = results.unit == "1" ? "1/K" : results.unit + "/K";
-    Section section{"parameter",
-                    results.name,
-                    "Binary parameters " + results.name,
-                    {},
-                    {coefficients(results),
-                     matrix_table(results, "binary_parameters", "Parameters", results.unit,
-                             [](const auto& at) -> const PairMatrix& { return at.values; }),
-                     matrix_table(results, "binary_parameter_slopes", "Temperature times derivative", results.unit,
-                             [](const auto& at) -> const PairMatrix& { return at.slopes; })}};
+    Section section{
+        "parameter",
+        results.name,
+        "Binary parameters " + results.name,
+        {},
+        {coefficients(results),
+         matrix_table(results, "binary_parameters", "Parameters", results.unit,
+                      [](const auto& at) -> const PairMatrix& { return at.values; }),
+         matrix_table(results, "binary_parameter_slopes", "Temperature times derivative", results.unit,
+                      [](const auto& at) -> const PairMatrix& { return at.slopes; })}};
     if (!results.temperatures.empty() && results.temperatures.front().derivatives)
         section.tables.push_back(
             matrix_table(results, "binary_parameter_derivatives", "Derivatives", per_kelvin,
-                    [](const auto& at) -> const PairMatrix& { return *at.derivatives; }));
+                         [](const auto& at) -> const PairMatrix& { return *at.derivatives; }));
     return section;
 }
 

@@ -7,7 +7,8 @@
 #include <variant>
 #include <vector>
 
-#include "app/host_setup/message_places.h"
+#include "app/case/case_model.h"
+#include "app/case/input_message.h"
 
 namespace app {
 
@@ -39,9 +40,9 @@ struct Section {
 struct Report {
     std::string title;
     std::string file;
-    std::vector<PlacedMessage> messages;   // of the library's input checks, as JSON shows them
-    std::vector<Diagnostic> diagnostics;   // errors and messages first, then warnings
-    std::vector<Table> input;              // the polymer paragraph as checked
+    std::vector<InputMessage> messages;   // of the library's input checks, as JSON shows them
+    std::vector<Diagnostic> diagnostics;  // errors and messages first, then warnings
+    std::vector<Table> input;             // the polymer paragraph as checked
     std::vector<Section> sections;
 };
 

@@ -20,15 +20,15 @@ std::string item_of(const Table& table, const std::vector<Cell>& row)
 }
 
 void add_row(const Section& section, const Table& table, const std::vector<Cell>& row,
-             std::vector<Number>& all)
+             std::vector<ResultNumber>& all)
 {
-    const Number lead{&section,
-                      &table,
-                      item_of(table, row),
-                      text_of(table, row, "component"),
-                      text_of(table, row, "segment"),
-                      nullptr,
-                      {}};
+    const ResultNumber lead{&section,
+                            &table,
+                            item_of(table, row),
+                            text_of(table, row, "component"),
+                            text_of(table, row, "segment"),
+                            nullptr,
+                            {}};
     for (std::size_t i = 0; i < row.size(); ++i) {
         if (!is_number(row[i])) continue;
         all.push_back(lead);
@@ -57,7 +57,7 @@ std::string text_of(const Table& table, const std::vector<Cell>& row, std::strin
     return {};
 }
 
-std::string Number::key() const
+std::string ResultNumber::key() const
 {
     std::string key = section->kind + "s";
     for (const auto& part : {section->name, table->key, item, component, segment, quantity->key})
@@ -65,9 +65,9 @@ std::string Number::key() const
     return key;
 }
 
-std::vector<Number> numbers(const Report& report)
+std::vector<ResultNumber> result_numbers(const Report& report)
 {
-    std::vector<Number> all;
+    std::vector<ResultNumber> all;
     for (const auto& section : report.sections)
         for (const auto& table : section.tables)
             for (const auto& row : table.rows) add_row(section, table, row, all);

@@ -8,7 +8,7 @@
 
 namespace app {
 
-struct Number {
+struct ResultNumber {
     const Section* section;
     const Table* table;
     std::string item;  // what else tells the rows of a table apart: a basis, a curve, a temperature
@@ -28,7 +28,7 @@ std::string text(const Cell& cell);
 std::string text_of(const Table& table, const std::vector<Cell>& row, std::string_view key);
 
 // In the order of the report, which has to outlive them.
-std::vector<Number> numbers(const Report& report);
+std::vector<ResultNumber> result_numbers(const Report& report);
 
 // A field with a comma, a quote or a line end stands in quotes, its own quotes doubled.
 std::string csv_field(const std::string& text);

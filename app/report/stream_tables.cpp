@@ -67,7 +67,7 @@ Table segment_count_table(const SegmentCountMatrix& matrix)
     return table;
 }
 
-Table chain_weight_table(const std::vector<WeightComparison>& weights)
+Table chain_average_table(const std::vector<ChainAverageComparison>& comparisons)
 {
     Table table{"chain_weights",
                 "Chain weights from segments per chain and from attributes",
@@ -77,7 +77,7 @@ Table chain_weight_table(const std::vector<WeightComparison>& weights)
                  {"from_attributes", "From attributes", "g/mol"},
                  {"difference", "Relative difference", "1"}},
                 {}};
-    for (const auto& w : weights)
+    for (const auto& w : comparisons)
         table.rows.push_back({w.component, w.average, w.from_counts, w.from_attributes, w.difference});
     return table;
 }
@@ -155,7 +155,7 @@ Section stream_section(const StreamResults& results, const Case& input)
     std::vector<Table> tables{chain_averages(results.averages), segment_fractions(results.shares)};
     add_compositions(results.compositions, tables);
     tables.push_back(segment_count_table(results.segment_counts));
-    tables.push_back(chain_weight_table(results.chain_weights));
+    tables.push_back(chain_average_table(results.chain_weights));
     if (!input.properties.empty()) tables.push_back(property_table(input.properties, results.properties));
     return section_of_stream(results.stream, std::move(tables));
 }

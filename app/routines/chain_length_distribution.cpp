@@ -38,19 +38,4 @@ void mix_in(const Reals& second, double second_amount, Reals& first, double& fir
                 &first_amount);
 }
 
-void publish_distribution(minihost::Host& host, const std::string& name, CurveForm form, const Reals& lengths,
-                          const Reals& composite, const std::vector<Reals>& sections)
-{
-    Reals values = composite;
-    for (const auto& section : sections) values.insert(values.end(), section.begin(), section.end());
-    const auto points = static_cast<Int>(lengths.size());
-    const auto section_count = static_cast<Int>(sections.size());
-    const double scale = 1.0;
-    const Int is_scaled = 0;
-    const Int is_gpc = form == CurveForm::gpc ? 1 : 0;
-    POLY_CSDPLOT(host.summary().context(name), nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-                 nullptr, nullptr, &points, lengths.data(), values.data(), &section_count, &scale, &is_scaled,
-                 &is_gpc);
-}
-
 }  // namespace app::routines

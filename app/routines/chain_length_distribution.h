@@ -1,8 +1,7 @@
-// Chain-length distributions on a grid, and their publication by the library's report and summary routines.
+// Chain-length distributions on a grid.
 #pragma once
 
 #include "app/routines/component.h"
-#include "minihost/embedded_host.h"
 
 namespace app::routines {
 
@@ -32,17 +31,12 @@ private:
     Int sites_;
     Int mode_;
     Reals lengths_;
-    Reals amounts_;    // by site, the total last
+    Reals amounts_;  // by site, the total last
     Reals composite_;
-    Reals columns_;    // site after site
+    Reals columns_;  // site after site
 };
 
 // Mixes a second distribution into a first, both by their amounts.
 void mix_in(const Reals& second, double second_amount, Reals& first, double& first_amount);
-
-// Writes a composite and the sections that make it up to the host's report and summary files; all curves are
-// on the grid of `lengths`.
-void publish_distribution(minihost::Host& host, const std::string& name, CurveForm form, const Reals& lengths,
-                          const Reals& composite, const std::vector<Reals>& sections);
 
 }  // namespace app::routines

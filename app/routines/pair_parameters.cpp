@@ -25,8 +25,8 @@ PairMatrix ask(SelectedPairs& routine, const PairCoefficients& c, double tempera
     const Reals selected(component_count(c), 1.0);
     const std::vector<Int> mask(component_count(c));
     PairMatrix out(pair_count(c));
-    routine(&temperature, &c.positions, &c.reference_position, &c.components, c.values.data(), selected.data(),
-            mask.data(), out.data());
+    routine(&temperature, &c.positions, &c.reference_position, &c.components, c.values.data(),
+            selected.data(), mask.data(), out.data());
     return out;
 }
 
@@ -35,7 +35,8 @@ PairMatrix ask(SelectedPairs& routine, const PairCoefficients& c, double tempera
 void complete_pairs(PairCoefficients& coefficients, Int leading, bool is_antisymmetric)
 {
     const Int mode = is_antisymmetric ? 2 : 1;
-    POLY_TBPARI(&coefficients.positions, &coefficients.components, coefficients.values.data(), &leading, &mode);
+    POLY_TBPARI(&coefficients.positions, &coefficients.components, coefficients.values.data(), &leading,
+                &mode);
 }
 
 PairMatrix pair_parameters(const PairCoefficients& coefficients, double temperature)
@@ -51,7 +52,8 @@ PairMatrix pair_slopes(const PairCoefficients& coefficients, double temperature)
 PairMatrix general_pair_parameters(const PairCoefficients& c, double temperature)
 {
     PairMatrix out(pair_count(c));
-    POLY_TBKIJ3(&temperature, &c.positions, &c.reference_position, &c.components, c.values.data(), out.data());
+    POLY_TBKIJ3(&temperature, &c.positions, &c.reference_position, &c.components, c.values.data(),
+                out.data());
     return out;
 }
 

@@ -8,8 +8,8 @@ namespace app::routines {
 // A value per ordered pair of components, first subscript fastest.
 using PairMatrix = Reals;
 
-// Coefficients by position, first component, second component. Positions count from 1; a reference position of
-// 0 means that every pair refers to 298.15 K.
+// Coefficients by position, first component, second component. Positions count from 1; a reference position
+// of 0 means that every pair refers to 298.15 K.
 struct PairCoefficients {
     Int components = 0;
     Int positions = 0;

@@ -40,7 +40,8 @@ PolymerMade polymer_made(const minihost::StreamView& inlet, const minihost::Stre
     return beyond(inlet.values, outlet, molecular_weights, sites);
 }
 
-PolymerMade polymer_held(const minihost::StreamView& stream, const Reals& molecular_weights, std::size_t sites)
+PolymerMade polymer_held(const minihost::StreamView& stream, const Reals& molecular_weights,
+                         std::size_t sites)
 {
     const Reals empty(static_cast<std::size_t>(stream.length));
     return beyond(empty.data(), stream, molecular_weights, sites);

@@ -32,6 +32,7 @@ PolymerMade polymer_made(const minihost::StreamView& inlet, const minihost::Stre
                          const Reals& molecular_weights, std::size_t sites);
 
 // The polymer of a stream: beyond an empty one.
-PolymerMade polymer_held(const minihost::StreamView& stream, const Reals& molecular_weights, std::size_t sites);
+PolymerMade polymer_held(const minihost::StreamView& stream, const Reals& molecular_weights,
+                         std::size_t sites);
 
 }  // namespace app::routines

@@ -65,10 +65,10 @@ std::vector<std::string> error_lines(const Report& report)
 }
 
 // Curves are left out: their rows have no names that hold from case to case.
-std::vector<Number> swept_numbers(const Report& report)
+std::vector<ResultNumber> swept_numbers(const Report& report)
 {
-    auto all = numbers(report);
-    std::erase_if(all, [](const Number& n) { return n.table->is_long; });
+    auto all = result_numbers(report);
+    std::erase_if(all, [](const ResultNumber& n) { return n.table->is_long; });
     return all;
 }
 

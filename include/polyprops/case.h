@@ -40,8 +40,8 @@ typedef struct polyprops_run polyprops_run;
 
 enum polyprops_status {
     POLYPROPS_OK = 0,
-    POLYPROPS_CASE_ERROR = 1,    // the diagnostics say what is wrong; results may still be there
-    POLYPROPS_NOT_FOUND = 2,     // no such key or entry
+    POLYPROPS_CASE_ERROR = 1,  // the diagnostics say what is wrong; results may still be there
+    POLYPROPS_NOT_FOUND = 2,   // no such key or entry
     POLYPROPS_OUT_OF_MEMORY = 3
 };
 
@@ -126,7 +126,8 @@ const char* polyprops_run_number_key(const polyprops_run* handle, size_t index);
 //   parameters.NAME.binary_parameters.T                          component × component at T K
 //   parameters.NAME.binary_parameter_slopes.T                    T·dK/dT
 //   parameters.NAME.binary_parameter_derivatives.T               dK/dT, of the general form
-//   parameters.NAME.binary_coefficients                          position × ordered pair, first component fastest
+//   parameters.NAME.binary_coefficients                          position × ordered pair, first component
+//   fastest
 //
 // The array is valid until the run is freed.
 int polyprops_run_array(const polyprops_run* handle, const char* key, const double** values, size_t* rows,

@@ -1,7 +1,7 @@
 // The paragraph check as the program shows it: messages with their places, tables of what was built, and runs
 // that go on without the entries in error.
-#include "app/io/file_contents.h"
 #include "app/evaluation/input_results.h"
+#include "app/io/file_contents.h"
 #include "cli/check_command.h"
 #include "cli/program.h"
 

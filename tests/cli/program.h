@@ -104,7 +104,7 @@ inline Evaluation evaluated(const std::string& text)
 // The number of a report at the path that a sweep heads its column with.
 inline double number(const Evaluation& e, const std::string& path)
 {
-    for (const auto& n : app::numbers(e.report))
+    for (const auto& n : app::result_numbers(e.report))
         if (n.key() == path) return std::get<double>(n.value);
     ADD_FAILURE() << "there is no " << path;
     return 0;

@@ -8,8 +8,8 @@
 
 #include "app/io/file_contents.h"
 #include "app/sweep/process_pool.h"
-#include "cli/program.h"
 #include "app/sweep/sweep_grid.h"
+#include "cli/program.h"
 
 namespace {
 

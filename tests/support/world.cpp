@@ -5,7 +5,7 @@
 namespace support {
 namespace {
 
-void give(minihost::Substream& substream, const std::string& id, const Attributes& attributes)
+void set_attributes(minihost::Substream& substream, const std::string& id, const Attributes& attributes)
 {
     for (const Attribute& attribute : attributes) substream.attributes[id][attribute.name] = attribute.values;
 }
@@ -76,7 +76,7 @@ World& World::without(Parameter parameter)
 
 World& World::attributes(const std::string& id, const Attributes& given)
 {
-    give(streams_.front().substreams.front(), id, given);
+    set_attributes(streams_.front().substreams.front(), id, given);
     return *this;
 }
 
@@ -85,7 +85,7 @@ World& World::stream(const std::string& name, const std::vector<Part>& parts)
     auto& substreams = streams_.emplace_back(minihost::Stream{name, {}}).substreams;
     for (const Part& part : parts) {
         substreams.push_back({.type = part.type, .flows = part.flows});
-        for (const auto& [id, given] : part.attributes) give(substreams.back(), id, given);
+        for (const auto& [id, given] : part.attributes) set_attributes(substreams.back(), id, given);
     }
     return *this;
 }

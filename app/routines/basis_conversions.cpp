@@ -1,4 +1,4 @@
-#include "app/routines/bases.h"
+#include "app/routines/basis_conversions.h"
 
 #include <polyprops/polyprops.h>
 
@@ -70,8 +70,8 @@ SegmentBasis segment_basis(const Components& list, const SegmentCounts& counts, 
     std::vector<Int> found(room);
     Int found_count = 0;
     SegmentBasis basis{{}, Reals(room), Reals(room)};
-    POLY_PFTOSF(&n, idx.data(), true_flows.data(), counts.chain_flags.data(), &ld, counts.counts.data(), &nseg,
-                iseg.data(), &found_count, found.data(), basis.flows.data(), &as_they_are);
+    POLY_PFTOSF(&n, idx.data(), true_flows.data(), counts.chain_flags.data(), &ld, counts.counts.data(),
+                &nseg, iseg.data(), &found_count, found.data(), basis.flows.data(), &as_they_are);
     POLY_XTTOXS(&n, idx.data(), counts.chain_flags.data(), true_fractions.data(), &ld, counts.counts.data(),
                 &nseg, iseg.data(), &found_count, found.data(), basis.mole_fractions.data());
     const auto size = static_cast<std::size_t>(found_count);

@@ -1,4 +1,4 @@
-#include "app/routines/segment_counts.h"
+#include "app/routines/segment_count_matrix.h"
 
 #include <polyprops/polyprops.h>
 
@@ -52,7 +52,8 @@ SegmentCounts segment_counts(const Components& list, std::size_t components)
 }
 
 // POLY_GETMWS answers by component index, the others by position.
-Reals mean_segment_weights(const SegmentCounts& counts, const Components& chains, const Reals& molecular_weights)
+Reals mean_segment_weights(const SegmentCounts& counts, const Components& chains,
+                           const Reals& molecular_weights)
 {
     Reals by_component(counts.components);
     ask(POLY_GETMWS, counts, chains, molecular_weights, by_component);

@@ -2,7 +2,7 @@
 // comment says otherwise; molecular weights in g/mol.
 #pragma once
 
-#include "app/routines/segment_counts.h"
+#include "app/routines/segment_count_matrix.h"
 
 namespace app::routines {
 

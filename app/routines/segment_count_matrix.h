@@ -7,20 +7,24 @@ namespace app::routines {
 
 // Segments of component k per molecule of j. Column 1 of a component without segments holds 1.
 struct SegmentCounts {
-    std::size_t components = 0;     // number of components of the case
-    Components segments;            // in the order of the segment list
-    std::vector<Int> chain_flags;   // by component index: 1 for a polymer or oligomer of the list
-    Reals counts;                   // column-major, rows and columns by component index
+    std::size_t components = 0;    // number of components of the case
+    Components segments;           // in the order of the segment list
+    std::vector<Int> chain_flags;  // by component index: 1 for a polymer or oligomer of the list
+    Reals counts;                  // column-major, rows and columns by component index
 
     bool is_chain(Component c) const { return chain_flags[at(c)] == 1; }
-    double of(Component chain, Component segment) const { return counts[at(chain) + at(segment) * components]; }
+    double of(Component chain, Component segment) const
+    {
+        return counts[at(chain) + at(segment) * components];
+    }
 };
 
 // From the attributes of the selected stream, not from its chain averages, so that the two can be compared.
 SegmentCounts segment_counts(const Components& list, std::size_t components);
 
 // Averages of the listed chains by position, g/mol; molecular weights by component index, g/mol.
-Reals mean_segment_weights(const SegmentCounts& counts, const Components& chains, const Reals& molecular_weights);
+Reals mean_segment_weights(const SegmentCounts& counts, const Components& chains,
+                           const Reals& molecular_weights);
 Reals number_average_molecular_weights(const SegmentCounts& counts, const Components& chains,
                                        const Reals& molecular_weights);
 Reals weight_average_molecular_weights(const SegmentCounts& counts, const Components& chains,
