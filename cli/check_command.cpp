@@ -1,5 +1,7 @@
 #include "cli/check_command.h"
 
+#include <memory>
+
 #include "app/evaluation/input_results.h"
 #include "app/report/make_report.h"
 
@@ -16,6 +18,19 @@ int check(const std::filesystem::path& file, app::Format format, std::FILE* out,
         return exit_case_error;
     };
     return guarded(command, errors);
+}
+
+void add_check_command(CLI::App& program, int& status)
+{
+    struct Options {
+        std::filesystem::path file;
+        app::Format format = app::Format::text;
+    };
+    const auto options = std::make_shared<Options>();
+    auto* command = add_case_command(
+        program, "check", "Check the polymer paragraph and print what was built from it", options->file);
+    add_format(*command, options->format);
+    command->callback([options, &status] { status = check(options->file, options->format, stdout, stderr); });
 }
 
 }  // namespace cli

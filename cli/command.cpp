@@ -35,6 +35,22 @@ int show(const app::Report& report, app::Format format, std::FILE* out, std::FIL
     return has_errors(report) ? exit_case_error : exit_success;
 }
 
+CLI::App* add_case_command(CLI::App& program, const char* name, const char* purpose,
+                           std::filesystem::path& file)
+{
+    auto* command = program.add_subcommand(name, purpose);
+    command->add_option("CASE", file, "Case file (TOML)")->required()->type_name("TEXT");
+    return command;
+}
+
+void add_format(CLI::App& command, app::Format& format)
+{
+    add_choice<app::Format>(
+        command, "--format", format,
+        {{"text", app::Format::text}, {"csv", app::Format::csv}, {"json", app::Format::json}}, "FORMAT",
+        "Form of the results (default: text)");
+}
+
 int refuse(const std::string& why, std::FILE* errors)
 {
     fmt::print(errors, "polyprops: {}\n", why);

@@ -1,10 +1,13 @@
 // Steps that several commands share.
 #pragma once
 
+#include <CLI/CLI.hpp>
+
 #include <cstdio>
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/case/case_model.h"
@@ -23,6 +26,32 @@ std::optional<app::Case> read(const std::filesystem::path& file, std::FILE* erro
 
 // Prints the report and its diagnostics; the exit status tells whether there were errors.
 int show(const app::Report& report, app::Format format, std::FILE* out, std::FILE* errors);
+
+// A subcommand that takes a case file.
+CLI::App* add_case_command(CLI::App& program, const char* name, const char* purpose,
+                           std::filesystem::path& file);
+
+// --format text, csv or json.
+void add_format(CLI::App& command, app::Format& format);
+
+// An option with one value out of a few words.
+template <typename Choice>
+using Words = std::vector<std::pair<std::string, Choice>>;
+
+template <typename Choice>
+CLI::Option* add_choice(CLI::App& command, const char* option, Choice& choice, const Words<Choice>& words,
+                        const char* type, const char* purpose)
+{
+    std::vector<std::string> names;
+    for (const auto& [name, value] : words) names.push_back(name);
+    const auto choose = [&choice, words](const std::string& seen) {
+        for (const auto& [name, value] : words)
+            if (name == seen) choice = value;
+    };
+    return command.add_option_function<std::string>(option, choose, purpose)
+        ->check(CLI::IsMember(names))
+        ->type_name(type);
+}
 
 // An error of usage.
 int refuse(const std::string& why, std::FILE* errors);

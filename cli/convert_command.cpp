@@ -1,5 +1,7 @@
 #include "cli/convert_command.h"
 
+#include <memory>
+
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -52,6 +54,29 @@ int convert(const std::filesystem::path& file, const Conversion& conversion, app
             std::FILE* out, std::FILE* errors)
 {
     return guarded([&] { return convert_unguarded(file, conversion, format, out, errors); }, errors);
+}
+
+void add_convert_command(CLI::App& program, int& status)
+{
+    struct Options {
+        std::filesystem::path file;
+        app::Format format = app::Format::text;
+        Conversion conversion{{}, app::Basis::apparent, app::Basis::true_chains};
+    };
+    const auto options = std::make_shared<Options>();
+    auto* command = add_case_command(
+        program, "convert", "Print one stream on two bases: apparent, true or segment", options->file);
+    add_format(*command, options->format);
+    command->add_option("--stream", options->conversion.stream, "Name of the stream")->required();
+    const Words<app::Basis> bases{{"apparent", app::Basis::apparent},
+                                  {"true", app::Basis::true_chains},
+                                  {"segment", app::Basis::segment}};
+    add_choice(*command, "--from", options->conversion.from, bases, "BASIS", "apparent or true")->required();
+    add_choice(*command, "--to", options->conversion.to, bases, "BASIS", "apparent, true or segment")
+        ->required();
+    command->callback([options, &status] {
+        status = convert(options->file, options->conversion, options->format, stdout, stderr);
+    });
 }
 
 }  // namespace cli

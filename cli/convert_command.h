@@ -16,4 +16,7 @@ struct Conversion {
 int convert(const std::filesystem::path& file, const Conversion& conversion, app::Format format,
             std::FILE* out, std::FILE* errors);
 
+// Registers the subcommand: its options, and a callback that runs it and sets the exit status.
+void add_convert_command(CLI::App& program, int& status);
+
 }  // namespace cli

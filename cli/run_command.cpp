@@ -1,5 +1,7 @@
 #include "cli/run_command.h"
 
+#include <memory>
+
 #include "app/evaluation/evaluation.h"
 #include "app/io/whole_file.h"
 #include "app/report/make_report.h"
@@ -38,6 +40,23 @@ int run_unguarded(const RunOptions& options, std::FILE* out, std::FILE* errors)
 int run(const RunOptions& options, std::FILE* out, std::FILE* errors)
 {
     return guarded([&] { return run_unguarded(options, out, errors); }, errors);
+}
+
+void add_run_command(CLI::App& program, int& status)
+{
+    const auto options = std::make_shared<RunOptions>();
+    auto* command = add_case_command(program, "run", "Print the results of a case", options->file);
+    add_format(*command, options->format);
+    command->add_option("--out", options->out, "Write report, summary, CSV, JSON and HTML files there")
+        ->type_name("DIR");
+    command->add_option("--gpc", options->gpc, "Measured curve to hold a composite distribution against")
+        ->type_name("FILE");
+    command->add_option("--export-gpc", options->export_gpc, "Write a composite distribution as such a curve")
+        ->type_name("FILE");
+    command
+        ->add_option("--distribution", options->distribution, "Which distribution, where a case has several")
+        ->type_name("NAME");
+    command->callback([options, &status] { status = run(*options, stdout, stderr); });
 }
 
 }  // namespace cli

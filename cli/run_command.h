@@ -19,4 +19,7 @@ struct RunOptions {
 // status tells of both.
 int run(const RunOptions& options, std::FILE* out, std::FILE* errors);
 
+// Registers the subcommand: its options, and a callback that runs it and sets the exit status.
+void add_run_command(CLI::App& program, int& status);
+
 }  // namespace cli

@@ -148,4 +148,11 @@ int selfcheck(std::FILE* out)
     return is_good ? exit_success : exit_case_error;
 }
 
+void add_selfcheck_command(CLI::App& program, int& status)
+{
+    program
+        .add_subcommand("selfcheck", "Check this build against known answers; say what a bug report needs")
+        ->callback([&status] { status = selfcheck(stdout); });
+}
+
 }  // namespace cli

@@ -1,5 +1,7 @@
 #include "cli/sweep_command.h"
 
+#include <memory>
+
 #include <fmt/format.h>
 #include <unistd.h>
 
@@ -43,6 +45,23 @@ int sweep(const app::SweepOptions& options, std::FILE* errors)
         }
     };
     return guarded(command, errors);
+}
+
+void add_sweep_command(CLI::App& program, int& status)
+{
+    const auto options = std::make_shared<app::SweepOptions>();
+    auto* command = add_case_command(program, "sweep", "Run a case with every combination of given numbers",
+                                     options->file);
+    command->add_option("--set", options->sets, "Number of the case and its n values from a to b")
+        ->required()
+        ->allow_extra_args(false)
+        ->type_name("KEY=a:b:n");
+    command->add_option("--out", options->out, "CSV file, a row for each case")
+        ->required()
+        ->type_name("FILE");
+    command->add_option("--processes", options->processes, "Cases at a time (default: one for each core)")
+        ->check(CLI::Range(1, 1024));
+    command->callback([options, &status] { status = sweep(*options, stderr); });
 }
 
 }  // namespace cli
