@@ -43,7 +43,8 @@ enum PolypropsPolymerWord {
     POLYPROPS_POLYMER_BLOCK_LENGTH = 17,
 };
 
-// Integers of the parameter block. "Entries" counts what the input names, "listed" what its check accepts.
+// Integers of the parameter block. "Entries" counts what the input names, "listed" what its check accepts. A
+// paragraph with a count of 0 leaves the value of an earlier paragraph in words 2 to 9 and 11 to 13.
 enum PolypropsParameterWord {
     POLYPROPS_SITE_TYPES = 1,  // number of catalyst site types
     POLYPROPS_POLYMER_ENTRIES = 2,

@@ -7,8 +7,8 @@
 // entry holds the sums over all sites, with the mass flow of the polymers themselves. M is the molecular
 // weight of a component. Of the differences between two streams
 //
-//   MN  = W / Z      DPN = F / Z                                   number averages, ΔZ above the zero bound
-//   MRS = W / F      DPW = S / F      MW = S · (W / F) / F         weight averages, ΔF above exactly 0
+//   Mn  = W / Z      DPN = F / Z                                   number averages, ΔZ above the zero bound
+//   MRS = W / F      DPW = S / F      Mw = S · (W / F) / F         weight averages, ΔF above exactly 0
 //   PDI = Z · (S / F) / F
 //
 // Each entry is summed on its own, so that no room is needed between the streams.
@@ -160,7 +160,7 @@ Moments difference(const Moments& later, const Moments& earlier)
 }
 
 struct NumberAverages {
-    Real mn = 0.0;
+    Real mwn = 0.0;
     Real dpn = 0.0;
 };
 
@@ -172,7 +172,7 @@ NumberAverages number_averages(const Moments& m)
 
 struct WeightAverages {
     Real mrs = 0.0;
-    Real mw = 0.0;
+    Real mww = 0.0;
     Real dpw = 0.0;
     Real pdi = 0.0;
 };
@@ -221,8 +221,8 @@ void POLY_POLYRESULTS(const Real* SV1, const Real* SV2, const Int* NSS, const In
     chain::MomentOffsets offsets{layout.data.polymers(), *NS > 1};
     const Vector mass{PMASS, *NS};
     const Vector mrs{PMRS, *NS};
-    const Vector mn{PMWN, *NS};
-    const Vector mw{PMWW, *NS};
+    const Vector mwn{PMWN, *NS};
+    const Vector mww{PMWW, *NS};
     const Vector dpn{PDPN, *NS};
     const Vector dpw{PDPW, *NS};
     const Vector pdi{PPDI, *NS};
@@ -236,8 +236,8 @@ void POLY_POLYRESULTS(const Real* SV1, const Real* SV2, const Int* NSS, const In
         const chain::WeightAverages by_weight = chain::weight_averages(made);
         mass(t) = made.mass;
         mrs(t) = by_weight.mrs;
-        mn(t) = by_number.mn;
-        mw(t) = by_weight.mw;
+        mwn(t) = by_number.mwn;
+        mww(t) = by_weight.mww;
         dpn(t) = by_number.dpn;
         dpw(t) = by_weight.dpw;
         pdi(t) = by_weight.pdi;

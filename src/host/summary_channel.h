@@ -56,7 +56,7 @@ inline void data_break()
 {
     put_integer(word(ST_GLOBAL, 8), 0);
 }
-inline void keyword(std::string_view text)
+inline void text_token(std::string_view text)
 {
     put_text(0, text);
 }

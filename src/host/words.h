@@ -20,7 +20,7 @@ constexpr Position operator+(Position p, Int words)
     return Position{static_cast<Int>(p) + words};
 }
 
-// Word k of a record of the host: the only place where its number becomes a subscript.
+// Word k of a record or of the store: the only place where a word number becomes a subscript.
 template <class T>
 constexpr T& word(T* record, Int k)
 {

@@ -30,19 +30,20 @@ struct MakeUp {
 
 // Writes the row of a polymer whose chains have the molecular weight mwj. Without segments, or when their
 // mean molecular weight is 0, the row stays zero.
-void write_row_by_molecular_weight(Real mwj, const MakeUp& n, Component row, SegmentCountMatrix<Real> counts)
+void write_row_by_molecular_weight(Real mwj, const MakeUp& make_up, Component row,
+                                   SegmentCountMatrix<Real> counts)
 {
     Real total = 0.0;
     Real mass = 0.0;
-    for (Int m = 1; m <= n.segments.count(); ++m) {
-        total += n.per_molecule(m);
-        mass += n.molecular_weights(n.segments(m)) * n.per_molecule(m);
+    for (Int m = 1; m <= make_up.segments.count(); ++m) {
+        total += make_up.per_molecule(m);
+        mass += make_up.molecular_weights(make_up.segments(m)) * make_up.per_molecule(m);
     }
     const Real mean = total != 0.0 ? mass / total : 0.0;
     if (mean == 0.0) return;
     const Real length = mwj / mean;
-    for (Int m = 1; m <= n.segments.count(); ++m)
-        counts(row, n.segments(m)) = n.per_molecule(m) * length / total;
+    for (Int m = 1; m <= make_up.segments.count(); ++m)
+        counts(row, make_up.segments(m)) = make_up.per_molecule(m) * length / total;
 }
 
 // Flags the polymer; every other listed component is one unit.

@@ -1,5 +1,5 @@
-// Averages of a chain-length distribution by the trapezoid rule, each trapezoid weighted by the chain length
-// at its right-hand end.
+// Sums for the averages of a chain-length distribution by the trapezoid rule, each trapezoid weighted by the
+// chain length at its right-hand end.
 //
 //   a(k) = 0.5·(h(k) + h(k+1))·(x(k+1) − x(k))     k = 1..n−1
 //   Area = Σ a(k)      Σ a(k)/x(k+1)      Σ a(k)·x(k+1)

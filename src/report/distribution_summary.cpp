@@ -24,7 +24,7 @@ template <class Body>
 void index_set(std::string_view name, Body write_body)
 {
     summary::definition_break();
-    summary::keyword("IDSET");
+    summary::text_token("IDSET");
     summary::label("ID_");
     summary::integer(summary::next_data_set());
     summary::name(name);
@@ -46,20 +46,20 @@ void property_set(Int code)
 {
     index_set("PROPERTIES", [&] {
         summary::integer(code);
-        summary::keyword("*2");
+        summary::text_token("*2");
     });
 }
 
 void list_set(std::initializer_list<Int> data_sets)
 {
     summary::definition_break();
-    summary::keyword("LSET");
+    summary::text_token("LSET");
     summary::label("L_");
     summary::integer(summary::next_list_set());
     summary::open();
     bool is_first = true;
     for (const Int data_set : data_sets) {
-        if (!is_first) summary::keyword("&");
+        if (!is_first) summary::text_token("&");
         summary::label("%ID_");
         summary::integer(data_set);
         is_first = false;

@@ -11,13 +11,13 @@ constexpr NamePair results_block{"POLYRES"};
 // The data sets are referred to by name, not by number.
 void list_against_sites()
 {
-    summary::keyword("LSET");
+    summary::text_token("LSET");
     summary::label("L_");
     summary::integer(summary::next_list_set());
     summary::open();
     summary::label("%ID_");
-    summary::keyword("SITES");
-    summary::keyword("&");
+    summary::text_token("SITES");
+    summary::text_token("&");
     summary::label("%ID_");
     summary::close("POLYRES");
     summary::definition_break();
