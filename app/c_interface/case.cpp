@@ -34,8 +34,8 @@ int describe(const std::vector<app::Diagnostic>& all, const std::string& file, s
 {
     if (index >= all.size()) return POLYPROPS_NOT_FOUND;
     const auto& [source, text, severity] = all[index];
-    *diagnostic = {static_cast<int>(severity), file.c_str(), source.line, source.column, source.key.c_str(),
-                   text.c_str()};
+    *diagnostic = {static_cast<int>(severity), file.c_str(), source.line, source.column,
+                   source.key.c_str(),         text.c_str()};
     return POLYPROPS_OK;
 }
 
