@@ -11,9 +11,9 @@
 //   polyprops_run_free(run);
 //   polyprops_case_free(blend);
 //
-// Failures. Nothing here prints, exits or throws. A function that makes a handle returns NULL only when there
-// is no memory for the handle itself; every other failure is kept in the handle: its status, and its
-// diagnostics with file, line, column, key and text. All functions accept a NULL handle and then report
+// Failures. Nothing here prints, exits or throws. A function that makes a handle returns NULL only when memory
+// runs out; every other failure is kept in the handle: its status, and its diagnostics with file, line,
+// column, key and text. All functions accept a NULL handle and then report
 // POLYPROPS_OUT_OF_MEMORY, so that one check at the end is enough.
 //
 // Pointers. Texts and arrays belong to the handle that returned them. They stay valid until that handle is
@@ -28,6 +28,9 @@
 #include <stddef.h>
 #include <stdint.h>
 
+#ifdef __GNUC__
+#pragma GCC visibility push(default)
+#endif
 #ifdef __cplusplus
 extern "C" {
 #endif
@@ -40,8 +43,8 @@ typedef struct polyprops_run polyprops_run;
 
 enum polyprops_status {
     POLYPROPS_OK = 0,
-    POLYPROPS_CASE_ERROR = 1,    // the diagnostics say what is wrong; results may still be there
-    POLYPROPS_NOT_FOUND = 2,     // no such key or entry
+    POLYPROPS_CASE_ERROR = 1,  // the diagnostics say what is wrong; results may still be there
+    POLYPROPS_NOT_FOUND = 2,   // no such key or entry
     POLYPROPS_OUT_OF_MEMORY = 3
 };
 
@@ -86,7 +89,8 @@ int polyprops_case_diagnostic(const polyprops_case* handle, size_t index, polypr
 size_t polyprops_case_key_count(const polyprops_case* handle);
 const char* polyprops_case_key(const polyprops_case* handle, size_t index);
 
-// Reads or replaces a number of the case. POLYPROPS_NOT_FOUND: the key leads to no number; nothing changes.
+// Reads or replaces a number of the case. POLYPROPS_NOT_FOUND: the key leads to no number. Only POLYPROPS_OK
+// changes anything.
 int polyprops_case_get(const polyprops_case* handle, const char* key, double* value);
 int polyprops_case_set(polyprops_case* handle, const char* key, double value);
 
@@ -126,7 +130,8 @@ const char* polyprops_run_number_key(const polyprops_run* handle, size_t index);
 //   parameters.NAME.binary_parameters.T                          component × component at T K
 //   parameters.NAME.binary_parameter_slopes.T                    T·dK/dT
 //   parameters.NAME.binary_parameter_derivatives.T               dK/dT, of the general form
-//   parameters.NAME.binary_coefficients                          position × ordered pair, first component fastest
+//   parameters.NAME.binary_coefficients                          position × ordered pair, first component
+//   fastest
 //
 // The array is valid until the run is freed.
 int polyprops_run_array(const polyprops_run* handle, const char* key, const double** values, size_t* rows,
@@ -153,4 +158,7 @@ const char* polyprops_run_json(polyprops_run* handle);
 
 #ifdef __cplusplus
 }
+#endif
+#ifdef __GNUC__
+#pragma GCC visibility pop
 #endif
