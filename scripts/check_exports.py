@@ -2,6 +2,10 @@
 """Checks that a built libpolyprops.so defines the routines of the table, and needs nothing but its host, libc and libm.
 
     scripts/check_exports.py build/release/src/libpolyprops.so
+    scripts/check_exports.py build/release/app/libpolyprops-case.so --case-header include/polyprops/case.h
+
+With the header of the case layer the file defines its functions too. It contains its host, and may need the run-time
+libraries of C++.
 """
 
 import argparse
@@ -13,7 +17,8 @@ from pathlib import Path
 from exports import table
 
 ROOT = Path(__file__).resolve().parent.parent
-ALLOWED_LIBRARIES = re.compile(r"libc\.so\.6|libm\.so\.6|ld-linux.*\.so\.\d+")
+SYSTEM_LIBRARIES = r"libc\.so\.6|libm\.so\.6|ld-linux.*\.so\.\d+"
+RUN_TIME_LIBRARIES = r"libstdc\+\+\.so\.6|libgcc_s\.so\.1"
 # Weak references that the compiler's start files and its static run-time library leave in a shared object.
 START_FILES = {"__gmon_start__", "__cxa_finalize", "__cxa_pure_virtual", "_ITM_deregisterTMCloneTable",
                "_ITM_registerTMCloneTable"}
@@ -40,26 +45,32 @@ def host_names(header):
     return set(re.findall(r"\b([A-Z]{2}_[A-Z0-9_]+)\s*[(\[]", code))
 
 
+def case_names(header):
+    """The functions that the header of the case layer declares."""
+    code = re.sub(r"//.*", "", Path(header).read_text(encoding="utf-8"))
+    return set(re.findall(r"\b(polyprops_\w+)\s*\(", code))
+
+
 def export_faults(built, names):
     defined = {name for name, _ in dynamic_symbols(built, "--defined-only")}
     for name in sorted(names - defined):
-        yield f"{built}: {name} is in the table but is not exported"
+        yield f"{built}: {name} is declared but is not exported"
     for name in sorted(defined - names):
-        yield f"{built}: {name} is exported but is not in the table"
+        yield f"{built}: {name} is exported but is not declared"
 
 
-def import_faults(built, host):
+def import_faults(built, host, versions):
     for name, version in dynamic_symbols(built, "--undefined-only"):
-        from_system = version.startswith("GLIBC_") or (not version and name in START_FILES)
+        from_system = version.startswith(versions) or (not version and name in START_FILES)
         if name not in host and not from_system:
             shown = f"{name}@{version}" if version else name
-            yield f"{built}: needs {shown}, which neither the host header nor libc or libm defines"
+            yield f"{built}: needs {shown}, which neither its host nor an allowed library defines"
 
 
-def library_faults(built):
+def library_faults(built, allowed):
     for library in needed_libraries(built):
-        if not ALLOWED_LIBRARIES.fullmatch(library):
-            yield f"{built}: needs the library {library}; only libc and libm are allowed"
+        if not re.fullmatch(allowed, library):
+            yield f"{built}: needs the library {library}, which is not allowed"
 
 
 def main(arguments=None):
@@ -67,17 +78,24 @@ def main(arguments=None):
     parser.add_argument("built", type=Path, metavar="BUILT.so")
     parser.add_argument("--table", type=Path, default=ROOT / "src/exports/routines.toml")
     parser.add_argument("--host-header", type=Path, default=ROOT / "include/polyprops/host.h")
+    parser.add_argument("--case-header", type=Path)
     options = parser.parse_args(arguments)
+    host, versions, libraries = set(), ("GLIBC_",), SYSTEM_LIBRARIES
     try:
         names = {routine.name for routine in table.read(options.table)}
-        host = host_names(options.host_header)
-        faults = [*export_faults(options.built, names), *import_faults(options.built, host),
-                  *library_faults(options.built)]
+        if options.case_header:
+            names |= case_names(options.case_header)
+            versions += ("GLIBCXX_", "CXXABI_", "GCC_")
+            libraries += "|" + RUN_TIME_LIBRARIES
+        else:
+            host = host_names(options.host_header)
+        faults = [*export_faults(options.built, names), *import_faults(options.built, host, versions),
+                  *library_faults(options.built, libraries)]
     except (OSError, table.TableError) as error:
         faults = [str(error)]
     except subprocess.CalledProcessError as error:
         faults = [f"{options.built}: {error.cmd[0]}: {error.stderr.strip()}"]
-    print("\n".join(faults) or f"{options.built}: {len(names)} routines, nothing else", file=sys.stderr if faults else None)
+    print("\n".join(faults) or f"{options.built}: {len(names)} names, nothing else", file=sys.stderr if faults else None)
     return 1 if faults else 0
 
 

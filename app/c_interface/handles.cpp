@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <new>
 
 #include "app/evaluation/evaluation.h"
 #include "app/report/format.h"
@@ -16,11 +17,22 @@ void CaseHandle::check()
     Diagnostics found;
     auto input = failure_.empty() ? document_.read(found) : Case{};
     if (!failure_.empty()) found.add({}, failure_);
-    auto keys = document_.keys();
-    diagnostics_ = found.sorted();
+    auto sorted = found.sorted();
+    input.file = document_.file();
     input_ = std::move(input);
-    input_.file = document_.file();
-    keys_ = std::move(keys);
+    diagnostics_ = std::move(sorted);
+}
+
+void CaseHandle::set_number(const std::string& key, double value)
+{
+    const double before = document_.number(key);
+    document_.set_number(key, value);
+    try {
+        check();
+    } catch (...) {
+        document_.set_number(key, before);
+        throw;
+    }
 }
 
 bool CaseHandle::compare(const std::string& path, const std::string& distribution)
@@ -52,7 +64,9 @@ RunHandle::RunHandle(const CaseHandle& source) : input_(source.input())
     }
     try {
         results_ = evaluate(input_, options);
-    } catch (const std::runtime_error& error) {
+    } catch (const std::bad_alloc&) {
+        throw;
+    } catch (const std::exception& error) {
         fail(error.what());
         return;
     }

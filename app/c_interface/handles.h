@@ -25,7 +25,10 @@ struct ComparisonRequest {
 
 class CaseHandle {
 public:
-    explicit CaseHandle(CaseDocument document) : document_(std::move(document)) { check(); }
+    explicit CaseHandle(CaseDocument document) : document_(std::move(document)), keys_(document_.keys())
+    {
+        check();
+    }
     // A case that cannot be read.
     CaseHandle(std::string file, const std::string& why) : document_("", std::move(file)), failure_(why)
     {
@@ -33,11 +36,8 @@ public:
     }
 
     double number(const std::string& key) const { return document_.number(key); }
-    void set_number(const std::string& key, double value)
-    {
-        document_.set_number(key, value);
-        check();
-    }
+    // Changes nothing when it throws.
+    void set_number(const std::string& key, double value);
     bool compare(const std::string& path, const std::string& distribution);
     void end_comparison() { comparison_.reset(); }
 
@@ -52,8 +52,9 @@ private:
 
     CaseDocument document_;
     std::string failure_;
-    Case input_;
+    // Positions in the file order the keys; a replaced number has none.
     std::vector<std::string> keys_;
+    Case input_;
     std::vector<Diagnostic> diagnostics_;
     std::optional<ComparisonRequest> comparison_;
 };

@@ -15,7 +15,7 @@ namespace app {
 
 namespace {
 
-[[noreturn]] void refuse(const std::string& key, std::string_view why)
+[[noreturn]] void refuse(std::string_view key, std::string_view why)
 {
     throw std::invalid_argument{fmt::format("the key \"{}\" {}", key, why)};
 }
@@ -23,7 +23,7 @@ namespace {
 // Takes the key part by part: names, and numbers of array elements.
 class KeyPath {
 public:
-    explicit KeyPath(std::string key) : key_(std::move(key)), rest_(key_) {}
+    explicit KeyPath(std::string_view key) : key_(key), rest_(key) {}
 
     bool at_end() const { return rest_.empty(); }
 
@@ -53,18 +53,29 @@ public:
 private:
     std::string_view take_quoted()
     {
-        const auto close = rest_.find('"', 1);
+        auto close = rest_.find_first_of("\"\\", 1);
+        while (close != std::string_view::npos && rest_[close] == '\\')
+            close = rest_.find_first_of("\"\\", close + 2);
         if (close == std::string_view::npos) refuse(key_, "has an open quote");
         const auto name = rest_.substr(1, close - 1);
         rest_.remove_prefix(close + 1);
-        return name;
+        return name.find('\\') == std::string_view::npos ? name : unescaped(name);
     }
 
-    std::string key_;
+    std::string_view unescaped(std::string_view name)
+    {
+        unescaped_.clear();
+        for (std::size_t i = 0; i < name.size(); ++i) unescaped_ += name[i] == '\\' ? name[++i] : name[i];
+        return unescaped_;
+    }
+
+    std::string_view key_;
     std::string_view rest_;
+    std::string unescaped_;  // the last name with escaped characters
 };
 
-// A number written without a point may become one with it, where it stands in its table or array.
+// A number written without a point may become one with it, in its place in its table or array. It stays one:
+// to put an earlier value back takes no memory.
 void assign(toml::node& parent, toml::node& seen, double value)
 {
     constexpr double largest_exact = 9007199254740992.0;

@@ -17,12 +17,27 @@ SourcePosition place(const toml::source_region& region, const std::string& path)
 
 }  // namespace
 
+namespace {
+
+// A name in quotes, its own quotes and backslashes escaped.
+std::string quoted(std::string_view name)
+{
+    std::string text = "\"";
+    for (const char c : name) {
+        if (c == '"' || c == '\\') text += '\\';
+        text += c;
+    }
+    return text + '"';
+}
+
+}  // namespace
+
 std::string joined(const std::string& path, std::string_view key)
 {
     const bool bare = !key.empty() && std::ranges::all_of(key, [](char c) {
         return std::isalnum(static_cast<unsigned char>(c)) || c == '-' || c == '_';
     });
-    const std::string shown = bare ? std::string{key} : fmt::format("\"{}\"", key);
+    const std::string shown = bare ? std::string{key} : quoted(key);
     return path.empty() ? shown : path + "." + shown;
 }
 
@@ -35,6 +50,7 @@ std::string shown(const toml::node& node)
     if (node.is_array()) return "an array";
     if (const auto* number = node.as_floating_point()) return fmt::format("{}", number->get());
     std::ostringstream out;
+    out.exceptions(std::ios::badbit);  // exhausted memory must not shorten the text
     node.visit([&](const auto& value) { out << value; });
     auto text = out.str();
     if (text.size() > 40) text = text.substr(0, 37) + "...";
@@ -67,6 +83,17 @@ bool fits(double value, Range range)
     return range == Range::any || (range == Range::positive ? value > 0 : value >= 0);
 }
 
+// A real without a position replaced a whole number of the file, and may be whole again.
+std::optional<std::int64_t> whole_number_of(const toml::node& node)
+{
+    constexpr double largest_exact = 9007199254740992.0;
+    if (const auto* value = node.as_integer()) return value->get();
+    const auto* real = node.as_floating_point();
+    const double value = real ? real->get() : 0.5;
+    if (node.source().begin || std::trunc(value) != value || !(std::abs(value) < largest_exact)) return {};
+    return static_cast<std::int64_t>(value);
+}
+
 void report(const Entry& entry, std::string_view expected, Diagnostics& diagnostics)
 {
     diagnostics.add(entry.source,
@@ -85,8 +112,8 @@ std::optional<double> read_number(const Entry& entry, Range range, Diagnostics& 
 
 std::optional<std::int64_t> read_whole_number(const Entry& entry, WholeRange range, Diagnostics& diagnostics)
 {
-    const auto* value = entry.node->as_integer();
-    if (value && value->get() >= range.least && value->get() <= range.greatest) return value->get();
+    const auto value = whole_number_of(*entry.node);
+    if (value && *value >= range.least && *value <= range.greatest) return value;
     report(entry, expectation(range), diagnostics);
     return {};
 }

@@ -7,14 +7,15 @@ namespace app {
 namespace {
 
 // A number that leads its row, such as a chain length or a temperature, or else its first text that is
-// neither a component nor a segment. The class of a component tells no rows apart.
+// neither a component nor a segment, and its source. The class of a component tells no rows apart.
 std::string item_of(const Table& table, const std::vector<Cell>& row)
 {
     if (is_number(row.front())) return text(row.front());
     for (std::size_t i = 0; i < row.size(); ++i) {
         const auto& key = table.columns[i].key;
-        if (!is_number(row[i]) && key != "component" && key != "segment" && key != "class")
-            return std::get<std::string>(row[i]);
+        if (is_number(row[i]) || key == "component" || key == "segment" || key == "class") continue;
+        const auto source = text_of(table, row, "source");
+        return std::get<std::string>(row[i]) + (source.empty() ? "" : "." + source);
     }
     return {};
 }

@@ -11,9 +11,9 @@
 //   polyprops_run_free(run);
 //   polyprops_case_free(blend);
 //
-// Failures. Nothing here prints, exits or throws. A function that makes a handle returns NULL only when there
-// is no memory for the handle itself; every other failure is kept in the handle: its status, and its
-// diagnostics with file, line, column, key and text. All functions accept a NULL handle and then report
+// Failures. Nothing here prints, exits or throws. A function that makes a handle returns NULL only when memory
+// runs out; every other failure is kept in the handle: its status, and its diagnostics with file, line,
+// column, key and text. All functions accept a NULL handle and then report
 // POLYPROPS_OUT_OF_MEMORY, so that one check at the end is enough.
 //
 // Pointers. Texts and arrays belong to the handle that returned them. They stay valid until that handle is
@@ -28,6 +28,9 @@
 #include <stddef.h>
 #include <stdint.h>
 
+#ifdef __GNUC__
+#pragma GCC visibility push(default)
+#endif
 #ifdef __cplusplus
 extern "C" {
 #endif
@@ -86,7 +89,8 @@ int polyprops_case_diagnostic(const polyprops_case* handle, size_t index, polypr
 size_t polyprops_case_key_count(const polyprops_case* handle);
 const char* polyprops_case_key(const polyprops_case* handle, size_t index);
 
-// Reads or replaces a number of the case. POLYPROPS_NOT_FOUND: the key leads to no number; nothing changes.
+// Reads or replaces a number of the case. POLYPROPS_NOT_FOUND: the key leads to no number. Only POLYPROPS_OK
+// changes anything.
 int polyprops_case_get(const polyprops_case* handle, const char* key, double* value);
 int polyprops_case_set(polyprops_case* handle, const char* key, double value);
 
@@ -154,4 +158,7 @@ const char* polyprops_run_json(polyprops_run* handle);
 
 #ifdef __cplusplus
 }
+#endif
+#ifdef __GNUC__
+#pragma GCC visibility pop
 #endif

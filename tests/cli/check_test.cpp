@@ -28,7 +28,7 @@ TEST(Check, BadInputIsAnsweredWithEveryMessageOnce)
         EXPECT_EQ(out, "") << file;
         seen += shortened(errors);
     }
-    EXPECT_EQ(seen, app::file_contents(std::filesystem::path{POLYPROPS_CLI_TESTS} / "bad_input.txt"));
+    EXPECT_EQ(seen, support::stored("cli/bad_input.txt"));
 }
 
 TEST(Check, HasNothingToSayOfTheOtherExamples)

@@ -103,21 +103,23 @@ class BuiltFile(unittest.TestCase):
     HOST = "/* ST_OTHER( */ extern long ST_WORDS[]; long CC_INDEX(const long* list);"
     SOUND = HOST + "void POLY_PACK(long* p) { *p = ST_WORDS[0] + CC_INDEX(p); }"
 
-    def check(self, code, *flags):
+    def check(self, code, *flags, case=None):
         with tempfile.TemporaryDirectory() as folder:
             root = Path(folder)
             (root / "a.c").write_text(code)
             (root / "host.h").write_text(self.HOST)
             (root / "t.toml").write_text(ROW)
+            (root / "case.h").write_text(case or "")
             subprocess.run(["gcc", "-shared", "-fPIC", "-o", root / "a.so", root / "a.c", *flags], check=True)
-            return capture(check_exports.main, [str(root / "a.so"), "--table", str(root / "t.toml"),
-                                                "--host-header", str(root / "host.h")])
+            return capture(check_exports.main, [str(root / "a.so"), "--table", str(root / "t.toml"), "--host-header",
+                                                str(root / "host.h"),
+                                                *(["--case-header", str(root / "case.h")] if case else [])])
 
     def test_accepts_the_table_and_nothing_else(self):
         self.assertEqual(self.check(self.SOUND)[0], 0)
         cases = [
-            (self.SOUND + "void helper(void) {}", (), "helper is exported but is not in the table"),
-            (self.SOUND.replace("POLY_PACK", "POLY_PAK"), (), "POLY_PACK is in the table but is not exported"),
+            (self.SOUND + "void helper(void) {}", (), "helper is exported but is not declared"),
+            (self.SOUND.replace("POLY_PACK", "POLY_PAK"), (), "POLY_PACK is declared but is not exported"),
             (self.SOUND + "void ST_OTHER(void); static void f(void) { ST_OTHER(); } void* g = f;", (),
              "needs ST_OTHER, which neither"),
             (self.SOUND, ("-Wl,--no-as-needed", "-lgcc_s"), "needs the library libgcc_s.so.1"),
@@ -126,6 +128,25 @@ class BuiltFile(unittest.TestCase):
             with self.subTest(expected):
                 status, text = self.check(code, *flags)
                 self.assertEqual(status, 1)
+                self.assertIn(expected, text)
+
+    def test_a_case_layer_adds_its_functions_and_contains_its_host(self):
+        header = "int polyprops_add(int a);  // unlike polyprops_gone(a)\nconst char*\n    polyprops_name (void);"
+        routine = "void POLY_PACK(long* p) {}"
+        add = "int polyprops_add(int a) { return a; }"
+        functions = add + "const char* polyprops_name(void) { return 0; }"
+        unwinding = "int _Unwind_Backtrace(void*, void*); int polyprops_add(int a) { return _Unwind_Backtrace(0, 0) + a; }"
+        cases = [
+            (routine + functions, (), ""),
+            (routine + functions.replace(add, unwinding), ("-lgcc_s",), ""),
+            (routine + add, (), "polyprops_name is declared but is not exported"),
+            (self.SOUND + functions, (), "needs ST_WORDS, which neither"),
+            (routine + functions, ("-Wl,--no-as-needed", "-latomic"), "needs the library libatomic.so.1"),
+        ]
+        for code, flags, expected in cases:
+            with self.subTest(expected):
+                status, text = self.check(code, *flags, case=header)
+                self.assertEqual(status, 1 if expected else 0, text)
                 self.assertIn(expected, text)
 
 

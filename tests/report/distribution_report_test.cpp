@@ -61,7 +61,7 @@ TEST(DistributionReport, EqualsTheStoredPages)
         for (const Int lines : {8, 60}) {
             World world;
             const auto name = std::to_string(points) + "_points_" + std::to_string(lines) + "_lines.txt";
-            EXPECT_EQ(most_probable(points).report(world, lines), stored(__FILE__, "reports/" + name));
+            EXPECT_EQ(most_probable(points).report(world, lines), stored("report/reports/" + name));
         }
 }
 

@@ -35,7 +35,7 @@ TEST(DistributionSummary, TiesEveryBlockToItsAxesAndGoesOnNumbering)
     plot(world, {2, 4}, {0.25, 0.5, 1, 2, 3, 4}, 2, 1);
     plot(world, {3}, {1}, 0, 2);  // lengths are scaled by a switch of 1 alone
     plot(world, {}, {}, 0, 0);
-    EXPECT_EQ(summary.text(), stored(__FILE__, "distribution_tokens.txt"));
+    EXPECT_EQ(summary.text(), stored("report/distribution_tokens.txt"));
     // The current block, the next data set and the next block.
     EXPECT_EQ((Ints{ST_SUMGLOBAL[1], ST_SUMGLOBAL[2], ST_SUMGLOBAL[3]}), (Ints{38, 22, 39}));
 }
@@ -46,7 +46,7 @@ TEST(SiteSummary, WritesSeparatorsAfterTheFirstResultOnly)
     auto& summary = world.host().summary();
     ST_SUMGLOBAL[3] = 5;
     for (const Int sites : {2, 0, -1}) write_site_results(world, sites);
-    EXPECT_EQ(summary.text(), stored(__FILE__, "site_tokens.txt"));
+    EXPECT_EQ(summary.text(), stored("report/site_tokens.txt"));
     EXPECT_EQ((Ints{ST_SUMGLOBAL[1], ST_SUMGLOBAL[2], ST_SUMGLOBAL[3]}), (Ints{7, 1, 8}));
 }
 

@@ -1,4 +1,4 @@
-// Files that lie beside a test, and a folder for those that it writes.
+// Files of the tests folder, and a folder for those that a test writes.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -18,10 +18,10 @@ inline std::string content(const std::filesystem::path& path)
     return text.str();
 }
 
-// A file named from the directory of a test source.
-inline std::string stored(const std::filesystem::path& test, const std::string& name)
+// A file named from the tests folder.
+inline std::string stored(const std::string& name)
 {
-    return content(test.parent_path() / name);
+    return content(std::filesystem::path{POLYPROPS_TEST_FILES} / name);
 }
 
 // A folder of the test process, so that tests may run side by side.

@@ -1,0 +1,109 @@
+// The case layer's handles with owners, and its answers as values.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <polyprops/case.h>
+
+#include <bit>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "support/files.h"
+
+namespace case_test {
+
+struct Free {
+    void operator()(polyprops_case* handle) const { polyprops_case_free(handle); }
+    void operator()(polyprops_run* handle) const { polyprops_run_free(handle); }
+};
+using CasePointer = std::unique_ptr<polyprops_case, Free>;
+using RunPointer = std::unique_ptr<polyprops_run, Free>;
+
+inline const std::filesystem::path examples{POLYPROPS_EXAMPLES};
+
+inline CasePointer from_text(const std::string& text, const char* name = "c.toml")
+{
+    return CasePointer{polyprops_case_from_text(text.data(), text.size(), name)};
+}
+
+inline CasePointer from_file(const std::filesystem::path& path)
+{
+    return CasePointer{polyprops_case_from_file(path.c_str())};
+}
+
+inline CasePointer example(const std::string& name)
+{
+    return from_file(examples / (name + ".toml"));
+}
+
+inline RunPointer run(const CasePointer& input)
+{
+    return RunPointer{polyprops_case_run(input.get())};
+}
+
+// The paths of all case files of a folder.
+inline std::vector<std::filesystem::path> case_files(const std::filesystem::path& folder)
+{
+    std::vector<std::filesystem::path> files;
+    for (const auto& entry : std::filesystem::directory_iterator{folder})
+        if (entry.path().extension() == ".toml") files.push_back(entry.path());
+    return files;
+}
+
+// One line for each diagnostic: file, line, column, key, severity and text.
+template <typename Handle, typename Ask>
+std::vector<std::string> lines(const Handle& handle, std::size_t count, const Ask& ask)
+{
+    std::vector<std::string> all;
+    polyprops_diagnostic d{};
+    for (std::size_t i = 0; ask(handle.get(), i, &d) == POLYPROPS_OK; ++i)
+        all.push_back(std::string{d.file} + ":" + std::to_string(d.line) + ":" + std::to_string(d.column) +
+                      " [" + d.key + "] " + std::to_string(d.severity) + " " + d.text);
+    EXPECT_EQ(all.size(), count);
+    return all;
+}
+
+inline std::vector<std::string> diagnostics(const CasePointer& handle)
+{
+    return lines(handle, polyprops_case_diagnostic_count(handle.get()), polyprops_case_diagnostic);
+}
+
+inline std::vector<std::string> diagnostics(const RunPointer& handle)
+{
+    return lines(handle, polyprops_run_diagnostic_count(handle.get()), polyprops_run_diagnostic);
+}
+
+inline double number(const RunPointer& handle, const std::string& key)
+{
+    double value = 0;
+    EXPECT_EQ(polyprops_run_number(handle.get(), key.c_str(), &value), POLYPROPS_OK) << key;
+    return value;
+}
+
+inline std::string text(const RunPointer& handle, int format)
+{
+    std::size_t size = 0;
+    const char* all = polyprops_run_text(handle.get(), format, &size);
+    return all ? std::string{all, size} : "none";
+}
+
+// Standard output of a command.
+inline std::string output(const std::string& command)
+{
+    std::unique_ptr<std::FILE, int (*)(std::FILE*)> pipe{::popen(command.c_str(), "r"), ::pclose};
+    std::string all;
+    for (int c = std::fgetc(pipe.get()); c != EOF; c = std::fgetc(pipe.get())) all += static_cast<char>(c);
+    return all;
+}
+
+// Equal to the last bit, NaN included.
+inline void expect_same(double seen, double expected, const std::string& where)
+{
+    EXPECT_EQ(std::bit_cast<std::uint64_t>(seen), std::bit_cast<std::uint64_t>(expected))
+        << where << ": " << seen << " for " << expected;
+}
+
+}  // namespace case_test
