@@ -16,6 +16,9 @@ struct polyprops_run {
     bool is_out_of_memory = false;
 };
 
+// C callers own the handles.
+// NOLINTBEGIN(cppcoreguidelines-owning-memory)
+
 namespace {
 
 // The answer of `action`, or `otherwise` when memory runs out.
@@ -251,3 +254,5 @@ const char* polyprops_run_json(polyprops_run* handle)
 {
     return polyprops_run_text(handle, POLYPROPS_JSON, nullptr);
 }
+
+// NOLINTEND(cppcoreguidelines-owning-memory)

@@ -30,7 +30,7 @@ public:
         check();
     }
     // A case that cannot be read.
-    CaseHandle(std::string file, const std::string& why) : document_("", std::move(file)), failure_(why)
+    CaseHandle(std::string file, std::string why) : document_("", std::move(file)), failure_(std::move(why))
     {
         check();
     }
@@ -64,6 +64,7 @@ public:
     explicit RunHandle(const CaseHandle& source);
     // A run that failed before it could begin.
     RunHandle() = default;
+    ~RunHandle() = default;
     RunHandle(const RunHandle&) = delete;
     RunHandle& operator=(const RunHandle&) = delete;
 

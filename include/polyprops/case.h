@@ -11,10 +11,10 @@
 //   polyprops_run_free(run);
 //   polyprops_case_free(blend);
 //
-// Failures. Nothing here prints, exits or throws. A function that makes a handle returns NULL only when memory
-// runs out; every other failure is kept in the handle: its status, and its diagnostics with file, line,
-// column, key and text. All functions accept a NULL handle and then report
-// POLYPROPS_OUT_OF_MEMORY, so that one check at the end is enough.
+// Failures. Nothing here prints, exits or throws. A function that makes a handle returns NULL only when
+// memory runs out; every other failure is kept in the handle: its status, and its diagnostics with file,
+// line, column, key and text. All functions accept a NULL handle and then report POLYPROPS_OUT_OF_MEMORY, so
+// that one check at the end is enough.
 //
 // Pointers. Texts and arrays belong to the handle that returned them. They stay valid until that handle is
 // freed, except where a comment says otherwise.
@@ -34,6 +34,9 @@
 #ifdef __cplusplus
 extern "C" {
 #endif
+
+// Names and types are those of C.
+// NOLINTBEGIN(modernize-use-using, readability-identifier-naming)
 
 // A case: its text, parsed, with its numbers.
 typedef struct polyprops_case polyprops_case;
@@ -155,6 +158,8 @@ const char* polyprops_run_text(polyprops_run* handle, int format, size_t* size);
 
 // polyprops_run_text for POLYPROPS_JSON.
 const char* polyprops_run_json(polyprops_run* handle);
+
+// NOLINTEND(modernize-use-using, readability-identifier-naming)
 
 #ifdef __cplusplus
 }

@@ -39,7 +39,7 @@ void* operator new(std::size_t size, std::align_val_t alignment)
 {
     return allocate(size, static_cast<std::size_t>(alignment));
 }
-void* operator new(std::size_t size, const std::nothrow_t&) noexcept
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept
 {
     try {
         return allocate(size);
@@ -55,19 +55,19 @@ void operator delete[](void* memory) noexcept
 {
     std::free(memory);
 }
-void operator delete(void* memory, std::size_t) noexcept
+void operator delete(void* memory, std::size_t /*size*/) noexcept
 {
     std::free(memory);
 }
-void operator delete[](void* memory, std::size_t) noexcept
+void operator delete[](void* memory, std::size_t /*size*/) noexcept
 {
     std::free(memory);
 }
-void operator delete(void* memory, std::align_val_t) noexcept
+void operator delete(void* memory, std::align_val_t /*alignment*/) noexcept
 {
     std::free(memory);
 }
-void operator delete(void* memory, std::size_t, std::align_val_t) noexcept
+void operator delete(void* memory, std::size_t /*size*/, std::align_val_t /*alignment*/) noexcept
 {
     std::free(memory);
 }
