@@ -20,7 +20,7 @@ std::string impossible(const Conversion& conversion)
         return fmt::format("--from and --to are both \"{}\"; expected two bases", text(conversion.from));
     if (conversion.from == app::Basis::segment)
         return "--from is \"segment\"; expected \"apparent\" or \"true\", since segments do not tell which "
-               "chains they stood in";
+               "chains they came from";
     return {};
 }
 

@@ -49,7 +49,7 @@ void add_run_command(CLI::App& program, int& status)
     add_format(*command, options->format);
     command->add_option("--out", options->out, "Write report, summary, CSV, JSON and HTML files there")
         ->type_name("DIR");
-    command->add_option("--gpc", options->gpc, "Measured curve to hold a composite distribution against")
+    command->add_option("--gpc", options->gpc, "Measured curve to compare a composite distribution with")
         ->type_name("FILE");
     command->add_option("--export-gpc", options->export_gpc, "Write a composite distribution as such a curve")
         ->type_name("FILE");

@@ -1,4 +1,4 @@
-// A case as its file states it: plain values, every name with the place where it stands.
+// A case as its file states it: plain values, every name with its position.
 #pragma once
 
 #include <array>

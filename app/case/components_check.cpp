@@ -73,7 +73,7 @@ bool is_listed(const Component& component, const std::optional<Paragraph>& parag
     if (!paragraph) return false;
     const auto& polymers = paragraph->polymers;
     const auto& oligomers = paragraph->oligomers;
-    // Segments alone are a paragraph that its check reports and ignores.
+    // A paragraph with segments only is reported and ignored by its check.
     if (polymers.empty() && oligomers.empty() && !paragraph->segments.empty()) return true;
     const auto oligomer_id = [](const OligomerPart& part) -> std::string_view { return part.oligomer.id; };
     if (component.component_class == ComponentClass::polymer)

@@ -32,7 +32,7 @@ struct Distribution {
     double longest_chain = 0;                   // segments
     bool is_gpc = false;                        // chain length times weight fraction
     std::optional<double> segment_weight;       // g/mol
-    std::optional<PlacedName> stream;           // whose moments the distribution is held against
+    std::optional<PlacedName> stream;           // whose moments the averages are checked against
     std::vector<DistributionSection> sections;  // mixed in proportion to what they make
 };
 

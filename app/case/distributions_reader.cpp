@@ -16,7 +16,7 @@ constexpr double shortest_grid = 2;
 constexpr Word<bool> forms[] = {{"weight-fraction", false}, {"gpc", true}};
 
 // A tau or beta that is left out is that of the same site in the increment before.
-// Sites are named where they stand first.
+// The first increment names the sites.
 SiteIncrement read_site(TableReader table, const SiteIncrement* previous, std::optional<std::string>& name)
 {
     SiteIncrement site;

@@ -78,7 +78,7 @@ void put_in_order(MeasuredCurve& curve, const std::string& file)
     const auto fault = std::ranges::adjacent_find(m, std::greater_equal{});
     if (fault != m.end())
         throw std::runtime_error{fmt::format(
-            "{}: molecular weights {} and {} stand side by side; expected all of them to rise or all to fall",
+            "{}: molecular weight {} is followed by {}; expected molecular weights that all rise or all fall",
             file, *fault, *(fault + 1))};
 }
 

@@ -32,7 +32,7 @@ std::optional<std::int64_t> positions_of(ParameterForm form)
     return {};
 }
 
-// Coefficients stand at the first positions.
+// Coefficients are at the first positions.
 std::int64_t coefficient_count(const ParameterSet& set)
 {
     switch (set.form) {
@@ -60,7 +60,7 @@ void read_positions(TableReader& table, ParameterSet& set)
     if (fixed ? set.positions != *fixed : set.positions == 2 || set.positions == 4)
         complain("positions", set.positions,
                  fixed ? fmt::format("{} in this form", *fixed)
-                       : "another number than 2 and 4, which stand for the linear and the reciprocal form");
+                       : "another number than 2 and 4, which are the linear and the reciprocal form");
     else if (set.reference_position > 0 && set.reference_position <= coefficient_count(set))
         complain("reference_position", set.reference_position,
                  fmt::format("0 or a position behind the {} coefficients", coefficient_count(set)));

@@ -1,4 +1,4 @@
-// A name in a case file together with the place where it stands.
+// A name in a case file with its position.
 #pragma once
 
 #include <string>

@@ -8,7 +8,7 @@ namespace app {
 
 namespace {
 
-// Far more than a catalyst has, and few enough for the tables that are laid out for them.
+// Far more than a catalyst has, and few enough for the tables of sites.
 constexpr std::int64_t most_site_types = 1000;
 
 constexpr Word<SegmentType> segment_types[] = {

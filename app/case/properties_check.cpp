@@ -12,7 +12,7 @@ namespace {
 
 using Names = std::vector<std::string_view>;
 
-// Names of the columns that stand beside the properties.
+// Names of the other columns of the table.
 constexpr std::string_view taken_names[] = {"component", "class"};
 
 Names ids_of(const Case& input, std::initializer_list<ComponentClass> kinds)

@@ -31,7 +31,7 @@ void check_streams(const Case& input, Diagnostics& diagnostics)
             check_component(input, flow.component, path + ".flows", diagnostics);
         const PlacedName* previous = nullptr;
         for (const auto& value : stream.attributes) {
-            // The attributes of a component stand together: what is wrong with its name is said once.
+            // The attributes of a component are consecutive: an error in its name is reported once.
             if (!previous || previous->source != value.component.source)
                 check_component(input, value.component, path + ".attributes", diagnostics);
             previous = &value.component;

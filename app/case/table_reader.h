@@ -56,7 +56,7 @@ public:
     // Every key of a table whose keys are free, in the order of the file.
     std::vector<Entry> entries();
 
-    // Reports an absent key; says nothing when it stands there with an unusable value.
+    // Reports an absent key; a key with an unusable value has been reported already.
     void missing(std::string_view key, std::string_view expected);
 
     void finish();

@@ -65,7 +65,7 @@ public:
     {
         double over = 0;
         double times = 0;
-        double share = 1;  // of the section, whose curves stand behind it
+        double share = 1;  // of the section, whose curves follow it
         int sites = 0;
         for (const auto& curve : results_.curves) {
             if (curve.kind == Curve::Kind::section) share = curve.amount / results_.composite().amount;

@@ -1,6 +1,7 @@
 #include "app/evaluation/evaluation.h"
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include <stdexcept>
 
@@ -96,8 +97,8 @@ std::size_t find_distribution(const Case& input, const std::string& name)
     if (names.empty()) throw std::runtime_error{input.file + " has no distribution to compare or to export"};
     throw std::runtime_error{
         name.empty()
-            ? fmt::format("{} has {} distributions; expected the name of one with --distribution", input.file,
-                          names.size())
+            ? fmt::format("{} has {} distributions; expected the name of one: {}", input.file, names.size(),
+                          fmt::join(names, ", "))
             : fmt::format("{} has no distribution \"{}\"{}", input.file, name, suggestion(name, names))};
 }
 

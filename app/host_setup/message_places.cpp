@@ -1,4 +1,4 @@
-// The library reports by ID, and an ID may stand in a list more than once. The checks walk each list in order
+// The library reports by ID, and a list may hold an ID more than once. The checks walk each list in order
 // and report an entry at most once, so the entry that a message means is the next one, behind that of the
 // message before, to which the message can apply.
 #include "app/host_setup/message_places.h"

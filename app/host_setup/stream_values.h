@@ -1,4 +1,4 @@
-// Attribute values of streams, held against what the host has a place for after the paragraph check.
+// Attribute values of streams, checked against the attributes that components carry after the paragraph check.
 #pragma once
 
 #include <optional>

@@ -63,7 +63,7 @@ std::string aligned(const Table& table)
     return text;
 }
 
-// An empty line stands between what a text holds already and what follows.
+// Separates blocks by an empty line.
 void add_block(std::string_view block, std::string& text)
 {
     text += fmt::format("{}{}", text.empty() ? "" : "\n", block);

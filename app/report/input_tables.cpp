@@ -14,7 +14,7 @@ using columns::attribute;
 using columns::component;
 using columns::segment;
 
-// The columns of numbers that the host carries without reading them stand behind the others.
+// Adds columns for the numbers that the host carries without reading them.
 std::vector<Column> and_carried_numbers(std::vector<Column> columns)
 {
     for (const auto* number : {"1", "2", "3"})

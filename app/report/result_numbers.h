@@ -30,7 +30,7 @@ std::string text_of(const Table& table, const std::vector<Cell>& row, std::strin
 // In the order of the report, which has to outlive them.
 std::vector<ResultNumber> result_numbers(const Report& report);
 
-// A field with a comma, a quote or a line end stands in quotes, its own quotes doubled.
+// Quotes a field with a comma, a quote or a line end; quotes inside it are doubled.
 std::string csv_field(const std::string& text);
 
 }  // namespace app

@@ -82,7 +82,7 @@ public:
     {
     }
 
-    // Columns are those of the case as it stands, which therefore has to be sound.
+    // Columns are those of the unchanged case, which therefore must be free of errors.
     void learn_columns()
     {
         run_tasks(
@@ -191,7 +191,7 @@ private:
             auto errors = error_lines(made);
             if (unknown > 0)
                 errors.push_back(
-                    fmt::format("{} results have no column: the case as it stands lacks them", unknown));
+                    fmt::format("{} results have no column: the unchanged case lacks them", unknown));
             auto line = lead(number);
             for (const auto& value : values) line += "," + value;
             return line + "," + csv_field(one_line(errors));

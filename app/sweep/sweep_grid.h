@@ -24,7 +24,7 @@ SweepRange parse_range(const std::string& text);
 
 class SweepGrid {
 public:
-    // Throws std::invalid_argument for a key that stands twice and for more cases than anyone waits for.
+    // Throws std::invalid_argument for a repeated key and for too many cases.
     explicit SweepGrid(std::vector<SweepRange> ranges);
 
     std::size_t size() const { return size_; }

@@ -1,4 +1,4 @@
-// The rows of a sweep that is not finished: a file beside the one that it will be.
+// The rows of a sweep that is not finished: a file next to the result.
 //
 // Its first line says which sweep it belongs to, the second holds the names of the columns; a row is complete
 // when its line end is there. Rows come in the order in which cases end.

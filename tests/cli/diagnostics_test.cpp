@@ -174,7 +174,7 @@ TEST(CaseDiagnostics, NamePlaceKeyValueAndExpectation)
          "32:26: parameters.K.pairs: the reference temperature of P, O at position 6 is 0; expected greater "
          "than 0"},
         {"0, 0, 0, 0, 0, 300] }]", "0, 0, 0, 300] }]\npositions = 4",
-         "33:1: parameters.K.positions is 4; expected another number than 2 and 4, which stand for the "
+         "33:1: parameters.K.positions is 4; expected another number than 2 and 4, which are the "
          "linear and the reciprocal form"},
         {"0, 0, 0, 0, 0, 300] }]", "0, 0, 1, 300] }]\nform = \"reciprocal\"\nreference_position = 3",
          "34:1: parameters.K.reference_position is 3; expected 0 or a position behind the 3 coefficients"},

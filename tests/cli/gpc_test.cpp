@@ -82,7 +82,7 @@ TEST(MeasuredCurve, SaysWhatIsWrongWithItAndWhatACaseLacksForIt)
         {one_site, "M S\n3 4\n", "",
          "/measured: 1 line with two numbers; expected at least 2: molecular weight and signal\n"},
         {one_site, "1 1\n3 1\n3 1\n4 1\n", "",
-         "/measured: molecular weights 3 and 3 stand side by side; expected all of them to rise or all to "
+         "/measured: molecular weight 3 is followed by 3; expected molecular weights that all rise or all "
          "fall\n"},
         {one_site + second, "1000 1\n2000 1\n", "", "has 2 distributions; expected the name of one"},
         {one_site + second, "1000 1\n2000 1\n", "F", "has no distribution \"F\"; expected one of D, E"},

@@ -132,7 +132,7 @@ TEST(Convert, RefusesWhatItCannotDoAsAnErrorOfUsage)
     const std::vector<std::pair<cli::Conversion, std::string>> rows = {
         {{"BLEND", Basis::segment, Basis::apparent},
          "polyprops: --from is \"segment\"; expected \"apparent\" or \"true\", since segments do not tell "
-         "which chains they stood in\n"},
+         "which chains they came from\n"},
         {{"BLEND", Basis::true_chains, Basis::true_chains},
          "polyprops: --from and --to are both \"true\"; expected two bases\n"},
         {{"BLENDE", Basis::apparent, Basis::true_chains},
