@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "app/host_setup/required_attributes.h"
 #include "minihost/attributes.h"
 #include "minihost/polymer_input.h"
 
@@ -107,8 +108,9 @@ std::vector<double> in_order(const AttributeValue& value, const Ids& segments)
 
 }  // namespace
 
-StreamValues::StreamValues(Host& host, std::string consequence, Diagnostics& diagnostics)
-    : host_(host),
+StreamValues::StreamValues(const Case& input, Host& host, std::string consequence, Diagnostics& diagnostics)
+    : input_(input),
+      host_(host),
       segments_(minihost::segment_ids(host)),
       end_segments_(minihost::end_segment_ids(host)),
       consequence_(std::move(consequence)),
@@ -152,6 +154,7 @@ void StreamValues::check_given(const Stream& stream, const Flow& flow)
             flow.component.source,
             fmt::format("streams.{}.attributes.{} is missing; expected values, since {} flows in this stream",
                         stream.name.id, id, id));
+    check_required_attributes(input_, stream, flow, host_, diagnostics_);
 }
 
 }  // namespace app

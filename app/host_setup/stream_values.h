@@ -13,7 +13,7 @@ namespace app {
 class StreamValues {
 public:
     // `consequence` ends every line that says what is wrong with a value.
-    StreamValues(minihost::Host& host, std::string consequence, Diagnostics& diagnostics);
+    StreamValues(const Case& input, minihost::Host& host, std::string consequence, Diagnostics& diagnostics);
 
     // The stream without the values that do not fit.
     minihost::Stream accepted(const Stream& stream);
@@ -21,6 +21,7 @@ public:
 private:
     void check_given(const Stream& stream, const Flow& flow);
 
+    const Case& input_;
     minihost::Host& host_;
     std::vector<std::string> segments_;
     std::vector<std::string> end_segments_;
