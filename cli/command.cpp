@@ -33,8 +33,7 @@ int show(const app::Report& report, app::Format format, std::FILE* out, std::FIL
 {
     print(report.diagnostics, report.file, errors);
     write(formatted(report, format), out);
-    const bool fails =
-        has_errors(report) || (strictness == Strictness::strict && app::has_warnings(report));
+    const bool fails = has_errors(report) || (strictness == Strictness::strict && app::has_warnings(report));
     return fails ? exit_case_error : exit_success;
 }
 

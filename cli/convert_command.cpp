@@ -78,8 +78,8 @@ void add_convert_command(CLI::App& program, int& status)
     add_choice(*command, "--to", options->conversion.to, bases, "BASIS", "apparent, true or segment")
         ->required();
     command->callback([options, &status] {
-        status = convert(options->file, options->conversion, options->format, stdout, stderr,
-                         options->strictness);
+        status =
+            convert(options->file, options->conversion, options->format, stdout, stderr, options->strictness);
     });
 }
 

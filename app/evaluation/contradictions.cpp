@@ -90,8 +90,8 @@ private:
 
     void expect_equal(std::string_view attribute, const Quantity& other, const char* unit = mole_flow)
     {
-        expect_equal(polymer_.source(attribute),
-                     {polymer_.key(attribute), polymer_.value(attribute), unit}, other);
+        expect_equal(polymer_.source(attribute), {polymer_.key(attribute), polymer_.value(attribute), unit},
+                     other);
     }
 
     // Of several elements the one that differs most is enough.
@@ -102,7 +102,8 @@ private:
     {
         std::size_t worst = 0;
         for (std::size_t i = 1; i < given.size(); ++i)
-            if (relative_difference(given[i], other[i]) > relative_difference(given[worst], other[worst])) worst = i;
+            if (relative_difference(given[i], other[i]) > relative_difference(given[worst], other[worst]))
+                worst = i;
         if (!given.empty())
             expect_equal(polymer_.source(attribute),
                          {polymer_.key(attribute) + label(worst), given[worst], unit},
@@ -117,13 +118,12 @@ private:
         if (!gives({"SFLOW"})) return;
         const Quantity by_flow{polymer_.flow_key() + ": flow times molecular weight", polymer_.mass_flow(),
                                "kg/h"};
-        const Quantity by_segments{"SFLOW times segment weights",
-                                   mass(polymer_.elements("SFLOW"), segments_), "kg/h"};
+        const Quantity by_segments{"SFLOW times segment weights", mass(polymer_.elements("SFLOW"), segments_),
+                                   "kg/h"};
         const double smaller = std::min(by_flow.value, by_segments.value);
-        const auto factor =
-            smaller > 0
-                ? fmt::format(", a factor of {:.4g}", std::max(by_flow.value, by_segments.value) / smaller)
-                : std::string{};
+        const auto factor = smaller > 0 ? fmt::format(", a factor of {:.4g}",
+                                                      std::max(by_flow.value, by_segments.value) / smaller)
+                                        : std::string{};
         expect_equal(polymer_.flow().component.source, by_flow, by_segments,
                      fmt::format("{}; check {}, components.{}.molecular_weight and the scale of {}", factor,
                                  polymer_.flow_key(), polymer_.id(), fmt::join(scaled(), ", ")));
@@ -191,15 +191,16 @@ private:
         double branches = 0;
         for (std::size_t s = 0; s < segments_.size(); ++s) {
             const double flow = polymer_.elements("SFLOW")[s];
-            if (segments_[s].type == SegmentType::end) ends += flow;
-            else if (segments_[s].type != SegmentType::repeat) branches += flow;
+            if (segments_[s].type == SegmentType::end)
+                ends += flow;
+            else if (segments_[s].type != SegmentType::repeat)
+                branches += flow;
         }
         const double chains = polymer_.value("ZMOM");
         if (ends > 0 && branches == 0 && !agree(ends, chains))
             expect_equal(polymer_.source("SFLOW"),
                          {polymer_.key("SFLOW") + ": flow of end segments", ends, mole_flow},
-                         {"twice ZMOM", 2 * chains, mole_flow},
-                         ", and linear chains have two ends each");
+                         {"twice ZMOM", 2 * chains, mole_flow}, ", and linear chains have two ends each");
     }
 
     void compare_averages()
@@ -213,10 +214,10 @@ private:
         if (!gives({"SFLOW"}) || !(polymer_.sum("SFLOW") > 0)) return;
         const auto& flows = polymer_.elements("SFLOW");
         if (gives({"MWSEG"}))
-            expect_equal("MWSEG",
-                         {"the mean segment weight of SFLOW", mass(flows, segments_) / polymer_.sum("SFLOW"),
-                          "g/mol"},
-                         "g/mol");
+            expect_equal(
+                "MWSEG",
+                {"the mean segment weight of SFLOW", mass(flows, segments_) / polymer_.sum("SFLOW"), "g/mol"},
+                "g/mol");
         if (gives({"SFRAC"}))
             expect_all_equal("SFRAC", polymer_.elements("SFRAC"), fractions(flows), "its share of SFLOW", "",
                              [&](std::size_t s) { return of_segment(s); });

@@ -27,9 +27,9 @@ public:
 
     const std::string& stream() const { return stream_; }
     const std::string& id() const { return flow_.component.id; }
-    const Flow& flow() const { return flow_; }         // kmol/h, apparent basis
-    double mass_flow() const;                          // kg/h, by the component's molecular weight
-    bool carries(std::string_view attribute) const;    // in every stream
+    const Flow& flow() const { return flow_; }       // kmol/h, apparent basis
+    double mass_flow() const;                        // kg/h, by the component's molecular weight
+    bool carries(std::string_view attribute) const;  // in every stream
     bool gives(std::string_view attribute) const { return values_.contains(attribute); }
     bool gives_all(std::initializer_list<std::string_view> attributes) const;
 

@@ -109,8 +109,8 @@ private:
     void unused(const char* attribute, const char* unit, const Quantity& taken)
     {
         if (given_.gives(attribute))
-            warnings_.unused(given_.source(attribute),
-                             {given_.key(attribute), given_.value(attribute), unit}, taken);
+            warnings_.unused(given_.source(attribute), {given_.key(attribute), given_.value(attribute), unit},
+                             taken);
     }
 
     void unused(const char* attribute, const std::string& why)
@@ -206,8 +206,6 @@ private:
         }
     }
 
-    // Fractions are compared with the flows that are taken instead; the first total is that of all ends, the
-    // second that of a site type.
     void name_fractions()
     {
         if (given_.gives("EFRAC")) {
@@ -243,7 +241,8 @@ private:
         for (std::size_t first = 0; first < flows.size(); first += segments_.size()) {
             double sum = 0;
             for (std::size_t s = 0; s < segments_.size(); ++s) sum += flows[first + s];
-            for (std::size_t s = 0; s < segments_.size(); ++s) flows[first + s] = ratio(flows[first + s], sum);
+            for (std::size_t s = 0; s < segments_.size(); ++s)
+                flows[first + s] = ratio(flows[first + s], sum);
         }
         return flows;
     }
@@ -272,8 +271,8 @@ bool is_of_catalyst(const AttributeValue& value)
 
 bool flows(const Stream& stream, const std::string& id)
 {
-    return std::ranges::any_of(
-        stream.flows, [&](const Flow& flow) { return flow.component.id == id && flow.value > 0; });
+    return std::ranges::any_of(stream.flows,
+                               [&](const Flow& flow) { return flow.component.id == id && flow.value > 0; });
 }
 
 void name_values_without_polymer(const Case& input, const Stream& stream, Warnings& warnings)
@@ -286,7 +285,7 @@ void name_values_without_polymer(const Case& input, const Stream& stream, Warnin
         if (!component || is_of_catalyst(value) || idle == id) continue;
         if (component->component_class != ComponentClass::polymer) {
             warnings.without_effect(value.name.source, fmt::format("{}.{}", key, value.name.id),
-                            id + " is not a polymer");
+                                    id + " is not a polymer");
         } else if (!flows(stream, id)) {
             warnings.without_effect(value.component.source, key, id + " does not flow in this stream");
             idle = id;
@@ -301,8 +300,8 @@ void name_parameters(const Component& component, const std::vector<Polymer>& pol
     const auto first = std::ranges::find_if(polymers, is_of_component);
     if (first == polymers.end()) return;
     const auto is_taken = [&](bool AverageSources::*takes) {
-        return std::ranges::any_of(
-            polymers, [&](const Polymer& p) { return is_of_component(p) && p.sources.*takes; });
+        return std::ranges::any_of(polymers,
+                                   [&](const Polymer& p) { return is_of_component(p) && p.sources.*takes; });
     };
     const auto name = [&](const char* key) { return fmt::format("components.{}.{}", component.id, key); };
     const auto taken = [&](const char* average, const std::string& source) {
@@ -318,8 +317,9 @@ void name_parameters(const Component& component, const std::vector<Polymer>& pol
 
 bool has_moments_compared(const Case& input, const std::string& stream)
 {
-    return std::ranges::any_of(input.reactors,
-                               [&](const auto& r) { return r.inlet.id == stream || r.outlet.id == stream; }) ||
+    return std::ranges::any_of(
+               input.reactors,
+               [&](const auto& r) { return r.inlet.id == stream || r.outlet.id == stream; }) ||
            std::ranges::any_of(input.distributions,
                                [&](const auto& d) { return d.stream && d.stream->id == stream; });
 }
@@ -331,7 +331,8 @@ void add_polymers(const Case& input, std::size_t stream, const StreamResults& re
         const auto averages = std::ranges::find(results.averages, given.id(), &ChainAverages::component);
         if (averages == results.averages.end()) continue;
         auto sources = average_sources(input.settings, given, segments);
-        all.push_back({std::move(given), std::move(sources), *averages, has_moments_compared(input, results.stream)});
+        all.push_back(
+            {std::move(given), std::move(sources), *averages, has_moments_compared(input, results.stream)});
     }
 }
 

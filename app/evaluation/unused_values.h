@@ -1,4 +1,5 @@
-// Values that a case gives and no result takes: attributes of streams, and the dpn and pdi parameters of polymers.
+// Values that a case gives and no result takes: attributes of streams, and the dpn and pdi parameters of
+// polymers.
 #pragma once
 
 #include <vector>

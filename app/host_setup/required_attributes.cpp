@@ -25,7 +25,9 @@ constexpr Requirement by_site[] = {
 
 std::vector<Requirement> requirements(const Case& input, const Component& component, Int index, Host& host)
 {
-    const auto is_carried = [&](std::string_view name) { return host.attributes().find(index, name) != nullptr; };
+    const auto is_carried = [&](std::string_view name) {
+        return host.attributes().find(index, name) != nullptr;
+    };
     std::vector<Requirement> all{
         {"ZMOM", "a number in kmol/h", "the chains would not be counted"},
         {"SFLOW", "a number for each segment, in kmol/h", "the segments would not be known"}};
@@ -58,10 +60,11 @@ void check_required_attributes(const Case& input, const Stream& stream, const Fl
             return is_of_polymer(value) && value.name.id == attribute;
         };
         if (std::ranges::none_of(stream.attributes, is_given))
-            diagnostics.add(first->component.source,
-                            fmt::format("streams.{}.attributes.{}.{} is missing; expected {}, since {} carries "
-                                        "it: {} without it",
-                                        stream.name.id, id, attribute, expected, id, otherwise));
+            diagnostics.add(
+                first->component.source,
+                fmt::format("streams.{}.attributes.{}.{} is missing; expected {}, since {} carries "
+                            "it: {} without it",
+                            stream.name.id, id, attribute, expected, id, otherwise));
     }
 }
 

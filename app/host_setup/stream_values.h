@@ -1,4 +1,5 @@
-// Attribute values of streams, checked against the attributes that components carry after the paragraph check.
+// Attribute values of streams, checked against the attributes that components carry after the paragraph
+// check.
 #pragma once
 
 #include <optional>
@@ -19,6 +20,9 @@ public:
     minihost::Stream accepted(const Stream& stream);
 
 private:
+    // False for a value that does not fit.
+    bool accept(const Stream& stream, const AttributeValue& value, minihost::Substream& substream);
+    bool flows_as_polymer(const Flow& flow) const;
     void check_given(const Stream& stream, const Flow& flow);
 
     const Case& input_;

@@ -49,8 +49,10 @@ std::string text(const Cell& cell)
 {
     return std::visit(
         [](const auto& value) -> std::string {
-            if constexpr (std::is_same_v<std::decay_t<decltype(value)>, NoData>) return {};
-            else return fmt::format("{}", value);
+            if constexpr (std::is_same_v<std::decay_t<decltype(value)>, NoData>)
+                return {};
+            else
+                return fmt::format("{}", value);
         },
         cell);
 }

@@ -97,10 +97,8 @@ Table property_table(const std::vector<Property>& properties, const std::vector<
 
 Table crystallinity_table(const std::vector<Crystallinity>& crystallinities)
 {
-    Table table{"crystallinity",
-                "Crystallinity parameters",
-                {columns::component, {"cry", "Crystallinity", "1"}},
-                {}};
+    Table table{
+        "crystallinity", "Crystallinity parameters", {columns::component, {"cry", "Crystallinity", "1"}}, {}};
     for (const auto& [component, value] : crystallinities) table.rows.push_back({component, value});
     return table;
 }

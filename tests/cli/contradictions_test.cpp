@@ -56,7 +56,8 @@ void expect_each(const std::vector<Row>& rows)
 // Another attribute of P, in line 13.
 Changes giving(const std::string& name, const std::string& value)
 {
-    return {{"[\"ZMOM\"", "[\"" + name + "\", \"ZMOM\""}, {"ZMOM = 0.5", name + " = " + value + "\nZMOM = 0.5"}};
+    return {{"[\"ZMOM\"", "[\"" + name + "\", \"ZMOM\""},
+            {"ZMOM = 0.5", name + " = " + value + "\nZMOM = 0.5"}};
 }
 
 TEST(Contradictions, AreNamedWithBothValuesAndTheirDifference)
@@ -71,12 +72,16 @@ TEST(Contradictions, AreNamedWithBothValuesAndTheirDifference)
         {{{"FMOM = 10.5", "FMOM = 10.501"}}, {}},  // 0.0095 %
         {{{"FMOM = 10.5", "FMOM = 10.502"}},
          {"c.toml:14:1: " + p +
-          "FMOM is 10.502 kmol/h, but the sum of SFLOW is 10.5 kmol/h; they differ by 0.019 % of the larger"}},
+          "FMOM is 10.502 kmol/h, but the sum of SFLOW is 10.5 kmol/h; they differ by 0.019 % of the "
+          "larger"}},
         {{{"SMOM = 441", "SMOM = 200"}, {"[141, 300]", "[60, 140]"}},
          {"c.toml:15:1: " + p +
           "SMOM: ZMOM times SMOM is 100, but the square of FMOM is 110.25; they differ by 9.3 % of the "
           "larger: Mw/Mn would be 0.907029, below 1"}},
-        {{{"\"FMOM\", ", ""}, {"FMOM = 10.5\n", ""}, {"SMOM = 441", "SMOM = 200"}, {"[141, 300]", "[60, 140]"}},
+        {{{"\"FMOM\", ", ""},
+          {"FMOM = 10.5\n", ""},
+          {"SMOM = 441", "SMOM = 200"},
+          {"[141, 300]", "[60, 140]"}},
          {"c.toml:14:1: " + p +
           "SMOM: ZMOM times SMOM is 100, but the square of the sum of SFLOW is 110.25; they differ by 9.3 % "
           "of the larger: Mw/Mn would be 0.907029, below 1"}},
@@ -124,7 +129,8 @@ TEST(UnusedValues, AreNamedWithWhatIsUsedInstead)
     };
     expect_each({
         row("PDI", "2.5",
-            " is 2.5, but is not used: Mw/Mn from ZMOM, SMOM and SFLOW is 2; they differ by 20 % of the larger"),
+            " is 2.5, but is not used: Mw/Mn from ZMOM, SMOM and SFLOW is 2; they differ by 20 % of the "
+            "larger"),
         row("PDI", "2", " is 2, but is not used: Mw/Mn from ZMOM, SMOM and SFLOW is 2; they agree"),
         row("MWN", "2100",
             " is 2100 g/mol, but is not used: Mn from FMOM and ZMOM with segment weights from SFLOW is 2000 "
@@ -160,17 +166,18 @@ TEST(UnusedValues, AreNamedWithWhatIsUsedInstead)
             "[2] is 4000 g/mol, but is not used: its value from SZMOM, SSMOM and SSFLOW is 4338.84 g/mol; "
             "they differ by 7.81 % of the larger"),
         {{{"100 }\n[", "100, dpn = 30 }\n["}},
-         {"c.toml:4:49: components.P.dpn is 30, but is not used: DPN in stream S from FMOM and ZMOM is 21; "
+         {"c.toml:4:50: components.P.dpn is 30, but is not used: DPN in stream S from FMOM and ZMOM is 21; "
           "they differ by 30 % of the larger"}},
         {{{"100 }\n[", "100, pdi = 3 }\n["}},
-         {"c.toml:4:49: components.P.pdi is 3, but is not used: Mw/Mn in stream S from ZMOM, SMOM and SFLOW "
+         {"c.toml:4:50: components.P.pdi is 3, but is not used: Mw/Mn in stream S from ZMOM, SMOM and SFLOW "
           "is 2; they differ by 33.3 % of the larger"}},
-        {{{"[polymers]", "[settings]\npdi_from = \"parameters\"\n[polymers]"}, {"100 }\n[", "100, pdi = 3 }\n["}},
+        {{{"[polymers]", "[settings]\npdi_from = \"parameters\"\n[polymers]"},
+          {"100 }\n[", "100, pdi = 3 }\n["}},
          {"c.toml:17:1: streams.S.attributes.P.SMOM: Mw/Mn from ZMOM, SMOM and SFLOW is 2, but is not used, "
           "since settings.pdi_from is \"parameters\": Mw/Mn from the pdi parameter is 3; they differ by 33.3 "
           "% of the larger"}},
         {{{"{ P = 10 }", "{ P = 0 }"}},
-         {"c.toml:12:22: streams.S.attributes.P is not used: P does not flow in this stream"}},
+         {"c.toml:12:23: streams.S.attributes.P is not used: P does not flow in this stream"}},
         {{{"\"SSMOM\", ", ""}, {"SSMOM = [141, 300]\n", ""}},
          {"c.toml:18:1: streams.S.attributes.P.SZMOM is not used: results of site types need polymers.sites, "
           "and SZMOM, SSMOM and SSFLOW of every polymer",
@@ -186,7 +193,7 @@ TEST(UnusedValues, AreNamedWithWhatIsUsedInstead)
 // The absent value would be 0 or missing, and the results of the stream wrong without a sign of it.
 TEST(RequiredValues, AreErrorsThatSayWhatToGive)
 {
-    const std::string lead = "c.toml:12:22: streams.S.attributes.P.";
+    const std::string lead = "c.toml:12:23: streams.S.attributes.P.";
     expect_each({
         {{{"ZMOM = 0.5\n", ""}},
          {lead + "ZMOM is missing; expected a number in kmol/h, since P carries it: the chains would not be "
@@ -204,7 +211,8 @@ TEST(RequiredValues, AreErrorsThatSayWhatToGive)
                  "segments would share equally without it"}},
         {{{"[\"ZMOM\"", "[\"DPN\", \"ZMOM\""}, {"100 }\n[", "100, dpn = 21 }\n["}}, {}},
         {{{"SMOM = 441\n", ""}},
-         {lead + "SMOM is missing; expected a number in kmol/h, since P carries it: Mw would be 0 without it"}},
+         {lead +
+          "SMOM is missing; expected a number in kmol/h, since P carries it: Mw would be 0 without it"}},
         {{{"SMOM = 441\n", ""}, {"[polymers]", "[settings]\npdi_from = \"parameters\"\n[polymers]"}}, {}},
         {{{"SSMOM = [141, 300]\n", ""}},
          {lead + "SSMOM is missing; expected a number for each site type, in kmol/h, since P carries it: Mw "
@@ -233,11 +241,11 @@ TEST(Warnings, AreInEveryFormAndCountWhenAskedFor)
               std::string::npos);
     EXPECT_EQ(outcome(cli::Strictness::strict).status, cli::exit_case_error);
 
-    const auto convert = [&](const auto& path, cli::Strictness strictness, std::FILE* to, std::FILE* err) {
-        return cli::convert(path, {"S", app::Basis::apparent, app::Basis::true_chains}, Format::text, to, err,
-                            strictness);
+    const auto convert = [](const auto& path, Format format, std::FILE* to, std::FILE* err) {
+        return cli::convert(path, {"S", app::Basis::apparent, app::Basis::true_chains}, format, to, err,
+                            cli::Strictness::strict);
     };
-    const auto converted = support::capture(convert, file.path, cli::Strictness::strict);
+    const auto converted = support::capture(convert, file.path, Format::text);
     EXPECT_EQ(converted.status, cli::exit_case_error);
     EXPECT_EQ(converted.errors, errors);
 }
@@ -264,18 +272,21 @@ temperatures = [300]
 )";
     const auto e = evaluated(text);
     const auto json = Json::parse(app::format_json(e.report))["parameters"][0]["binary_parameters"];
-    EXPECT_EQ(json[1], (Json{{"temperature", 300.0}, {"component", "B"}, {"A", 2.0}, {"B", 0.0}, {"C", nullptr}}));
+    EXPECT_EQ(json[1],
+              (Json{{"temperature", 300.0}, {"component", "B"}, {"A", 2.0}, {"B", 0.0}, {"C", nullptr}}));
     EXPECT_EQ(json[0]["C"], 0.0);
     const auto csv = app::format_csv(e.report);
     EXPECT_NE(csv.find("parameter,K,binary_parameters,300,B,,C,,1\n"), std::string::npos) << csv;
     EXPECT_NE(csv.find("parameter,K,binary_parameters,300,A,,C,0,1\n"), std::string::npos) << csv;
     EXPECT_NE(app::format_text(e.report).find("B          2  0  -\n"), std::string::npos)
         << app::format_text(e.report);
-    EXPECT_NE(app::format_html(e.report).find(R"(<td class="number" data-value="">–</td>)"), std::string::npos);
+    EXPECT_NE(app::format_html(e.report).find(R"(<td class="number" data-value="">–</td>)"),
+              std::string::npos);
     const auto arrays = app::result_arrays(e.results);
     const auto found = std::ranges::find(arrays, "parameters.K.pair_has_data", &app::ResultArray::key);
     ASSERT_NE(found, arrays.end());
-    EXPECT_EQ(std::vector(found->values, found->values + 9), (std::vector<double>{1, 1, 1, 1, 1, 0, 1, 0, 1}));
+    EXPECT_EQ(std::vector(found->values, found->values + 9),
+              (std::vector<double>{1, 1, 1, 1, 1, 0, 1, 0, 1}));
 }
 
 TEST(Crystallinity, IsPrintedForComponentsThatGiveIt)
