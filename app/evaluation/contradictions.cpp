@@ -133,7 +133,7 @@ private:
     std::vector<std::string_view> scaled() const
     {
         std::vector<std::string_view> names;
-        for (const auto name : {"SFLOW", "ZMOM", "FMOM", "SMOM", "TMOM"})
+        for (const auto* name : {"SFLOW", "ZMOM", "FMOM", "SMOM", "TMOM"})
             if (polymer_.gives(name)) names.emplace_back(name);
         return names;
     }

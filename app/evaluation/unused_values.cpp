@@ -198,6 +198,7 @@ private:
         for (const auto& [attribute, unit, average] : rows) {
             if (!given_.gives(attribute)) continue;
             std::vector<double> taken;
+            taken.reserve(sites.size());
             for (const auto& site : sites) taken.push_back((site.*average)());
             if (is_known)
                 unused(attribute, unit, "its value from SZMOM, SSMOM and SSFLOW", taken);

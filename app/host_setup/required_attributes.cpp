@@ -54,17 +54,16 @@ void check_required_attributes(const Case& input, const Stream& stream, const Fl
     const auto first = std::ranges::find_if(stream.attributes, is_of_polymer);
     const auto* component = input.find(id);
     if (first == stream.attributes.end() || !component) return;
-    for (const auto& [attribute, expected, otherwise] :
-         requirements(input, *component, host.components().index(id), host)) {
+    for (const auto& needed : requirements(input, *component, host.components().index(id), host)) {
         const auto is_given = [&](const AttributeValue& value) {
-            return is_of_polymer(value) && value.name.id == attribute;
+            return is_of_polymer(value) && value.name.id == needed.attribute;
         };
         if (std::ranges::none_of(stream.attributes, is_given))
             diagnostics.add(
                 first->component.source,
-                fmt::format("streams.{}.attributes.{}.{} is missing; expected {}, since {} carries "
-                            "it: {} without it",
-                            stream.name.id, id, attribute, expected, id, otherwise));
+                fmt::format("streams.{}.attributes.{}.{} is missing; expected {}, since {} carries it: {} "
+                            "without it",
+                            stream.name.id, id, needed.attribute, needed.expected, id, needed.otherwise));
     }
 }
 
