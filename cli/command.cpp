@@ -28,11 +28,13 @@ std::optional<app::Case> read(const std::filesystem::path& file, std::FILE* erro
     return input;
 }
 
-int show(const app::Report& report, app::Format format, std::FILE* out, std::FILE* errors)
+int show(const app::Report& report, app::Format format, std::FILE* out, std::FILE* errors,
+         Strictness strictness)
 {
     print(report.diagnostics, report.file, errors);
     write(formatted(report, format), out);
-    return has_errors(report) ? exit_case_error : exit_success;
+    const bool fails = has_errors(report) || (strictness == Strictness::strict && app::has_warnings(report));
+    return fails ? exit_case_error : exit_success;
 }
 
 CLI::App* add_case_command(CLI::App& program, const char* name, const char* purpose,
@@ -49,6 +51,12 @@ void add_format(CLI::App& command, app::Format& format)
         command, "--format", format,
         {{"text", app::Format::text}, {"csv", app::Format::csv}, {"json", app::Format::json}}, "FORMAT",
         "Form of the results (default: text)");
+}
+
+void add_strict(CLI::App& command, Strictness& strictness)
+{
+    command.add_flag_callback(
+        "--strict", [&strictness] { strictness = Strictness::strict; }, "Exit with 1 on warnings as well");
 }
 
 int refuse(const std::string& why, std::FILE* errors)

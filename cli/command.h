@@ -24,8 +24,12 @@ void print(const std::vector<app::Diagnostic>& diagnostics, const std::string& f
 // The case; empty, with all errors printed, when it has any.
 std::optional<app::Case> read(const std::filesystem::path& file, std::FILE* errors);
 
+// Whether warnings set the exit status as errors do.
+enum class Strictness { normal, strict };
+
 // Prints the report and its diagnostics; the exit status tells whether there were errors.
-int show(const app::Report& report, app::Format format, std::FILE* out, std::FILE* errors);
+int show(const app::Report& report, app::Format format, std::FILE* out, std::FILE* errors,
+         Strictness strictness = Strictness::normal);
 
 // A subcommand that takes a case file.
 CLI::App* add_case_command(CLI::App& program, const char* name, const char* purpose,
@@ -33,6 +37,9 @@ CLI::App* add_case_command(CLI::App& program, const char* name, const char* purp
 
 // --format text, csv or json.
 void add_format(CLI::App& command, app::Format& format);
+
+// --strict.
+void add_strict(CLI::App& command, Strictness& strictness);
 
 // An option with one value out of a few words.
 template <typename Choice>

@@ -32,7 +32,7 @@ int run_unguarded(const RunOptions& options, std::FILE* out, std::FILE* errors)
     if (options.out)
         app::write_files(*options.out, app::output_files(options.file.stem().string(), *input, report,
                                                          results.library_output));
-    return show(report, options.format, out, errors);
+    return show(report, options.format, out, errors, options.strictness);
 }
 
 }  // namespace
@@ -47,6 +47,7 @@ void add_run_command(CLI::App& program, int& status)
     const auto options = std::make_shared<RunOptions>();
     auto* command = add_case_command(program, "run", "Print the results of a case", options->file);
     add_format(*command, options->format);
+    add_strict(*command, options->strictness);
     command->add_option("--out", options->out, "Write report, summary, CSV, JSON and HTML files there")
         ->type_name("DIR");
     command->add_option("--gpc", options->gpc, "Measured curve to compare a composite distribution with")

@@ -8,6 +8,7 @@ namespace cli {
 struct RunOptions {
     std::filesystem::path file;
     app::Format format = app::Format::text;
+    Strictness strictness = Strictness::normal;
     std::optional<std::filesystem::path> out;         // directory for the files of the run
     std::optional<std::filesystem::path> gpc;         // measured curve to compare a composite with
     std::optional<std::filesystem::path> export_gpc;  // file for a composite in the same form

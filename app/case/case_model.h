@@ -21,6 +21,8 @@ enum class SegmentType { end = 1, repeat = 2, branch3 = 3, branch4 = 4 };
 
 struct Component : minihost::Component {
     SourcePosition source;
+    SourcePosition dpn_source = {};  // of the parameter, where it is given
+    SourcePosition pdi_source = {};
 };
 
 struct Segment {

@@ -38,6 +38,15 @@ Settings read_settings(TableReader table)
     return settings;
 }
 
+std::optional<double> read_placed_number(TableReader& table, std::string_view key, Range range,
+                                         SourcePosition& source)
+{
+    const auto entry = table.entry(key);
+    if (!entry) return {};
+    source = entry->source;
+    return read_number(*entry, range, table.diagnostics());
+}
+
 Component read_component(const std::string& id, TableReader table)
 {
     Component component;
@@ -48,8 +57,8 @@ Component read_component(const std::string& id, TableReader table)
             read_word(*kind, component_classes, table.diagnostics()).value_or(component.component_class);
     component.molecular_weight = table.required_number("molecular_weight", Range::positive);
     component.name = table.text("name").value_or(id);
-    component.dpn = table.number("dpn", Range::not_negative);
-    component.pdi = table.number("pdi", Range::positive);
+    component.dpn = read_placed_number(table, "dpn", Range::not_negative, component.dpn_source);
+    component.pdi = read_placed_number(table, "pdi", Range::positive, component.pdi_source);
     component.cry = table.number("cry", Range::not_negative);
     table.finish();
     return component;

@@ -3,10 +3,14 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
+#include <algorithm>
+#include <iterator>
 #include <stdexcept>
 
+#include "app/evaluation/contradictions.h"
 #include "app/evaluation/distribution_checks.h"
 #include "app/evaluation/distributions.h"
+#include "app/evaluation/unused_values.h"
 #include "app/host_setup/loaded_case.h"
 #include "app/routines/publication.h"
 
@@ -57,6 +61,20 @@ LibraryOutput publish_all(const Case& input, const Results& results, Host& host)
     return {host.report().pages(), host.summary().text()};
 }
 
+void append(std::vector<Diagnostic> found, std::vector<Diagnostic>& all)
+{
+    std::ranges::move(found, std::back_inserter(all));
+}
+
+void add_warnings(const Case& input, Host& host, Results& results)
+{
+    for (const auto& stream : input.streams) append(contradictions(stream, host), results.warnings);
+    append(unused_values(input, results.streams, host), results.warnings);
+    std::ranges::stable_sort(results.warnings, {}, &Diagnostic::source);
+    for (std::size_t i = 0; i < results.distributions.size(); ++i)
+        append(disagreements(input.distributions[i], results.distributions[i]), results.warnings);
+}
+
 }  // namespace
 
 Results evaluate(const Case& input, const EvaluationOptions& options)
@@ -70,9 +88,7 @@ Results evaluate(const Case& input, const EvaluationOptions& options)
     results.distributions = evaluate_distributions(input, host);
     add_comparison(input, options, results);
     results.parameters = evaluate_parameters(input);
-    for (std::size_t i = 0; i < results.distributions.size(); ++i)
-        for (auto& warning : disagreements(input.distributions[i], results.distributions[i]))
-            results.warnings.push_back(std::move(warning));
+    add_warnings(input, host, results);
     if (options.library_output) results.library_output = publish_all(input, results, host);
     return results;
 }
@@ -82,7 +98,10 @@ ConversionResults evaluate_conversion(const Case& input, const std::string& stre
     ConversionResults results;
     results.stream = stream;
     LoadedCase loaded{input};
-    if (prepare(input, loaded, results)) results.compositions = convert(stream, from, to, loaded.host());
+    if (!prepare(input, loaded, results)) return results;
+    results.compositions = convert(stream, from, to, loaded.host());
+    const auto found = std::ranges::find(input.streams, stream, [](const auto& s) { return s.name.id; });
+    results.warnings = contradictions(*found, loaded.host());
     return results;
 }
 

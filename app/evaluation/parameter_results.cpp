@@ -25,6 +25,15 @@ void set_given_pairs(const ParameterSet& set, ParameterResults& results)
     }
 }
 
+void mark_pairs_with_data(ParameterResults& results)
+{
+    const auto size = results.components.size();
+    for (std::size_t i = 0; i < size; ++i)
+        for (std::size_t j = 0; j < size; ++j)
+            if (i == j || results.is_given[results.pair(i, j)] || results.is_given[results.pair(j, i)])
+                results.has_data[results.pair(i, j)] = 1;
+}
+
 void complete(const ParameterSet& set, ParameterResults& results)
 {
     routines::complete_pairs(results.coefficients, set.leading_positions, set.is_antisymmetric);
@@ -49,11 +58,12 @@ ParametersAtTemperature evaluate(const ParameterSet& set, const routines::PairCo
 ParameterResults evaluate(const ParameterSet& set)
 {
     const auto pairs = set.components.size() * set.components.size();
-    ParameterResults results{set.name.id, set.unit, {}, {}, std::vector<bool>(pairs), {}};
+    ParameterResults results{set.name.id, set.unit, {}, {}, std::vector<bool>(pairs), PairMatrix(pairs), {}};
     for (const auto& component : set.components) results.components.push_back(component.id);
     results.coefficients = {std::ssize(set.components), set.positions, set.reference_position, {}};
     results.coefficients.values.resize(pairs * results.positions());
     set_given_pairs(set, results);
+    mark_pairs_with_data(results);
     complete(set, results);
     for (const double temperature : set.temperatures)
         results.temperatures.push_back(evaluate(set, results.coefficients, temperature));

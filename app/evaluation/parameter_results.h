@@ -25,6 +25,7 @@ struct ParameterResults {
     std::vector<std::string> components;
     routines::PairCoefficients coefficients;  // completed
     std::vector<bool> is_given;               // whether the file gives the ordered pair
+    PairMatrix has_data;  // 1 where it gives the pair in either order, and on the diagonal; otherwise 0
     std::vector<ParametersAtTemperature> temperatures;
 
     std::size_t positions() const { return static_cast<std::size_t>(coefficients.positions); }

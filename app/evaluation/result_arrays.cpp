@@ -43,6 +43,7 @@ void add(const ParameterResults& results, Collector& all)
     const auto size = results.components.size();
     all.add_matrix(fmt::format("parameters.{}.binary_coefficients", results.name),
                    results.coefficients.values, results.positions());
+    all.add_matrix(fmt::format("parameters.{}.pair_has_data", results.name), results.has_data, size);
     for (const auto& at : results.temperatures) {
         const auto add_matrix = [&](const char* table, const PairMatrix& matrix) {
             all.add_matrix(fmt::format("parameters.{}.{}.{}", results.name, table, at.temperature), matrix,

@@ -37,6 +37,7 @@ struct ConversionResults {
     bool is_complete = false;
     std::vector<InputMessage> messages;
     std::vector<Diagnostic> errors;
+    std::vector<Diagnostic> warnings;
     std::string stream;
     Compositions compositions;
 };

@@ -40,6 +40,16 @@ std::vector<SegmentShare> segment_shares(const routines::Components& chains, Hos
     return shares;
 }
 
+std::vector<Crystallinity> crystallinities(const StreamList& list, const Host& host)
+{
+    const auto values = routines::crystallinity_parameters(list.components);
+    std::vector<Crystallinity> given;
+    for (std::size_t i = 0; i < list.size(); ++i)
+        if (const auto& component = host.components().at(list.components[i].index); component.cry)
+            given.push_back({component.id, values[i]});
+    return given;
+}
+
 StreamResults evaluate(const std::string& name, const Case& input, Host& host)
 {
     const auto list = list_stream(name, host);
@@ -49,7 +59,8 @@ StreamResults evaluate(const std::string& name, const Case& input, Host& host)
             compositions(list, host),
             segment_count_matrix(list, host),
             chain_average_comparisons(list, host),
-            chain_properties(input, list, host)};
+            chain_properties(input, list, host),
+            crystallinities(list, host)};
 }
 
 }  // namespace

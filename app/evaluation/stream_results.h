@@ -30,6 +30,12 @@ struct SegmentShare {
     double mass_fraction;
 };
 
+// The crystallinity parameter of a component that gives it.
+struct Crystallinity {
+    std::string component;
+    double value;  // 1
+};
+
 struct StreamResults {
     std::string stream;
     std::vector<ChainAverages> averages;
@@ -38,6 +44,7 @@ struct StreamResults {
     SegmentCountMatrix segment_counts;
     std::vector<ChainAverageComparison> chain_weights;
     std::vector<ChainProperties> properties;
+    std::vector<Crystallinity> crystallinities;
 };
 
 // Selects each stream of the case in turn and asks the library's routines about it.

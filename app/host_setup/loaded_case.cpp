@@ -55,7 +55,7 @@ LoadedCase::LoadedCase(const Case& input) : turn_(turns()), host_(make_host(inpu
 Diagnostics LoadedCase::add_streams(const Case& input)
 {
     Diagnostics diagnostics;
-    StreamValues values{*host_, messages_.empty() ? "" : " (dropped)", diagnostics};
+    StreamValues values{input, *host_, messages_.empty() ? "" : " (dropped)", diagnostics};
     for (const auto& stream : input.streams) host_->add_stream(values.accepted(stream));
     return diagnostics;
 }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "app/host_setup/required_attributes.h"
 #include "minihost/attributes.h"
 #include "minihost/polymer_input.h"
 
@@ -107,8 +108,9 @@ std::vector<double> in_order(const AttributeValue& value, const Ids& segments)
 
 }  // namespace
 
-StreamValues::StreamValues(Host& host, std::string consequence, Diagnostics& diagnostics)
-    : host_(host),
+StreamValues::StreamValues(const Case& input, Host& host, std::string consequence, Diagnostics& diagnostics)
+    : input_(input),
+      host_(host),
       segments_(minihost::segment_ids(host)),
       end_segments_(minihost::end_segment_ids(host)),
       consequence_(std::move(consequence)),
@@ -123,29 +125,43 @@ minihost::Stream StreamValues::accepted(const Stream& stream)
         check_given(stream, flow);
         substream.flows[flow.component.id] = flow.value;
     }
-    for (const auto& value : stream.attributes) {
-        const ValueCheck check{
-            host_, segments_, end_segments_,
-            fmt::format("streams.{}.attributes.{}.{}", stream.name.id, value.component.id, value.name.id)};
-        if (const auto fault = check.fault(value); !fault.empty()) {
-            diagnostics_.add(value.name.source, fault + consequence_);
-            continue;
-        }
-        for (const auto& unknown : check.unknown_segments(value))
-            diagnostics_.add(unknown.source, unknown.text + consequence_);
-        substream.attributes[value.component.id][value.name.id] = in_order(value, segments_);
-    }
+    bool is_sound = true;
+    for (const auto& value : stream.attributes) is_sound = accept(stream, value, substream) && is_sound;
+    // A value that was refused need not be missing as well.
+    if (is_sound)
+        for (const auto& flow : stream.flows)
+            if (flows_as_polymer(flow)) check_required_attributes(input_, stream, flow, host_, diagnostics_);
     return {stream.name.id, {substream}};
+}
+
+bool StreamValues::accept(const Stream& stream, const AttributeValue& value, minihost::Substream& substream)
+{
+    const ValueCheck check{
+        host_, segments_, end_segments_,
+        fmt::format("streams.{}.attributes.{}.{}", stream.name.id, value.component.id, value.name.id)};
+    if (const auto fault = check.fault(value); !fault.empty()) {
+        diagnostics_.add(value.name.source, fault + consequence_);
+        return false;
+    }
+    const auto unknown_segments = check.unknown_segments(value);
+    for (const auto& unknown : unknown_segments)
+        diagnostics_.add(unknown.source, unknown.text + consequence_);
+    substream.attributes[value.component.id][value.name.id] = in_order(value, segments_);
+    return unknown_segments.empty();
+}
+
+bool StreamValues::flows_as_polymer(const Flow& flow) const
+{
+    const auto component = host_.components().index(flow.component.id);
+    return flow.value > 0 && host_.components().is(ComponentClass::polymer, component) &&
+           !host_.attributes().carried_by(component).empty();
 }
 
 // A polymer without values would pass for chains of one segment.
 void StreamValues::check_given(const Stream& stream, const Flow& flow)
 {
     const auto& id = flow.component.id;
-    const auto component = host_.components().index(id);
-    if (!host_.components().is(ComponentClass::polymer, component) || flow.value <= 0 ||
-        host_.attributes().carried_by(component).empty())
-        return;
+    if (!flows_as_polymer(flow)) return;
     const auto is_given = [&](const AttributeValue& value) { return value.component.id == id; };
     if (std::ranges::none_of(stream.attributes, is_given))
         diagnostics_.add(

@@ -14,14 +14,18 @@ namespace app {
 class StreamValues {
 public:
     // `consequence` ends every line that says what is wrong with a value.
-    StreamValues(minihost::Host& host, std::string consequence, Diagnostics& diagnostics);
+    StreamValues(const Case& input, minihost::Host& host, std::string consequence, Diagnostics& diagnostics);
 
     // The stream without the values that do not fit.
     minihost::Stream accepted(const Stream& stream);
 
 private:
+    // False for a value that does not fit.
+    bool accept(const Stream& stream, const AttributeValue& value, minihost::Substream& substream);
+    bool flows_as_polymer(const Flow& flow) const;
     void check_given(const Stream& stream, const Flow& flow);
 
+    const Case& input_;
     minihost::Host& host_;
     std::vector<std::string> segments_;
     std::vector<std::string> end_segments_;

@@ -42,13 +42,14 @@ std::string unit(const Column& column)
     return fmt::format("<span class=\"unit\">{}</span>", column.unit == "1" ? "–" : html_text(column.unit));
 }
 
-// A number shows six digits; data-value holds all of them.
+// A number shows six digits; data-value holds all of them and is empty without data.
 std::string cell(const Cell& cell)
 {
     if (const auto* value = std::get_if<double>(&cell))
         return fmt::format(R"(<td class="number" data-value="{}">{:.6g}</td>)", *value, *value);
     if (const auto* value = std::get_if<Int>(&cell))
         return fmt::format(R"(<td class="number" data-value="{}">{}</td>)", *value, *value);
+    if (std::holds_alternative<NoData>(cell)) return R"(<td class="number" data-value="">–</td>)";
     return fmt::format("<td>{}</td>", html_text(std::get<std::string>(cell)));
 }
 

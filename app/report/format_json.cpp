@@ -8,11 +8,22 @@ namespace {
 
 constexpr int schema_version = 1;
 
+template <typename Value>
+JsonValue json_of(const Value& value)
+{
+    return JsonValue::scalar(value);
+}
+
+JsonValue json_of(const NoData& /*null*/)
+{
+    return {};
+}
+
 JsonValue row_object(const Table& table, const std::vector<Cell>& row)
 {
     auto object = JsonValue::object();
     for (std::size_t i = 0; i < row.size(); ++i)
-        std::visit([&](const auto& value) { object.set(table.columns[i].key, value); }, row[i]);
+        object[table.columns[i].key] = std::visit([](const auto& value) { return json_of(value); }, row[i]);
     return object;
 }
 
@@ -48,13 +59,27 @@ JsonValue section_object(const Section& section)
     return object;
 }
 
-JsonValue message_object(const InputMessage& placed, const std::string& file)
+JsonValue place_object(const SourcePosition& source, const std::string& file)
 {
-    const auto& [source, hint, message] = placed;
     JsonValue object;
     object.set("file", file);
     object.set("line", source.line);
     object.set("column", source.column);
+    return object;
+}
+
+JsonValue warning_object(const Diagnostic& warning, const std::string& file)
+{
+    auto object = place_object(warning.source, file);
+    object.set("key", warning.source.key);
+    object.set("text", warning.text);
+    return object;
+}
+
+JsonValue message_object(const InputMessage& placed, const std::string& file)
+{
+    const auto& [source, hint, message] = placed;
+    auto object = place_object(source, file);
     object.set("routine", message.routine);
     object.set("number", message.number);
     object.set("severity", message.severity);
@@ -73,6 +98,9 @@ std::string format_json(const Report& report)
     json["units"] = units(report);
     auto& messages = json["messages"] = JsonValue::array();
     for (const auto& message : report.messages) messages.push_back(message_object(message, report.file));
+    auto& warnings = json["warnings"] = JsonValue::array();
+    for (const auto& found : report.diagnostics)
+        if (found.severity == Severity::warning) warnings.push_back(warning_object(found, report.file));
     if (!report.input.empty()) add_tables(report.input, json["input"]);
     for (const auto& section : report.sections) json[section.kind + "s"].push_back(section_object(section));
     return json.dump() + "\n";

@@ -15,6 +15,7 @@ std::string shown(const Cell& cell)
 {
     if (const auto* value = std::get_if<double>(&cell)) return fmt::format("{:.6g}", *value);
     if (const auto* value = std::get_if<Int>(&cell)) return fmt::format("{}", *value);
+    if (std::holds_alternative<NoData>(cell)) return "-";
     return std::get<std::string>(cell);
 }
 

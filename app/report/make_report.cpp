@@ -77,6 +77,12 @@ bool has_errors(const Report& report)
                                [](const auto& found) { return found.severity != Severity::warning; });
 }
 
+bool has_warnings(const Report& report)
+{
+    return std::ranges::find(report.diagnostics, Severity::warning, &Diagnostic::severity) !=
+           report.diagnostics.end();
+}
+
 Report make_report(const Case& input, const Results& results)
 {
     auto report = start(input, results.messages);
@@ -105,6 +111,7 @@ Report make_conversion_report(const Case& input, const ConversionResults& result
     if (results.is_complete)
         report.sections.push_back(conversion_section(results.stream, results.compositions));
     add_not_finite(input, report);
+    append(results.warnings, report);
     return report;
 }
 

@@ -34,6 +34,12 @@ Table coefficients(const ParameterResults& results)
     return table;
 }
 
+Cell parameter_cell(const ParameterResults& results, const PairMatrix& matrix, std::size_t pair)
+{
+    if (results.has_data[pair] == 0) return NoData{};
+    return matrix[pair];
+}
+
 // One square after the other: a row for each temperature and first component, a column for each second
 // component.
 Table matrix_table(const ParameterResults& results, std::string key, std::string heading,
@@ -46,7 +52,7 @@ Table matrix_table(const ParameterResults& results, std::string key, std::string
         for (std::size_t i = 0; i < results.components.size(); ++i) {
             auto& row = table.rows.emplace_back(std::vector<Cell>{at.temperature, results.components[i]});
             for (std::size_t j = 0; j < results.components.size(); ++j)
-                row.emplace_back(matrix(at)[results.pair(i, j)]);
+                row.push_back(parameter_cell(results, matrix(at), results.pair(i, j)));
         }
     return table;
 }

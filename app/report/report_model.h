@@ -12,7 +12,12 @@
 
 namespace app {
 
-using Cell = std::variant<std::string, double, Int>;
+// In place of a number that the case does not determine.
+struct NoData {
+    bool operator==(const NoData&) const = default;
+};
+
+using Cell = std::variant<std::string, double, Int, NoData>;
 
 struct Column {
     std::string key;      // stable name in CSV and JSON
@@ -48,5 +53,6 @@ struct Report {
 
 // True when an error or a message makes the run a failure.
 bool has_errors(const Report& report);
+bool has_warnings(const Report& report);
 
 }  // namespace app

@@ -47,7 +47,14 @@ bool is_number(const Cell& cell)
 
 std::string text(const Cell& cell)
 {
-    return std::visit([](const auto& value) { return fmt::format("{}", value); }, cell);
+    return std::visit(
+        [](const auto& value) -> std::string {
+            if constexpr (std::is_same_v<std::decay_t<decltype(value)>, NoData>)
+                return {};
+            else
+                return fmt::format("{}", value);
+        },
+        cell);
 }
 
 std::string text_of(const Table& table, const std::vector<Cell>& row, std::string_view key)

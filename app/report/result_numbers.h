@@ -15,14 +15,15 @@ struct ResultNumber {
     std::string component;
     std::string segment;
     const Column* quantity;
-    Cell value;  // double or Int
+    Cell value;  // double, Int or NoData
 
     // The path that a sweep heads a column with.
     std::string key() const;
 };
 
+// Also where the number has no data.
 bool is_number(const Cell& cell);
-// With every digit.
+// With every digit; empty without data.
 std::string text(const Cell& cell);
 // The text of the named column, empty in a table without it.
 std::string text_of(const Table& table, const std::vector<Cell>& row, std::string_view key);

@@ -95,6 +95,14 @@ Table property_table(const std::vector<Property>& properties, const std::vector<
     return table;
 }
 
+Table crystallinity_table(const std::vector<Crystallinity>& crystallinities)
+{
+    Table table{
+        "crystallinity", "Crystallinity parameters", {columns::component, {"cry", "Crystallinity", "1"}}, {}};
+    for (const auto& [component, value] : crystallinities) table.rows.push_back({component, value});
+    return table;
+}
+
 Table polymer_made_table(const std::vector<SitePolymer>& made)
 {
     Table table{"polymer_made",
@@ -157,6 +165,7 @@ Section stream_section(const StreamResults& results, const Case& input)
     tables.push_back(segment_count_table(results.segment_counts));
     tables.push_back(chain_average_table(results.chain_weights));
     if (!input.properties.empty()) tables.push_back(property_table(input.properties, results.properties));
+    if (!results.crystallinities.empty()) tables.push_back(crystallinity_table(results.crystallinities));
     return section_of_stream(results.stream, std::move(tables));
 }
 

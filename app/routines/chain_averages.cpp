@@ -46,6 +46,15 @@ Reals polydispersity_indices(const Components& components)
     return ask(POLY_GETPDI, components);
 }
 
+Reals crystallinity_parameters(const Components& components)
+{
+    const auto idx = indices(components);
+    const Int n = count(components);
+    Reals values(components.size());
+    POLY_GETCRY(nullptr, &n, idx.data(), values.data());
+    return values;
+}
+
 Reals segment_mole_fractions(Component chain, std::size_t segments)
 {
     Reals fractions(segments);

@@ -137,6 +137,9 @@ const char* polyprops_run_number_key(const polyprops_run* handle, size_t index);
 //   parameters.NAME.binary_parameters.T                          component × component at T K
 //   parameters.NAME.binary_parameter_slopes.T                    T·dK/dT
 //   parameters.NAME.binary_parameter_derivatives.T               dK/dT, of the general form
+//   parameters.NAME.pair_has_data                                component × component: 1 for a pair with
+//   data and on the diagonal; 0 for a pair without, whose parameters are 0 in these arrays and no single
+//   numbers
 //   parameters.NAME.binary_coefficients                          position × ordered pair, first component
 //   fastest
 //

@@ -80,7 +80,6 @@ TEST(Examples, GiveTheNumbersThatTheirCommentsDerive)
         {"slurry-hdpe", "streams.SLURRY-2.chain_averages.HDPE.pdi", 9.31624375},
         {"interaction-parameters", "parameters.CHI.binary_parameters.400.PS.PMMA", 0.03775},
         {"interaction-parameters", "parameters.CHI.binary_parameters.400.PI.PS", 0.0928},
-        {"interaction-parameters", "parameters.CHI.binary_parameters.400.PI.PMMA", 0},
         {"interaction-parameters", "parameters.CHI.binary_parameters.400.PI.PI", 0},
         {"interaction-parameters", "parameters.CHI.binary_parameter_slopes.400.PS.PI", -0.1785},
         {"interaction-parameters", "parameters.CHI.binary_parameter_derivatives.400.PS.PI", -0.1785 / 400},

@@ -35,7 +35,8 @@ addEventListener("load", () => setTimeout(() => {
     }).length;
     seen.tables = [...document.querySelectorAll("table")].map((table) => {
         const keys = [...table.tHead.rows[0].cells].map((head) => head.dataset.key);
-        const value = (cell) => "value" in cell.dataset ? Number(cell.dataset.value) : cell.textContent;
+        const value = (cell) => !("value" in cell.dataset) ? cell.textContent
+            : cell.dataset.value === "" ? null : Number(cell.dataset.value);
         const rows = [...table.tBodies[0].rows].map((row) =>
             Object.fromEntries([...row.cells].map((cell, i) => [keys[i], value(cell)])));
         const section = table.closest("section").dataset;

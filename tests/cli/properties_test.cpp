@@ -9,7 +9,7 @@ const std::string good = R"([components]
 A-R = { class = "segment", molecular_weight = 100 }
 B-R = { class = "segment", molecular_weight = 50 }
 W = { molecular_weight = 18 }
-P = { class = "polymer", molecular_weight = 100 }
+P = { class = "polymer", molecular_weight = 350 }
 O = { class = "oligomer", molecular_weight = 100 }
 [polymers]
 segments = [{ id = "A-R", type = "repeat" }, { id = "B-R", type = "repeat" }]
@@ -63,7 +63,7 @@ TEST(Properties, ThatAreNotFiniteAreReported)
               Lines{"c.toml:12:10: streams.S: V of P is inf; expected a finite result"});
 }
 
-// The segments of P weigh 87.5 g/mol on average: its 100 kg/h become 109.375 of 218 on the segment basis.
+// The segments of P weigh 87.5 g/mol on average: its 350 kg/h become 382.8125 of 468 on the segment basis.
 TEST(Closures, ShowAttributesThatContradictTheSegments)
 {
     const auto text = with(good, "\"ZMOM\", \"SFLOW\"]", "\"ZMOM\", \"SFLOW\", \"MWSEG\"]");
@@ -71,7 +71,7 @@ TEST(Closures, ShowAttributesThatContradictTheSegments)
     for (const std::string average : {"mean_segment_weight", "mn", "mw"})
         EXPECT_NEAR(number(e, "streams.S.chain_weights." + average + ".P.difference"), 7.5 / 80, 1e-14);
     EXPECT_EQ(number(e, "streams.S.closures.true.mass_difference"), 0);
-    EXPECT_NEAR(number(e, "streams.S.closures.segment.mass_difference"), 9.375 / 218, 1e-14);
+    EXPECT_NEAR(number(e, "streams.S.closures.segment.mass_difference"), 32.8125 / 468, 1e-14);
 }
 
 TEST(Reactors, GiveTheWholePolymerWithoutMomentsBySite)
@@ -81,12 +81,12 @@ TEST(Reactors, GiveTheWholePolymerWithoutMomentsBySite)
     const auto reactor = run_json(file.path)["reactors"][0];
     EXPECT_EQ(reactor["inlet"], "T");
     EXPECT_EQ(reactor["outlet"], "S");
-    // Z = 0.01, F = 4, S = 3200, and the flow of 1 kmol/h weighs 100 kg/h.
+    // Z = 0.01, F = 4, S = 3200, and the flow of 1 kmol/h weighs 350 kg/h.
     EXPECT_EQ(reactor["polymer_made"], Json::array({{{"site", "total"},
-                                                     {"mass_flow", 100.0},
-                                                     {"mean_segment_weight", 25.0},
-                                                     {"mn", 10000.0},
-                                                     {"mw", 20000.0},
+                                                     {"mass_flow", 350.0},
+                                                     {"mean_segment_weight", 87.5},
+                                                     {"mn", 35000.0},
+                                                     {"mw", 70000.0},
                                                      {"dpn", 400.0},
                                                      {"dpw", 800.0},
                                                      {"pdi", 2.0}}}));

@@ -116,7 +116,7 @@ function distributionChart(canvas, distribution) {
     return chart(canvas, datasets, scales, marked, (x) => `Chain length ${shown(x)}`);
 }
 
-// Every pair whose parameter is not 0 throughout; both orders of it where they differ.
+// Every pair with data whose parameter is not 0 throughout; both orders of it where they differ.
 function parameterChart(canvas, set) {
     const rows = set.binary_parameters;
     const names = Object.keys(rows[0]).filter((key) => key !== "temperature" && key !== "component");
@@ -125,7 +125,7 @@ function parameterChart(canvas, set) {
     const datasets = [];
     const add = (first, second, borderDash) => {
         const points = curve(first, second);
-        if (points.every((point) => point.y === 0)) return;
+        if (points.every((point) => point.y === null || point.y === 0)) return;
         const hue = palette[datasets.length % palette.length];
         datasets.push(line(`${first} – ${second}`, points, { borderColor: hue, backgroundColor: hue, borderDash }));
     };

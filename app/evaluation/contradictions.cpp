@@ -1,0 +1,243 @@
+// With flows F = Σ SFLOW(s), or FMOM where it is given, of a polymer
+//
+//   flow · MW = Σ MW(s) · SFLOW(s)                mass
+//   FMOM = F,  ZMOM · SMOM ≥ F²,  F · TMOM ≥ SMOM²   moments of chain lengths of at least one segment
+//   Σ SZMOM = ZMOM,  Σ SSMOM = SMOM               sums over site types
+//   Σ SSFLOW(s) = SFLOW(s),  SFMOM = Σ SSFLOW     over site types; over the segments of a site type
+//   end segments = 2 · ZMOM                       linear chains
+//   DPN = F / ZMOM;  MWSEG and SFRAC by SFLOW     attributes that are preferred to the moments
+#include "app/evaluation/contradictions.h"
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+#include <algorithm>
+
+#include "app/evaluation/comparison.h"
+
+namespace app {
+
+namespace {
+
+constexpr const char* mole_flow = "kmol/h";
+using Segments = std::vector<GivenSegment>;
+
+double mass(const std::vector<double>& flows, const Segments& segments)
+{
+    double sum = 0;
+    for (std::size_t s = 0; s < segments.size(); ++s) sum += segments[s].molecular_weight * flows[s];
+    return sum;
+}
+
+std::vector<double> over_sites(const std::vector<double>& by_site, std::size_t segments)
+{
+    std::vector<double> sums(segments);
+    for (std::size_t i = 0; i < by_site.size(); ++i) sums[i % segments] += by_site[i];
+    return sums;
+}
+
+std::vector<double> over_segments(const std::vector<double>& by_site, std::size_t segments)
+{
+    std::vector<double> sums(by_site.size() / segments);
+    for (std::size_t i = 0; i < by_site.size(); ++i) sums[i / segments] += by_site[i];
+    return sums;
+}
+
+std::vector<double> fractions(std::vector<double> values)
+{
+    double sum = 0;
+    for (const double value : values) sum += value;
+    if (sum > 0)
+        for (double& value : values) value /= sum;
+    return values;
+}
+
+class PolymerComparisons {
+public:
+    PolymerComparisons(const GivenPolymer& polymer, const Segments& segments, std::vector<Diagnostic>& found)
+        : polymer_(polymer), segments_(segments), found_(found)
+    {
+    }
+
+    void compare()
+    {
+        if (segments_.empty()) return;
+        compare_mass();
+        compare_moments();
+        compare_sites();
+        compare_ends();
+        compare_averages();
+    }
+
+private:
+    bool gives(std::initializer_list<std::string_view> attributes) const
+    {
+        return polymer_.gives_all(attributes);
+    }
+
+    void warn(const SourcePosition& source, std::string text)
+    {
+        found_.push_back({source, std::move(text), Severity::warning});
+    }
+
+    void expect_equal(const SourcePosition& source, const Quantity& given, const Quantity& other,
+                      const std::string& advice = {})
+    {
+        if (agree(given.value, other.value)) return;
+        warn(source,
+             fmt::format("{}, but {}; {}{}", shown(given), shown(other), difference(given, other), advice));
+    }
+
+    void expect_equal(std::string_view attribute, const Quantity& other, const char* unit = mole_flow)
+    {
+        expect_equal(polymer_.source(attribute), {polymer_.key(attribute), polymer_.value(attribute), unit},
+                     other);
+    }
+
+    // Of several elements the one that differs most is enough.
+    template <typename Label>
+    void expect_all_equal(std::string_view attribute, const std::vector<double>& given,
+                          const std::vector<double>& other, const char* other_name, const char* unit,
+                          Label label)
+    {
+        std::size_t worst = 0;
+        for (std::size_t i = 1; i < given.size(); ++i)
+            if (relative_difference(given[i], other[i]) > relative_difference(given[worst], other[worst]))
+                worst = i;
+        if (!given.empty())
+            expect_equal(polymer_.source(attribute),
+                         {polymer_.key(attribute) + label(worst), given[worst], unit},
+                         {other_name, other[worst], unit});
+    }
+
+    std::string of_segment(std::size_t s) const { return " of " + segments_[s].id; }
+
+    // A factor between the flow and everything else is the most common mistake.
+    void compare_mass()
+    {
+        if (!gives({"SFLOW"})) return;
+        const Quantity by_flow{polymer_.flow_key() + ": flow times molecular weight", polymer_.mass_flow(),
+                               "kg/h"};
+        const Quantity by_segments{"SFLOW times segment weights", mass(polymer_.elements("SFLOW"), segments_),
+                                   "kg/h"};
+        const double smaller = std::min(by_flow.value, by_segments.value);
+        const auto factor = smaller > 0 ? fmt::format(", a factor of {:.4g}",
+                                                      std::max(by_flow.value, by_segments.value) / smaller)
+                                        : std::string{};
+        expect_equal(polymer_.flow().component.source, by_flow, by_segments,
+                     fmt::format("{}; check {}, components.{}.molecular_weight and the scale of {}", factor,
+                                 polymer_.flow_key(), polymer_.id(), fmt::join(scaled(), ", ")));
+    }
+
+    // Attributes that have the scale of the flow.
+    std::vector<std::string_view> scaled() const
+    {
+        std::vector<std::string_view> names;
+        for (const auto* name : {"SFLOW", "ZMOM", "FMOM", "SMOM", "TMOM"})
+            if (polymer_.gives(name)) names.emplace_back(name);
+        return names;
+    }
+
+    void compare_moments()
+    {
+        if (gives({"FMOM", "SFLOW"}))
+            expect_equal("FMOM", {"the sum of SFLOW", polymer_.sum("SFLOW"), mole_flow});
+        const auto* first = gives({"FMOM"}) ? "FMOM" : "SFLOW";
+        if (!gives({first})) return;
+        const double f = polymer_.sum(first);
+        const std::string name = gives({"FMOM"}) ? "FMOM" : "the sum of SFLOW";
+        if (gives({"ZMOM", "SMOM"}))
+            expect_not_below("SMOM", {"ZMOM times SMOM", polymer_.value("ZMOM") * polymer_.value("SMOM")},
+                             {"the square of " + name, f * f}, "Mw/Mn");
+        if (gives({"SMOM", "TMOM"})) {
+            const double s = polymer_.value("SMOM");
+            expect_not_below("TMOM", {name + " times TMOM", f * polymer_.value("TMOM")},
+                             {"the square of SMOM", s * s}, "Mz/Mw");
+        }
+    }
+
+    void expect_not_below(std::string_view attribute, const Quantity& product, const Quantity& square,
+                          const char* ratio)
+    {
+        if (product.value >= square.value || agree(product.value, square.value)) return;
+        warn(polymer_.source(attribute),
+             fmt::format("{}: {}, but {}; {}: {} would be {:.6g}, below 1", polymer_.key(attribute),
+                         shown(product), shown(square), difference(product, square), ratio,
+                         product.value / square.value));
+    }
+
+    void compare_sites()
+    {
+        for (const auto& [whole, by_site] : {std::pair{"ZMOM", "SZMOM"}, {"SMOM", "SSMOM"}})
+            if (gives({whole, by_site}))
+                expect_equal(whole, {std::string{"the sum of "} + by_site, polymer_.sum(by_site), mole_flow});
+        if (!gives({"SSFLOW"})) return;
+        const auto& by_site = polymer_.elements("SSFLOW");
+        if (gives({"SFLOW"}))
+            expect_all_equal("SFLOW", polymer_.elements("SFLOW"), over_sites(by_site, segments_.size()),
+                             "the sum of SSFLOW over the site types", mole_flow,
+                             [&](std::size_t s) { return of_segment(s); });
+        if (gives({"SFMOM"}))
+            expect_all_equal("SFMOM", polymer_.elements("SFMOM"), over_segments(by_site, segments_.size()),
+                             "the sum of SSFLOW of this site type", mole_flow,
+                             [](std::size_t t) { return fmt::format("[{}]", t + 1); });
+    }
+
+    // One end of each chain may be no segment, such as a hydrogen end.
+    void compare_ends()
+    {
+        if (!gives({"ZMOM", "SFLOW"})) return;
+        double ends = 0;
+        double branches = 0;
+        for (std::size_t s = 0; s < segments_.size(); ++s) {
+            const double flow = polymer_.elements("SFLOW")[s];
+            if (segments_[s].type == SegmentType::end)
+                ends += flow;
+            else if (segments_[s].type != SegmentType::repeat)
+                branches += flow;
+        }
+        const double chains = polymer_.value("ZMOM");
+        if (ends > 0 && branches == 0 && !agree(ends, chains))
+            expect_equal(polymer_.source("SFLOW"),
+                         {polymer_.key("SFLOW") + ": flow of end segments", ends, mole_flow},
+                         {"twice ZMOM", 2 * chains, mole_flow}, ", and linear chains have two ends each");
+    }
+
+    void compare_averages()
+    {
+        const auto* first = gives({"FMOM"}) ? "FMOM" : "SFLOW";
+        if (gives({"DPN", "ZMOM", first}) && polymer_.value("ZMOM") > 0)
+            expect_equal("DPN",
+                         {fmt::format("{} over ZMOM", gives({"FMOM"}) ? "FMOM" : "the sum of SFLOW"),
+                          polymer_.sum(first) / polymer_.value("ZMOM")},
+                         "");
+        if (!gives({"SFLOW"}) || !(polymer_.sum("SFLOW") > 0)) return;
+        const auto& flows = polymer_.elements("SFLOW");
+        if (gives({"MWSEG"}))
+            expect_equal(
+                "MWSEG",
+                {"the mean segment weight of SFLOW", mass(flows, segments_) / polymer_.sum("SFLOW"), "g/mol"},
+                "g/mol");
+        if (gives({"SFRAC"}))
+            expect_all_equal("SFRAC", polymer_.elements("SFRAC"), fractions(flows), "its share of SFLOW", "",
+                             [&](std::size_t s) { return of_segment(s); });
+    }
+
+    const GivenPolymer& polymer_;
+    const Segments& segments_;
+    std::vector<Diagnostic>& found_;
+};
+
+}  // namespace
+
+std::vector<Diagnostic> contradictions(const Stream& stream, minihost::Host& host)
+{
+    std::vector<Diagnostic> found;
+    const auto polymers = given_polymers(stream, host);
+    if (polymers.empty()) return found;
+    const auto segments = given_segments(host, minihost::read_polymer_input(host));
+    for (const auto& polymer : polymers) PolymerComparisons{polymer, segments, found}.compare();
+    return found;
+}
+
+}  // namespace app

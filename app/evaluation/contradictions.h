@@ -1,0 +1,14 @@
+// Contradictions among the values that a stream gives of its polymers. Only values of the case file are
+// compared, never a value with one that was derived from it.
+#pragma once
+
+#include <vector>
+
+#include "app/evaluation/given_polymer.h"
+
+namespace app {
+
+// A warning for each pair of values that differ by more than 0.01 % of the larger.
+std::vector<Diagnostic> contradictions(const Stream& stream, minihost::Host& host);
+
+}  // namespace app
