@@ -62,6 +62,7 @@ LibraryOutput publish_all(const Case& input, const Results& results, Host& host)
 Results evaluate(const Case& input, const EvaluationOptions& options)
 {
     Results results;
+    results.warnings = input.warnings;
     LoadedCase loaded{input};
     if (!prepare(input, loaded, results)) return results;
     auto& host = loaded.host();
