@@ -88,8 +88,7 @@ private:
                 if (segments_[s]->id == segment.id) shares[s] = value;
         }
         if (std::abs(sum - 1) <= fraction_sum_tolerance) return shares;
-        refuse(source, fmt::format("{} add up to {:.9g}; expected 1 within {}", source.key, sum,
-                                   fraction_sum_tolerance));
+        refuse(source, fmt::format("{} add up to {:.9g}; expected 1 within 1e-6", source.key, sum));
         return {};
     }
 
@@ -146,7 +145,8 @@ private:
         const auto& [mn, mw, mz] = averages;
         const auto is_less = [](double a, double b) { return a < b * (1 - rounding); };
         const auto fault = [&](const char* low, double a, const char* high, double b) {
-            return refuse(fmt::format(": {} is {:.6g} g/mol, less than {}, {:.6g} g/mol", low, a, high, b));
+            return refuse(
+                fmt::format(": {} is {:.6g} g/mol; expected at least {}, {:.6g} g/mol", low, a, high, b));
         };
         if (is_less(mn, m0)) return fault("Mn", mn, "the mean segment weight", m0);
         if (is_less(mw, mn)) return fault("Mw", mw, "Mn", mn);

@@ -63,6 +63,7 @@ public:
             else
                 averages.push_back(std::move(name));
         }
+        if (!diagnostics_.empty()) return;
         const auto moments = moments_of(stream);
         for (const auto& name : averages) add(stream, name, average(name, moments));
     }
@@ -84,7 +85,7 @@ private:
 
     void refuse(const std::string& why) const
     {
-        diagnostics_.add(mix_.source, fmt::format("{} cannot mix {}", mix_.source.key, why));
+        diagnostics_.add(mix_.source, fmt::format("{}: {}", mix_.source.key, why));
     }
 
     std::vector<double> sum(const std::string& name) const
@@ -93,8 +94,9 @@ private:
         for (const auto& [stream, factor] : parts_) {
             const auto* value = find_attribute(*stream, component_.id, name);
             if (!value) {
-                refuse(fmt::format("{} of {}: streams.{} does not give it, another stream does", name,
-                                   component_.id, stream->name.id));
+                refuse(
+                    fmt::format("streams.{} gives no {} of {}; expected one, since another stream gives it",
+                                stream->name.id, name, component_.id));
                 return {};
             }
             const auto part = by_position(*value, segments_);
@@ -111,8 +113,10 @@ private:
             return by_position(*find_attribute(*parts_.front().stream, component_.id, name), segments_);
         auto values = attribute_values(moments, name);
         if (values.empty())
-            refuse(fmt::format("{} of {}: it does not follow from ZMOM, FMOM, SMOM, TMOM and SFLOW as given",
-                               name, component_.id));
+            refuse(fmt::format(
+                "{} of {} cannot be mixed; expected one that follows from ZMOM, FMOM, SMOM, TMOM and "
+                "SFLOW",
+                name, component_.id));
         return values;
     }
 
@@ -151,6 +155,7 @@ public:
         if (!stream.mix || std::ranges::find(done_, &stream) != done_.end()) return;
         done_.push_back(&stream);
         const auto all = parts(*stream.mix);
+        if (!diagnostics_.empty()) return;
         for (const auto& component : input_.components) {
             Parts holding;
             std::ranges::copy_if(all, std::back_inserter(holding),
