@@ -274,7 +274,7 @@ std::vector<double> attribute_values(const ChainMoments& moments, std::string_vi
 {
     if (attribute == "SFLOW") return moments.segment_flows;
     if (attribute == "SFRAC") return segment_fractions(moments);
-    const auto found = std::ranges::find(scalars, attribute, &Scalar::attribute);
+    const auto* found = std::ranges::find(scalars, attribute, &Scalar::attribute);
     return found == std::end(scalars) ? std::vector<double>{} : values(found->value(moments));
 }
 
