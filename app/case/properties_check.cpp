@@ -78,14 +78,15 @@ void check_stream(const PlacedName& stream, const Case& input, Diagnostics& diag
 
 void check_inlets(const Reactor& reactor, const Case& input, Diagnostics& diagnostics)
 {
-    for (auto inlet = reactor.inlets.begin(); inlet != reactor.inlets.end(); ++inlet) {
-        const auto& [id, source] = *inlet;
-        check_stream(*inlet, input, diagnostics);
-        if (std::any_of(reactor.inlets.begin(), inlet,
-                        [&](const PlacedName& other) { return !id.empty() && other.id == id; }))
+    Names earlier;
+    for (const auto& [id, source] : reactor.inlets) {
+        check_stream({id, source}, input, diagnostics);
+        if (id.empty()) continue;
+        if (std::ranges::find(earlier, id) != earlier.end())
             diagnostics.add(source,
                             fmt::format("reactors.{}.inlets names \"{}\" twice", reactor.name.id, id));
-        if (!id.empty() && id == reactor.outlet.id)
+        earlier.emplace_back(id);
+        if (id == reactor.outlet.id)
             diagnostics.add(reactor.outlet.source,
                             fmt::format("reactors.{}: inlet and outlet are both \"{}\"; expected two streams",
                                         reactor.name.id, id));

@@ -119,6 +119,7 @@ private:
     void report_cycle(const std::vector<const Stream*>& cycle)
     {
         std::vector<std::string_view> names;
+        names.reserve(cycle.size() + 1);
         for (const auto* stream : cycle) names.emplace_back(stream->name.id);
         names.emplace_back(cycle.front()->name.id);
         const auto& source = cycle.front()->mix->source;
