@@ -57,4 +57,10 @@ int refuse(const std::string& why, std::FILE* errors)
     return exit_usage;
 }
 
+int fail(const std::string& why, std::FILE* errors)
+{
+    fmt::print(errors, "polyprops: {}\n", why);
+    return exit_case_error;
+}
+
 }  // namespace cli

@@ -56,6 +56,9 @@ CLI::Option* add_choice(CLI::App& command, const char* option, Choice& choice, c
 // An error of usage.
 int refuse(const std::string& why, std::FILE* errors);
 
+// A failure of the command.
+int fail(const std::string& why, std::FILE* errors);
+
 // Runs a command; an exception becomes a message and an exit status.
 template <typename Command>
 int guarded(const Command& command, std::FILE* errors)
@@ -63,8 +66,7 @@ int guarded(const Command& command, std::FILE* errors)
     try {
         return command();
     } catch (const std::exception& error) {
-        std::fprintf(errors, "polyprops: %s\n", error.what());
-        return exit_case_error;
+        return fail(error.what(), errors);
     }
 }
 

@@ -169,8 +169,10 @@ public:
             check_list(block(list), 1);
         for (const auto list : {POLYPROPS_CATALYST_LIST, POLYPROPS_INITIATOR_LIST})
             check_list(block(list), 0);
-        const BlockId segments = block(POLYPROPS_SEGMENT_LIST), oligomers = block(POLYPROPS_OLIGOMER_LIST);
-        const BlockId catalysts = block(POLYPROPS_CATALYST_LIST), parameters = block(POLYPROPS_PARAMETERS);
+        const BlockId segments = block(POLYPROPS_SEGMENT_LIST);
+        const BlockId oligomers = block(POLYPROPS_OLIGOMER_LIST);
+        const BlockId catalysts = block(POLYPROPS_CATALYST_LIST);
+        const BlockId parameters = block(POLYPROPS_PARAMETERS);
         check_ascending(segments);
         check_ascending(oligomers);
         for (Int s = 1; s <= count(segments); ++s) integer(segments, 1 + count(segments) + s);

@@ -36,9 +36,13 @@ int describe(const std::vector<app::Diagnostic>& all, const std::string& file, s
              polyprops_diagnostic* diagnostic)
 {
     if (index >= all.size()) return POLYPROPS_NOT_FOUND;
-    const auto& [source, text, severity] = all[index];
-    *diagnostic = {static_cast<int>(severity), file.c_str(), source.line, source.column,
-                   source.key.c_str(),         text.c_str()};
+    const auto& [source, text, severity, own_file] = all[index];
+    *diagnostic = {static_cast<int>(severity),
+                   own_file.empty() ? file.c_str() : own_file.c_str(),
+                   source.line,
+                   source.column,
+                   source.key.c_str(),
+                   text.c_str()};
     return POLYPROPS_OK;
 }
 
@@ -52,7 +56,7 @@ polyprops_case* make_case(const char* name, const char* text, std::size_t size)
     return new polyprops_case{app::CaseHandle{app::CaseDocument{{text, size}, text_or_empty(name)}}};
 }
 
-const polyprops_diagnostic no_memory{POLYPROPS_ERROR, "", 1, 1, "", "there is not enough memory"};
+const polyprops_diagnostic no_memory{POLYPROPS_ERROR, "", 0, 0, "", "there is not enough memory"};
 
 }  // namespace
 
@@ -74,8 +78,8 @@ polyprops_case* polyprops_case_from_file(const char* path)
         try {
             const auto text = app::file_contents(name);
             return make_case(path, text.data(), text.size());
-        } catch (const std::runtime_error& error) {
-            return new polyprops_case{app::CaseHandle{name, error.what()}};
+        } catch (const app::FileError& error) {
+            return new polyprops_case{app::CaseHandle{name, error.why()}};
         }
     };
     return attempt(read, static_cast<polyprops_case*>(nullptr));
@@ -89,7 +93,7 @@ void polyprops_case_free(polyprops_case* handle)
 int polyprops_case_status(const polyprops_case* handle)
 {
     if (!handle) return POLYPROPS_OUT_OF_MEMORY;
-    return handle->object.diagnostics().empty() ? POLYPROPS_OK : POLYPROPS_CASE_ERROR;
+    return handle->object.errors().empty() ? POLYPROPS_OK : POLYPROPS_CASE_ERROR;
 }
 
 size_t polyprops_case_diagnostic_count(const polyprops_case* handle)
@@ -113,16 +117,13 @@ const char* polyprops_case_key(const polyprops_case* handle, size_t index)
     return index < polyprops_case_key_count(handle) ? handle->object.keys()[index].c_str() : nullptr;
 }
 
-int polyprops_case_get(const polyprops_case* handle, const char* key, double* value)
+int polyprops_case_get(polyprops_case* handle, const char* key, double* value)
 {
     if (!handle) return POLYPROPS_OUT_OF_MEMORY;
     const auto read = [&] {
-        try {
-            *value = handle->object.number(text_or_empty(key));
-            return POLYPROPS_OK;
-        } catch (const std::invalid_argument&) {
-            return POLYPROPS_NOT_FOUND;
-        }
+        const auto found = handle->object.number(text_or_empty(key));
+        if (found) *value = *found;
+        return found ? POLYPROPS_OK : POLYPROPS_NOT_FOUND;
     };
     return attempt(read, POLYPROPS_OUT_OF_MEMORY);
 }
@@ -131,12 +132,7 @@ int polyprops_case_set(polyprops_case* handle, const char* key, double value)
 {
     if (!handle) return POLYPROPS_OUT_OF_MEMORY;
     const auto change = [&] {
-        try {
-            handle->object.set_number(text_or_empty(key), value);
-            return POLYPROPS_OK;
-        } catch (const std::invalid_argument&) {
-            return POLYPROPS_NOT_FOUND;
-        }
+        return handle->object.set_number(text_or_empty(key), value) ? POLYPROPS_OK : POLYPROPS_NOT_FOUND;
     };
     return attempt(change, POLYPROPS_OUT_OF_MEMORY);
 }

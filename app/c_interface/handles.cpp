@@ -7,6 +7,7 @@
 #include <new>
 
 #include "app/evaluation/evaluation.h"
+#include "app/io/file_contents.h"
 #include "app/report/format.h"
 #include "app/report/output_files.h"
 
@@ -15,15 +16,40 @@ namespace app {
 void CaseHandle::check()
 {
     Diagnostics found;
-    auto input = failure_.empty() ? document_.read(found) : Case{};
-    if (!failure_.empty()) found.add({}, failure_);
-    auto sorted = found.sorted();
+    auto input = unreadable_.empty() ? document_.read(found) : Case{};
+    if (!unreadable_.empty()) found.add(no_position(), unreadable_);
+    auto errors = found.sorted();
+    auto diagnostics = errors;
     input.file = document_.file();
     input_ = std::move(input);
-    diagnostics_ = std::move(sorted);
+    errors_ = std::move(errors);
+    diagnostics_ = std::move(diagnostics);
 }
 
-void CaseHandle::set_number(const std::string& key, double value)
+std::optional<double> CaseHandle::number(const std::string& key)
+{
+    begin_call();
+    try {
+        return document_.number(key);
+    } catch (const std::invalid_argument& error) {
+        fail({no_position(key), error.what()});
+        return {};
+    }
+}
+
+bool CaseHandle::set_number(const std::string& key, double value)
+{
+    begin_call();
+    try {
+        change(key, value);
+        return true;
+    } catch (const std::invalid_argument& error) {
+        fail({no_position(key), error.what()});
+        return false;
+    }
+}
+
+void CaseHandle::change(const std::string& key, double value)
 {
     const double before = document_.number(key);
     document_.set_number(key, value);
@@ -37,29 +63,34 @@ void CaseHandle::set_number(const std::string& key, double value)
 
 bool CaseHandle::compare(const std::string& path, const std::string& distribution)
 {
-    ComparisonRequest request{distribution, {}, {}};
+    begin_call();
     try {
-        request.curve = read_measured_curve(path);
+        if (errors_.empty()) find_distribution(input_, distribution);
+        comparison_ = ComparisonRequest{distribution, read_measured_curve(path)};
+        return true;
+    } catch (const FileError& error) {
+        fail({no_position(), error.why(), Severity::error, path});
     } catch (const std::runtime_error& error) {
-        request.failure = error.what();
+        fail({no_position(), error.what()});
     }
-    comparison_ = std::move(request);
-    return comparison_->failure.empty();
+    return false;
+}
+
+void CaseHandle::end_comparison()
+{
+    begin_call();
+    comparison_.reset();
 }
 
 RunHandle::RunHandle(const CaseHandle& source) : input_(source.input())
 {
     report_.title = input_.title;
     report_.file = source.file();
-    report_.diagnostics = source.diagnostics();
+    report_.diagnostics = source.errors();
     if (!report_.diagnostics.empty()) return;
     EvaluationOptions options;
     if (const auto& comparison = source.comparison()) {
-        if (!comparison->curve) {
-            fail(comparison->failure);
-            return;
-        }
-        options.measured = &*comparison->curve;
+        options.measured = &comparison->curve;
         options.measured_distribution = comparison->distribution;
     }
     try {
@@ -76,12 +107,9 @@ RunHandle::RunHandle(const CaseHandle& source) : input_(source.input())
     index_numbers();
 }
 
-// Without a place in the case.
 void RunHandle::fail(const std::string& why)
 {
-    Diagnostics found;
-    found.add({}, why);
-    report_.diagnostics = found.sorted();
+    report_.diagnostics = {{no_position(), why}};
 }
 
 void RunHandle::index_numbers()

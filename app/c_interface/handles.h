@@ -16,11 +16,10 @@
 
 namespace app {
 
-// A curve that every run is compared with, or the reason why it cannot be read.
+// A curve that every run is compared with.
 struct ComparisonRequest {
     std::string distribution;
-    std::optional<MeasuredCurve> curve;
-    std::string failure;
+    MeasuredCurve curve;
 };
 
 class CaseHandle {
@@ -30,31 +29,40 @@ public:
         check();
     }
     // A case that cannot be read.
-    CaseHandle(std::string file, std::string why) : document_("", std::move(file)), failure_(std::move(why))
+    CaseHandle(std::string file, std::string why)
+        : document_("", std::move(file)), unreadable_(std::move(why))
     {
         check();
     }
 
-    double number(const std::string& key) const { return document_.number(key); }
-    // Changes nothing when it throws.
-    void set_number(const std::string& key, double value);
+    // These change nothing when they throw. A failed look-up or comparison is among the diagnostics until the
+    // next such call.
+    std::optional<double> number(const std::string& key);
+    bool set_number(const std::string& key, double value);
     bool compare(const std::string& path, const std::string& distribution);
-    void end_comparison() { comparison_.reset(); }
+    void end_comparison();
 
     const std::string& file() const { return document_.file(); }
     const std::vector<std::string>& keys() const { return keys_; }
+    const std::vector<Diagnostic>& errors() const { return errors_; }
+    // The errors of the case and the failure of the last call.
     const std::vector<Diagnostic>& diagnostics() const { return diagnostics_; }
     const Case& input() const { return input_; }
     const std::optional<ComparisonRequest>& comparison() const { return comparison_; }
 
 private:
     void check();
+    void change(const std::string& key, double value);
+    // Ends the failure of an earlier call.
+    void begin_call() { diagnostics_.resize(errors_.size()); }
+    void fail(Diagnostic failure) { diagnostics_.push_back(std::move(failure)); }
 
     CaseDocument document_;
-    std::string failure_;
+    std::string unreadable_;
     // Positions in the file order the keys; a replaced number has none.
     std::vector<std::string> keys_;
     Case input_;
+    std::vector<Diagnostic> errors_;
     std::vector<Diagnostic> diagnostics_;
     std::optional<ComparisonRequest> comparison_;
 };

@@ -100,14 +100,14 @@ toml::node* child(toml::node& node, KeyPath& path)
     return table ? table->get(path.take_name()) : nullptr;
 }
 
+// Null when the key leads to no number.
 toml::node* find_number(toml::table& root, const std::string& key, toml::node*& parent)
 {
     KeyPath path{key};
     parent = &root;
     toml::node* node = &root;
     while (node && !path.at_end()) node = child(*(parent = node), path);
-    if (!node || !node->is_number()) refuse(key, "leads to no number of the case");
-    return node;
+    return node && node->is_number() ? node : nullptr;
 }
 
 void collect(const toml::node& node, const std::string& key, std::vector<SourcePosition>& found)
@@ -151,19 +151,26 @@ std::vector<std::string> CaseDocument::keys() const
     return keys;
 }
 
+toml::node& CaseDocument::find(const std::string& key, toml::node*& parent) const
+{
+    if (auto* node = find_number(root_, key, parent)) return *node;
+    const auto known = keys();
+    const auto near = nearest(key, {known.begin(), known.end()});
+    refuse(key, near.empty() ? "leads to no number of the case"
+                             : fmt::format("leads to no number of the case; did you mean \"{}\"?", near));
+}
+
 double CaseDocument::number(const std::string& key) const
 {
     toml::node* parent = nullptr;
-    // The search changes nothing; toml++ has no path through const and mutable nodes alike.
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
-    return *find_number(const_cast<toml::table&>(root_), key, parent)->value<double>();
+    return *find(key, parent).value<double>();
 }
 
 void CaseDocument::set_number(const std::string& key, double value)
 {
     toml::node* parent = nullptr;
-    auto* node = find_number(root_, key, parent);
-    assign(*parent, *node, value);
+    auto& node = find(key, parent);
+    assign(*parent, node, value);
 }
 
 Case CaseDocument::read(Diagnostics& diagnostics) const

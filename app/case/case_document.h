@@ -34,7 +34,7 @@ public:
     // Keys of all numbers, in the order of the file.
     std::vector<std::string> keys() const;
 
-    // Both throw std::invalid_argument for a key that leads to no number of the case.
+    // Both throw std::invalid_argument for a key that leads to no number of the case; the text suggests one.
     double number(const std::string& key) const;
     void set_number(const std::string& key, double value);
 
@@ -42,8 +42,11 @@ public:
     Case read(Diagnostics& diagnostics) const;
 
 private:
+    // The node of a number and the table or array that holds it.
+    toml::node& find(const std::string& key, toml::node*& parent) const;
+
     std::string file_;
-    toml::table root_;
+    mutable toml::table root_;  // its search has one form, for nodes that may be changed
     Diagnostics syntax_errors_;
 };
 

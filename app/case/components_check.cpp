@@ -20,8 +20,8 @@ bool is_plain(std::string_view text)
     return !text.empty() && std::ranges::all_of(text, [](char c) { return c > ' ' && c <= '~' && c != '"'; });
 }
 
-void check_text(std::string_view what, std::string_view text, std::size_t longest, SourcePosition source,
-                Diagnostics& diagnostics)
+void check_text(std::string_view what, std::string_view text, std::size_t longest,
+                const SourcePosition& source, Diagnostics& diagnostics)
 {
     if (text.size() > longest)
         diagnostics.add(source, fmt::format("{} \"{}\" has {} characters; expected at most {}", what, text,

@@ -52,8 +52,10 @@ std::string_view text(Severity severity)
 
 std::string line(const Diagnostic& diagnostic, std::string_view file)
 {
-    const auto& [source, text, severity] = diagnostic;
-    return fmt::format("{}:{}:{}: {}", file, source.line, source.column, text);
+    const auto& [source, text, severity, own_file] = diagnostic;
+    const auto shown = own_file.empty() ? file : std::string_view{own_file};
+    if (source.line == 0) return fmt::format("{}: {}", shown, text);
+    return fmt::format("{}:{}:{}: {}", shown, source.line, source.column, text);
 }
 
 std::vector<Diagnostic> Diagnostics::sorted() const

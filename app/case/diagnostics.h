@@ -10,7 +10,7 @@
 namespace app {
 
 // A position in the text of a case: line and column from 1, and the key found there, such as
-// `streams.FEED.attributes.PS.ZMOM`. Positions are ordered by line and column.
+// `streams.FEED.attributes.PS.ZMOM`. Positions are ordered by line and column. Line 0: no position.
 struct SourcePosition {
     std::uint32_t line = 1;
     std::uint32_t column = 1;
@@ -34,9 +34,15 @@ struct Diagnostic {
     SourcePosition source;
     std::string text;  // a message has several lines
     Severity severity = Severity::error;
+    std::string file = {};  // empty: the file of the case
 };
 
-// "FILE:LINE:COLUMN: TEXT"
+inline SourcePosition no_position(std::string key = {})
+{
+    return {0, 0, std::move(key)};
+}
+
+// "FILE:LINE:COLUMN: TEXT", without position "FILE: TEXT". `file` is that of the case.
 std::string line(const Diagnostic& diagnostic, std::string_view file);
 
 class Diagnostics {

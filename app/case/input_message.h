@@ -15,6 +15,6 @@ struct InputMessage {
 };
 
 // "ROUTINE message NUMBER, severity SEVERITY" and the lines of the message as they are.
-Diagnostic diagnostic(const InputMessage& message);
+Diagnostic diagnostic(const InputMessage& placed);
 
 }  // namespace app

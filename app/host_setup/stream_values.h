@@ -1,4 +1,5 @@
-// Attribute values of streams, checked against the attributes that components carry after the paragraph check.
+// Attribute values of streams, checked against the attributes that components carry after the paragraph
+// check.
 #pragma once
 
 #include <optional>

@@ -13,7 +13,7 @@ namespace app {
 std::string file_contents(const std::filesystem::path& file)
 {
     const auto fail = [&](std::string_view why) {
-        throw std::runtime_error{fmt::format("{}: cannot be read: {}", file.string(), why)};
+        throw FileError{file, fmt::format("cannot be read: {}", why)};
     };
     if (std::filesystem::is_directory(file)) fail("it is a directory");
     errno = 0;

@@ -1,6 +1,6 @@
 // Prints Mw of a blend for 1000 second moments, from that of the case file to 10 % more.
 //
-//   cc -std=c11 sweep_moment.c -lpolyprops-case -o sweep_moment && ./sweep_moment polystyrene-blend.toml
+//   cc -IDIR/include sweep_moment.c -LDIR/lib -Wl,-rpath,DIR/lib -lpolyprops-case -o sweep_moment
 #include <polyprops/case.h>
 #include <stdio.h>
 

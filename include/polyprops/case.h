@@ -1,7 +1,7 @@
 // Cases for C and every language that calls C: reads a case, changes its numbers, runs it, returns results.
 //
-// libpolyprops-case contains the application, an embedded host and the 70 routines: nothing else has to be
-// loaded, and no process simulator is needed.
+// libpolyprops-case contains the application, an embedded host and the 70 routines: no process simulator is
+// needed.
 //
 //   polyprops_case* blend = polyprops_case_from_file("blend.toml");
 //   polyprops_case_set(blend, "streams.BLEND.attributes.PS.ZMOM", 0.15);
@@ -11,16 +11,17 @@
 //   polyprops_run_free(run);
 //   polyprops_case_free(blend);
 //
-// Failures. Nothing here prints, exits or throws. A function that makes a handle returns NULL only when
-// memory runs out; every other failure is kept in the handle: its status, and its diagnostics with file,
-// line, column, key and text. All functions accept a NULL handle and then report POLYPROPS_OUT_OF_MEMORY, so
-// that one check at the end is enough.
+// Failures. Nothing here prints, exits or throws. Functions that make a handle return NULL only when out of
+// memory; errors of the input are stored in the handle: its status, and its diagnostics with file, line,
+// column, key and text. Functions that return a status return POLYPROPS_OUT_OF_MEMORY for a NULL handle, so
+// one check at the end is enough.
 //
-// Pointers. Texts and arrays belong to the handle that returned them. They stay valid until that handle is
+// Pointers. Strings and arrays belong to the handle that returned them. They stay valid until that handle is
 // freed, except where a comment says otherwise.
 //
 // Threads. Different handles may be used by different threads at the same time; one handle by one thread at a
-// time. Runs of one process take turns, since there is one embedded host.
+// time. Runs within a process are serialized: there is one
+// embedded host.
 //
 // Units are those of the case file: kmol/h, kg/h, g/mol, K.
 #pragma once
@@ -38,7 +39,7 @@ extern "C" {
 // Names and types are those of C.
 // NOLINTBEGIN(modernize-use-using, readability-identifier-naming)
 
-// A case: its text, parsed, with its numbers.
+// A parsed case file and its numbers.
 typedef struct polyprops_case polyprops_case;
 
 // The results of one run. A run is independent of the case that it came from, which may be changed or freed.
@@ -46,7 +47,7 @@ typedef struct polyprops_run polyprops_run;
 
 enum polyprops_status {
     POLYPROPS_OK = 0,
-    POLYPROPS_CASE_ERROR = 1,  // the diagnostics say what is wrong; results may still be there
+    POLYPROPS_CASE_ERROR = 1,  // see the diagnostics; a run may still have results
     POLYPROPS_NOT_FOUND = 2,   // no such key or entry
     POLYPROPS_OUT_OF_MEMORY = 3
 };
@@ -59,11 +60,11 @@ enum polyprops_severity {
 
 typedef struct polyprops_diagnostic {
     int severity;      // a polyprops_severity
-    const char* file;  // name of the case
-    uint32_t line;     // from 1
-    uint32_t column;   // from 1
+    const char* file;  // name of the case, or of a measured curve that cannot be read
+    uint32_t line;     // from 1; 0 without a position
+    uint32_t column;   // from 1; 0 without a position
     const char* key;   // such as "streams.FEED.attributes.PS.ZMOM"; "" for the case as a whole
-    const char* text;  // messages have several lines, separated by '\n'
+    const char* text;  // may contain several lines, separated by '\n'
 } polyprops_diagnostic;
 
 // The version of the library, such as "0.1.0".
@@ -80,26 +81,28 @@ polyprops_case* polyprops_case_from_file(const char* path);
 // Frees a case and all that it returned. NULL is allowed.
 void polyprops_case_free(polyprops_case* handle);
 
-// POLYPROPS_OK while the case as it is now has no error.
+// POLYPROPS_OK if the case currently has no errors.
 int polyprops_case_status(const polyprops_case* handle);
 
-// Errors of the case as it is now, in the order of the file. An entry is valid until the case is changed.
+// Current errors of the case, in the order of the file, then the failure of the last get, set or compare: a
+// key that was not found, with a suggestion, or a curve that cannot be read. An entry is valid until the next
+// call of one of these three.
 size_t polyprops_case_diagnostic_count(const polyprops_case* handle);
 int polyprops_case_diagnostic(const polyprops_case* handle, size_t index, polyprops_diagnostic* diagnostic);
 
-// Keys of all numbers of the case, in the order of the file, as messages and sweeps write them; NULL beyond
-// the last.
+// Keys of all numbers in the file, in file order, as used in messages and sweeps. NULL past the last.
 size_t polyprops_case_key_count(const polyprops_case* handle);
 const char* polyprops_case_key(const polyprops_case* handle, size_t index);
 
-// Reads or replaces a number of the case. POLYPROPS_NOT_FOUND: the key leads to no number. Only POLYPROPS_OK
-// changes anything.
-int polyprops_case_get(const polyprops_case* handle, const char* key, double* value);
+// Reads or replaces a number of the case; elements of arrays too (`SFLOW[1]`). POLYPROPS_NOT_FOUND: no number
+// in the file has this key; nothing changes. Any value can be set: one that is out of range makes
+// polyprops_case_status return POLYPROPS_CASE_ERROR until a valid one is set, and the diagnostics name it.
+int polyprops_case_get(polyprops_case* handle, const char* key, double* value);
 int polyprops_case_set(polyprops_case* handle, const char* key, double value);
 
 // Compares the composite of a distribution with a measured curve in every later run: `distribution` is its
-// name, NULL or "" for the only one. A `path` of NULL ends the comparison. POLYPROPS_CASE_ERROR: the curve
-// cannot be read, and the diagnostics of later runs say why.
+// name, NULL or "" for the only one. A NULL `path` removes the comparison. POLYPROPS_CASE_ERROR: the curve
+// cannot be read or the case has no such distribution; an earlier comparison is kept.
 int polyprops_case_compare(polyprops_case* handle, const char* path, const char* distribution);
 
 // ---- runs ----
@@ -110,15 +113,16 @@ polyprops_run* polyprops_case_run(const polyprops_case* handle);
 // Frees a run and all that it returned. NULL is allowed.
 void polyprops_run_free(polyprops_run* handle);
 
-// POLYPROPS_OK without errors and messages.
+// POLYPROPS_OK if there are no errors and no messages; warnings do not count.
 int polyprops_run_status(const polyprops_run* handle);
 
-// Errors and messages, then warnings.
+// Errors and messages, then warnings. An entry is valid until the run is freed.
 size_t polyprops_run_diagnostic_count(const polyprops_run* handle);
 int polyprops_run_diagnostic(const polyprops_run* handle, size_t index, polyprops_diagnostic* diagnostic);
 
-// Single numbers by key, such as "streams.BLEND.chain_averages.PS.mw": section, name, table, what tells the
-// rows apart, quantity, as in the heading of a sweep's table. POLYPROPS_NOT_FOUND leaves `value` untouched.
+// Single numbers by key, such as "streams.BLEND.chain_averages.PS.mw": section, name, table, row, quantity,
+// as in the header of a sweep's CSV; polyprops_run_number_key lists them all. POLYPROPS_NOT_FOUND leaves
+// `value` untouched.
 int polyprops_run_number(const polyprops_run* handle, const char* key, double* value);
 size_t polyprops_run_number_count(const polyprops_run* handle);
 const char* polyprops_run_number_key(const polyprops_run* handle, size_t index);
@@ -128,7 +132,7 @@ const char* polyprops_run_number_key(const polyprops_run* handle, size_t index);
 //   distributions.NAME.distribution_curves.chain_length          grid points, segments
 //                                         .molecular_weight      g/mol, when the segment weight is known
 //                                         .cumulative            mass fraction up to each grid point
-//                                         .composite, .CURVE     the curves by their names
+//                                         .composite, .site NAME the curves by their names
 //   distributions.NAME.gpc_curve.molecular_weight, .chain_length, .measured, .calculated, .overlay
 //   parameters.NAME.binary_parameters.T                          component × component at T K
 //   parameters.NAME.binary_parameter_slopes.T                    T·dK/dT
@@ -143,7 +147,8 @@ size_t polyprops_run_array_count(const polyprops_run* handle);
 const char* polyprops_run_array_key(const polyprops_run* handle, size_t index);
 
 // The results as a text, as the program prints or writes it. The report file holds pages with the text form
-// and the library's own report; the summary file is empty without results.
+// and the library's own report; the summary file is empty if the run has no
+// results.
 enum polyprops_format {
     POLYPROPS_JSON = 0,
     POLYPROPS_TEXT = 1,
@@ -153,7 +158,8 @@ enum polyprops_format {
     POLYPROPS_SUMMARY_FILE = 5
 };
 
-// Made at the first call for each format; NULL for an unknown format and without memory. `size` may be NULL.
+// Created at the first call for each format. NULL for an unknown format or when out of memory. `size` may be
+// NULL.
 const char* polyprops_run_text(polyprops_run* handle, int format, size_t* size);
 
 // polyprops_run_text for POLYPROPS_JSON.

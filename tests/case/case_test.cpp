@@ -99,7 +99,11 @@ TEST(Case, LeavesEverythingAsItIsForAKeyWithoutNumber)
         EXPECT_EQ(polyprops_case_get(input.get(), key, &value), POLYPROPS_NOT_FOUND) << key;
         EXPECT_EQ(value, 0.0625);
         EXPECT_EQ(set(input, key, 7), POLYPROPS_NOT_FOUND) << key;
+        const auto failure = diagnostics(input);
+        ASSERT_EQ(failure.size(), 1u);
+        EXPECT_EQ(failure[0].find("c.toml:0:0 [" + std::string{key} + "] 0 the key \""), 0u) << failure[0];
     }
+    EXPECT_EQ(polyprops_case_status(input.get()), POLYPROPS_OK);
     EXPECT_EQ(polyprops_case_get(input.get(), nullptr, nullptr), POLYPROPS_NOT_FOUND);
     EXPECT_EQ(polyprops_case_set(input.get(), nullptr, 1), POLYPROPS_NOT_FOUND);
     EXPECT_EQ(text(run(input), POLYPROPS_CSV), text(run(from_text(blend)), POLYPROPS_CSV));
@@ -157,10 +161,9 @@ TEST(Case, KeepsTheReasonWhyItCannotBeRead)
         {from_text("", nullptr), ":1:1 [components] 0 components is missing; expected "},
         {CasePointer{polyprops_case_from_text(nullptr, 5, "n")},
          "n:1:1 [components] 0 components is missing; expected "},
-        {from_file(folder), folder + ":1:1 [] 0 " + folder + ": cannot be read: it is a directory"},
-        {from_file("absent.toml"),
-         "absent.toml:1:1 [] 0 absent.toml: cannot be read: No such file or directory"},
-        {CasePointer{polyprops_case_from_file(nullptr)}, ":1:1 [] 0 : cannot be read: "},
+        {from_file(folder), folder + ":0:0 [] 0 cannot be read: it is a directory"},
+        {from_file("absent.toml"), "absent.toml:0:0 [] 0 cannot be read: No such file or directory"},
+        {CasePointer{polyprops_case_from_file(nullptr)}, ":0:0 [] 0 cannot be read: "},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.line);

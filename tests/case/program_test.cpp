@@ -95,7 +95,7 @@ TEST(Program, ExampleInCSweepsTheSecondMoment)
     EXPECT_NEAR(mw.front(), 140000 / 3.0, 1e-4);
     EXPECT_NEAR(mw.back(), 1.1 * 140000 / 3, 1e-4);
     EXPECT_EQ(output(program + " absent.toml 2>&1"),
-              "absent.toml:1: absent.toml: cannot be read: No such file or directory\n");
+              "absent.toml:0: cannot be read: No such file or directory\n");
 }
 
 }  // namespace

@@ -149,13 +149,17 @@ TEST_F(SweepFiles, RefusesTheRowsOfAnotherSweepAndKeysThatLeadNowhere)
     options.sets = {"streams.S.attributes.P.ZMOM=1:4:4"};
     EXPECT_NE(sweep().errors.find("s.csv.partial: belongs to another sweep"), std::string::npos);
     EXPECT_EQ(app::file_contents(partial), "# sweep of something else\n1,2\n");
-    for (const auto* key :
-         {"streams.S.flows.Q", "streams.S.attributes.P.SFLOW[2]", "components.P.class", "title"}) {
-        options.sets = {std::string{key} + "=1:4:4"};
+    const std::pair<std::string, std::string> rows[] = {
+        {"streams.S.flows.Q", "; did you mean \"streams.S.flows.P\"?"},
+        {"streams.S.attributes.P.SFLOW[2]", "; did you mean \"streams.S.attributes.P.SFLOW[1]\"?"},
+        {"title", ""},
+    };
+    for (const auto& [key, suggestion] : rows) {
+        options.sets = {key + "=1:4:4"};
         const auto seen = sweep();
         EXPECT_EQ(seen.status, cli::exit_usage);
         EXPECT_EQ(seen.errors,
-                  "polyprops: the key \"" + std::string{key} + "\" leads to no number of the case\n");
+                  "polyprops: the key \"" + key + "\" leads to no number of the case" + suggestion + "\n");
     }
 }
 
