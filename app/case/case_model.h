@@ -99,10 +99,43 @@ struct ComponentValue {
 };
 using Flow = ComponentValue;  // kmol/h, apparent basis
 
+// Mole or mass fractions of the segments in chains.
+struct SegmentFractions {
+    SourcePosition source;
+    bool by_mass = false;
+    std::vector<ComponentValue> values;
+};
+
+// Chains by their amount, composition and averages.
+struct ChainFraction {
+    SourcePosition source;
+    std::optional<double> mass;   // kg/h
+    std::optional<double> moles;  // kmol/h of chains
+    std::optional<SegmentFractions> segments;
+    std::optional<double> mn, mw, mz;  // g/mol
+    std::optional<double> dispersity;
+    std::optional<double> dpn;
+};
+
+struct PolymerChains {
+    PlacedName polymer;
+    std::vector<ChainFraction> fractions;
+};
+
+// Other streams, each with a factor on its flows.
+struct Mix {
+    SourcePosition source;
+    std::vector<ComponentValue> parts;  // stream names and factors
+};
+
+// The last three are other ways to give flows and attributes: `apply_natural_inputs` adds what they say.
 struct Stream {
     PlacedName name;
     std::vector<Flow> flows;
     std::vector<AttributeValue> attributes;
+    std::vector<ComponentValue> mass_flows;  // kg/h
+    std::vector<PolymerChains> chains;
+    std::optional<Mix> mix;
 };
 
 enum class Averaging { number, mass, weight_factors };
@@ -117,10 +150,10 @@ struct Property {
     std::vector<ComponentValue> own_values;      // of polymers and oligomers, preferred to the average
 };
 
-// The polymer that the outlet stream holds beyond the inlet stream is of interest.
+// The polymer that the outlet stream holds beyond the inlet streams is of interest.
 struct Reactor {
     PlacedName name;
-    PlacedName inlet;
+    std::vector<PlacedName> inlets;
     PlacedName outlet;
 };
 
@@ -144,6 +177,7 @@ struct Case {
     std::vector<Reactor> reactors;
     std::vector<Distribution> distributions;
     std::vector<ParameterSet> parameter_sets;
+    std::vector<Diagnostic> warnings;  // of the reader; evaluation adds its own
 
     const Component* find(std::string_view id) const;
     std::vector<std::string_view> ids() const;

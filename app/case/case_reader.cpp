@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include "app/case/natural_inputs.h"
+
 namespace app {
 
 namespace {
@@ -131,6 +133,7 @@ Case read_case(const toml::table& root, const std::string& file, Diagnostics& di
     check_reactors(input, diagnostics);
     check_distributions(input, diagnostics);
     check_parameter_sets(input, diagnostics);
+    if (diagnostics.empty()) apply_natural_inputs(input, diagnostics);
     return input;
 }
 

@@ -66,16 +66,31 @@ void check_property(const Property& property, const Case& input, Diagnostics& di
               diagnostics);
 }
 
-void check_stream(const PlacedName& stream, const Reactor& reactor, std::string_view key, const Case& input,
-                  Diagnostics& diagnostics)
+void check_stream(const PlacedName& stream, const Case& input, Diagnostics& diagnostics)
 {
     Names known;
     for (const auto& candidate : input.streams) known.push_back(candidate.name.id);
-    // An empty reference: what is wrong with it has been said.
+    // An empty reference: its error has been reported.
     if (stream.id.empty() || std::ranges::find(known, stream.id) != known.end()) return;
-    diagnostics.add(stream.source,
-                    fmt::format("reactors.{}.{} names \"{}\", which is not a stream{}", reactor.name.id, key,
-                                stream.id, suggestion(stream.id, known)));
+    diagnostics.add(stream.source, fmt::format("{} names \"{}\", which is not a stream{}", stream.source.key,
+                                               stream.id, suggestion(stream.id, known)));
+}
+
+void check_inlets(const Reactor& reactor, const Case& input, Diagnostics& diagnostics)
+{
+    Names earlier;
+    for (const auto& [id, source] : reactor.inlets) {
+        check_stream({id, source}, input, diagnostics);
+        if (id.empty()) continue;
+        if (std::ranges::find(earlier, id) != earlier.end())
+            diagnostics.add(source,
+                            fmt::format("reactors.{}.inlets names \"{}\" twice", reactor.name.id, id));
+        earlier.emplace_back(id);
+        if (id == reactor.outlet.id)
+            diagnostics.add(reactor.outlet.source,
+                            fmt::format("reactors.{}: inlet and outlet are both \"{}\"; expected two streams",
+                                        reactor.name.id, id));
+    }
 }
 
 }  // namespace
@@ -88,12 +103,8 @@ void check_properties(const Case& input, Diagnostics& diagnostics)
 void check_reactors(const Case& input, Diagnostics& diagnostics)
 {
     for (const auto& reactor : input.reactors) {
-        check_stream(reactor.inlet, reactor, "inlet", input, diagnostics);
-        check_stream(reactor.outlet, reactor, "outlet", input, diagnostics);
-        if (!reactor.inlet.id.empty() && reactor.inlet.id == reactor.outlet.id)
-            diagnostics.add(reactor.outlet.source,
-                            fmt::format("reactors.{}: inlet and outlet are both \"{}\"; expected two streams",
-                                        reactor.name.id, reactor.outlet.id));
+        check_inlets(reactor, input, diagnostics);
+        check_stream(reactor.outlet, input, diagnostics);
     }
 }
 

@@ -39,15 +39,35 @@ Property read_property(const Entry& entry, TableReader table)
 }
 
 // Empty: a diagnostic told what was expected.
+PlacedName read_stream_name(const Entry& entry, Diagnostics& diagnostics)
+{
+    const auto name = read_text(entry, diagnostics);
+    if (!name) return {};
+    if (name->empty()) diagnostics.add(entry.source, entry.path + " is \"\"; expected the name of a stream");
+    return {*name, entry.source};
+}
+
 PlacedName read_stream_name(TableReader& table, std::string_view key)
 {
     table.missing(key, "the name of a stream");
-    const auto name = table.text(key);
-    if (!name) return {};
-    const auto entry = *table.entry(key);
-    if (name->empty())
-        table.diagnostics().add(entry.source, entry.path + " is \"\"; expected the name of a stream");
-    return {*name, entry.source};
+    const auto entry = table.entry(key);
+    return entry ? read_stream_name(*entry, table.diagnostics()) : PlacedName{};
+}
+
+std::vector<PlacedName> read_inlets(TableReader& table)
+{
+    const auto list = table.entry("inlets");
+    if (!list) return {read_stream_name(table, "inlet")};
+    auto& diagnostics = table.diagnostics();
+    if (const auto one = table.entry("inlet"))
+        diagnostics.add(list->source,
+                        list->path + " and " + one->path + " are both given; expected one of the two");
+    std::vector<PlacedName> inlets;
+    for (const auto& element : read_array(*list, diagnostics))
+        inlets.push_back(read_stream_name(element, diagnostics));
+    if (list->node->is_array() && list->node->as_array()->empty())
+        diagnostics.add(list->source, list->path + " is empty; expected the name of at least one stream");
+    return inlets;
 }
 
 }  // namespace
@@ -67,10 +87,10 @@ std::vector<Reactor> read_reactors(TableReader table)
     for (const auto& entry : table.entries()) {
         auto reactor = read_table(entry, table.diagnostics());
         if (!reactor) continue;
-        auto inlet = read_stream_name(*reactor, "inlet");
+        auto inlets = read_inlets(*reactor);
         auto outlet = read_stream_name(*reactor, "outlet");
         reactor->finish();
-        reactors.push_back({{entry.key, entry.source}, std::move(inlet), std::move(outlet)});
+        reactors.push_back({{entry.key, entry.source}, std::move(inlets), std::move(outlet)});
     }
     return reactors;
 }

@@ -80,6 +80,7 @@ void add_warnings(const Case& input, Host& host, Results& results)
 Results evaluate(const Case& input, const EvaluationOptions& options)
 {
     Results results;
+    results.warnings = input.warnings;
     LoadedCase loaded{input};
     if (!prepare(input, loaded, results)) return results;
     auto& host = loaded.host();

@@ -21,10 +21,14 @@ bool carries_site_attributes(Int component, Host& host)
 
 ReactorResults evaluate(const Reactor& reactor, std::size_t sites, Host& host)
 {
-    const auto made =
-        routines::polymer_made(host.streams().view(reactor.inlet.id), host.streams().view(reactor.outlet.id),
-                               molecular_weights(host), sites);
-    ReactorResults results{reactor.name.id, reactor.inlet.id, reactor.outlet.id, {}};
+    ReactorResults results{reactor.name.id, {}, reactor.outlet.id, {}};
+    std::vector<minihost::StreamView> inlets;
+    for (const auto& inlet : reactor.inlets) {
+        results.inlets.push_back(inlet.id);
+        inlets.push_back(host.streams().view(inlet.id));
+    }
+    const auto made = routines::polymer_made(inlets, host.streams().view(reactor.outlet.id),
+                                             molecular_weights(host), sites);
     for (std::size_t t = 0; t <= sites; ++t)
         results.made.push_back({t < sites ? std::to_string(t + 1) : "total", made.mass[t],
                                 made.mean_segment_weight[t], made.mn[t], made.mw[t], made.dpn[t], made.dpw[t],

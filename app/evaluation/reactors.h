@@ -23,7 +23,7 @@ struct SitePolymer {
 
 struct ReactorResults {
     std::string reactor;
-    std::string inlet;
+    std::vector<std::string> inlets;
     std::string outlet;
     std::vector<SitePolymer> made;
 };

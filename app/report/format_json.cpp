@@ -55,6 +55,10 @@ JsonValue section_object(const Section& section)
     JsonValue object;
     object.set("name", section.name);
     for (const auto& [key, text] : section.facts) object.set(key, text);
+    for (const auto& [key, names] : section.lists) {
+        auto& list = object[key] = JsonValue::array();
+        for (const auto& name : names) list.push_back(JsonValue::scalar(name));
+    }
     add_tables(section.tables, object);
     return object;
 }

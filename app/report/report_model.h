@@ -40,6 +40,7 @@ struct Section {
     std::string heading;                                     // as text shows it
     std::vector<std::pair<std::string, std::string>> facts;  // further keys and texts
     std::vector<Table> tables;
+    std::vector<std::pair<std::string, std::vector<std::string>>> lists = {};  // further keys and names
 };
 
 struct Report {

@@ -1,6 +1,7 @@
 #include "app/report/stream_tables.h"
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include "app/report/columns.h"
 
@@ -178,11 +179,13 @@ Section conversion_section(const std::string& stream, const Compositions& compos
 
 Section reactor_section(const ReactorResults& results)
 {
+    const auto inlet = fmt::format("{}", fmt::join(results.inlets, " + "));
     return {"reactor",
             results.reactor,
-            fmt::format("Reactor {}, from {} to {}", results.reactor, results.inlet, results.outlet),
-            {{"inlet", results.inlet}, {"outlet", results.outlet}},
-            {polymer_made_table(results.made)}};
+            fmt::format("Reactor {}, from {} to {}", results.reactor, inlet, results.outlet),
+            {{"inlet", inlet}, {"outlet", results.outlet}},
+            {polymer_made_table(results.made)},
+            {{"inlets", results.inlets}}};
 }
 
 }  // namespace app

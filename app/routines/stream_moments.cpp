@@ -34,10 +34,14 @@ StreamMoments stream_moments(const minihost::StreamView& stream, const Reals& mo
     return moments;
 }
 
-PolymerMade polymer_made(const minihost::StreamView& inlet, const minihost::StreamView& outlet,
+// Vectors are added as a whole: of their words the routine reads only flows, moments and segment flows.
+PolymerMade polymer_made(const std::vector<minihost::StreamView>& inlets, const minihost::StreamView& outlet,
                          const Reals& molecular_weights, std::size_t sites)
 {
-    return beyond(inlet.values, outlet, molecular_weights, sites);
+    Reals sum(static_cast<std::size_t>(outlet.length));
+    for (const auto& inlet : inlets)
+        for (std::size_t i = 0; i < sum.size(); ++i) sum[i] += inlet.values[i];
+    return beyond(sum.data(), outlet, molecular_weights, sites);
 }
 
 PolymerMade polymer_held(const minihost::StreamView& stream, const Reals& molecular_weights,

@@ -27,8 +27,8 @@ struct PolymerMade {
     std::size_t sites() const { return mass.size() - 1; }
 };
 
-// The polymer that the outlet holds beyond the inlet.
-PolymerMade polymer_made(const minihost::StreamView& inlet, const minihost::StreamView& outlet,
+// The polymer that the outlet holds beyond all inlets.
+PolymerMade polymer_made(const std::vector<minihost::StreamView>& inlets, const minihost::StreamView& outlet,
                          const Reals& molecular_weights, std::size_t sites);
 
 // The polymer of a stream: beyond an empty one.

@@ -10,8 +10,8 @@ TEST(Examples, CloseOnEveryBasisAndAgreeOnFractionsAndChainWeights)
     const auto expect_near = [](const Json& seen, double expected) {
         EXPECT_NEAR(seen.get<double>(), expected, 1e-13);
     };
-    for (const char* example :
-         {"polystyrene-blend.toml", "styrene-butadiene.toml", "nylon6-oligomers.toml", "slurry-hdpe.toml"}) {
+    for (const char* example : {"polystyrene-blend.toml", "styrene-butadiene.toml", "nylon6-oligomers.toml",
+                                "slurry-hdpe.toml", "molecular-weights.toml"}) {
         const auto report = run_json(example);
         for (const auto& stream : report["streams"]) {
             SCOPED_TRACE(std::string{example} + " " + stream["name"].get<std::string>());
@@ -78,6 +78,25 @@ TEST(Examples, GiveTheNumbersThatTheirCommentsDerive)
         {"slurry-hdpe", "reactors.SECOND.polymer_made.total.mass_flow", 5700.5728},
         {"slurry-hdpe", "reactors.SECOND.polymer_made.total.dpn", 80000.0 / 11},
         {"slurry-hdpe", "streams.SLURRY-2.chain_averages.HDPE.pdi", 9.31624375},
+        {"molecular-weights", "streams.BY-NUMBER.chain_averages.PS.mn", 140000.0 / 3},
+        {"molecular-weights", "streams.BY-NUMBER.chain_averages.PS.mw", 110e8 / 140000},
+        {"molecular-weights", "streams.BY-NUMBER.chain_averages.PS.pdi", 330.0 / 196},
+        {"molecular-weights", "streams.BY-MASS.chain_averages.PS.mn", 9000 / 0.43},
+        {"molecular-weights", "streams.BY-MASS.chain_averages.PS.mw", 140000.0 / 3},
+        {"molecular-weights", "streams.FIRST-LAST.chain_averages.PS.mn", 1000 / 0.02305},
+        {"molecular-weights", "streams.FIRST-LAST.chain_averages.PS.mw", 86950},
+        {"molecular-weights", "streams.FIRST-LAST.chain_averages.PS.pdi", 86.95 * 0.02305},
+        {"molecular-weights", "streams.CUTS.chain_averages.PS.mn", 47 / 0.0011505},
+        {"molecular-weights", "streams.CUTS.chain_averages.PS.mw", 8628e3 / 47},
+        {"molecular-weights", "streams.BLEND.chain_averages.PS.mn", 9000 / 0.43},
+        {"molecular-weights", "streams.BLEND.chain_averages.PS.mw", 140000.0 / 3},
+        {"molecular-weights", "streams.BLEND.apparent_composition.STYRENE.mass_flow", 1000},
+        {"molecular-weights", "streams.EVA.segment_fractions.EVA.VA-R.mole_fraction", 0.0460408586},
+        {"molecular-weights", "streams.EVA.chain_averages.EVA.mn", 39870},
+        {"molecular-weights", "streams.EVA.chain_averages.EVA.dpn", 1297.596974},
+        {"molecular-weights", "streams.EVA-ROUNDED.chain_averages.EVA.mean_segment_weight", 30.723656},
+        {"molecular-weights", "reactors.MIXER.polymer_made.total.mass_flow", 1000},
+        {"molecular-weights", "reactors.MIXER.polymer_made.total.mn", 100000},
         {"interaction-parameters", "parameters.CHI.binary_parameters.400.PS.PMMA", 0.03775},
         {"interaction-parameters", "parameters.CHI.binary_parameters.400.PI.PS", 0.0928},
         {"interaction-parameters", "parameters.CHI.binary_parameters.400.PI.PI", 0},

@@ -80,6 +80,7 @@ TEST(Reactors, GiveTheWholePolymerWithoutMomentsBySite)
     const File file{with(text, "ZMOM = 0.01,", "ZMOM = 0.01, SMOM = 3200,")};
     const auto reactor = run_json(file.path)["reactors"][0];
     EXPECT_EQ(reactor["inlet"], "T");
+    EXPECT_EQ(reactor["inlets"], Json::array({"T"}));
     EXPECT_EQ(reactor["outlet"], "S");
     // Z = 0.01, F = 4, S = 3200, and the flow of 1 kmol/h weighs 350 kg/h.
     EXPECT_EQ(reactor["polymer_made"], Json::array({{{"site", "total"},

@@ -1,0 +1,281 @@
+// Moments of chains.
+//
+//   m0 = Σ f M                      f mole fraction, M molecular weight of a segment    [g/mol]
+//   m0 = 1 / Σ (w / M)              w mass fraction
+//   F  = W / m0, Z = W / Mn         W mass flow: segments and chains                    [kmol/h]
+//   S  = (Mw / m0) F, T = (Mz / m0) S
+//
+// Fractions of a polymer add their moments.
+#include "app/case/chain_moments.h"
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace app {
+
+namespace {
+
+constexpr double fraction_sum_tolerance = 1e-6;
+constexpr double agreement = 1e-3;  // of averages that are given twice: published values are rounded
+constexpr double rounding = 1e-9;   // relative, of averages that were converted
+
+using Number = std::optional<double>;
+
+struct Averages {
+    double mn = 0, mw = 0;  // g/mol
+    Number mz;
+};
+
+// One fraction of a polymer.
+class FractionReader {
+public:
+    FractionReader(const ChainFraction& fraction, const Segments& segments, Diagnostics& diagnostics)
+        : fraction_(fraction), segments_(segments), diagnostics_(diagnostics)
+    {
+    }
+
+    std::optional<ChainMoments> moments()
+    {
+        const auto shares = mole_fractions();
+        if (shares.empty()) return {};
+        double m0 = 0;
+        for (std::size_t s = 0; s < shares.size(); ++s) m0 += shares[s] * weight(s);
+        const auto averages = read_averages(m0);
+        if (!averages) return {};
+        return moments(*averages, shares, m0);
+    }
+
+private:
+    double weight(std::size_t s) const { return segments_[s]->molecular_weight.value_or(0); }
+
+    std::nullopt_t refuse(const SourcePosition& source, const std::string& why)
+    {
+        diagnostics_.add(source, why);
+        return std::nullopt;
+    }
+    std::nullopt_t refuse(const std::string& why)
+    {
+        return refuse(fraction_.source, fraction_.source.key + why);
+    }
+
+    // By segment; empty when they are unusable.
+    std::vector<double> mole_fractions()
+    {
+        auto shares = given_fractions();
+        if (shares.empty() || !fraction_.segments || !fraction_.segments->by_mass) return shares;
+        double moles = 0;
+        for (std::size_t s = 0; s < shares.size(); ++s) moles += shares[s] / weight(s);
+        for (std::size_t s = 0; s < shares.size(); ++s) shares[s] = shares[s] / weight(s) / moles;
+        return shares;
+    }
+
+    std::vector<double> given_fractions()
+    {
+        if (!fraction_.segments && segments_.size() == 1) return {1.0};
+        std::vector<double> shares(segments_.size());
+        double sum = 0;
+        if (!fraction_.segments) {
+            refuse(fmt::format(" has no mole_fractions or mass_fractions; expected those of {}", ids()));
+            return {};
+        }
+        const auto& [source, by_mass, values] = *fraction_.segments;
+        for (const auto& [segment, value] : values) {
+            sum += value;
+            for (std::size_t s = 0; s < shares.size(); ++s)
+                if (segments_[s]->id == segment.id) shares[s] = value;
+        }
+        if (std::abs(sum - 1) <= fraction_sum_tolerance) return shares;
+        refuse(source, fmt::format("{} add up to {:.9g}; expected 1 within 1e-6", source.key, sum));
+        return {};
+    }
+
+    std::string ids() const
+    {
+        std::vector<std::string_view> ids;
+        for (const auto* segment : segments_) ids.push_back(segment->id);
+        return fmt::format("{}", fmt::join(ids, ", "));
+    }
+
+    std::optional<Averages> read_averages(double m0)
+    {
+        const auto& f = fraction_;
+        const Number by_dpn = f.dpn ? Number{*f.dpn * m0} : Number{};
+        const Number number_average = f.mn ? f.mn : by_dpn;
+        const Number by_dispersity =
+            number_average && f.dispersity ? Number{*number_average * *f.dispersity} : Number{};
+        if (f.mn && by_dpn && !agree(*f.mn, *by_dpn)) return contradiction("mn", *f.mn, "dpn", *by_dpn);
+        if (f.mw && by_dispersity && !agree(*f.mw, *by_dispersity))
+            return contradiction("mw", *f.mw, f.mn ? "mn and dispersity" : "dpn and dispersity",
+                                 *by_dispersity);
+        if (number_average && f.mw) return in_order({*number_average, *f.mw, f.mz}, m0);
+        if (by_dispersity) return in_order({*number_average, *by_dispersity, f.mz}, m0);
+        if (f.mw && f.dispersity) return in_order({*f.mw / *f.dispersity, *f.mw, f.mz}, m0);
+        return refuse(
+            fmt::format(" gives {}; expected Mn and Mw by two of mn (or dpn), mw and dispersity", given()));
+    }
+
+    static bool agree(double a, double b) { return std::abs(a - b) <= agreement * std::max(a, b); }
+
+    std::nullopt_t contradiction(std::string_view key, double value, std::string_view others, double follows)
+    {
+        return refuse(
+            fmt::format(": {} is {:.6g}, but {:.6g} follows from {}; expected values that agree within {} %",
+                        key, value, follows, others, 100 * agreement));
+    }
+
+    std::string given() const
+    {
+        const std::pair<const char*, Number> all[] = {{"mn", fraction_.mn},
+                                                      {"mw", fraction_.mw},
+                                                      {"mz", fraction_.mz},
+                                                      {"dispersity", fraction_.dispersity},
+                                                      {"dpn", fraction_.dpn}};
+        std::vector<std::string_view> names;
+        for (const auto& [name, value] : all)
+            if (value) names.emplace_back(name);
+        return names.empty() ? "no averages" : fmt::format("{}", fmt::join(names, ", "));
+    }
+
+    // The averages of any distribution rise: m0 ≤ Mn ≤ Mw ≤ Mz.
+    std::optional<Averages> in_order(Averages averages, double m0)
+    {
+        const auto& [mn, mw, mz] = averages;
+        const auto is_less = [](double a, double b) { return a < b * (1 - rounding); };
+        const auto fault = [&](const char* low, double a, const char* high, double b) {
+            return refuse(
+                fmt::format(": {} is {:.6g} g/mol; expected at least {}, {:.6g} g/mol", low, a, high, b));
+        };
+        if (is_less(mn, m0)) return fault("Mn", mn, "the mean segment weight", m0);
+        if (is_less(mw, mn)) return fault("Mw", mw, "Mn", mn);
+        if (mz && is_less(*mz, mw)) return fault("Mz", *mz, "Mw", mw);
+        // Chains of one length have one average.
+        if (!mz && !is_less(mn, mw)) averages.mz = mw;
+        return averages;
+    }
+
+    std::optional<ChainMoments> moments(const Averages& averages, const std::vector<double>& shares,
+                                        double m0)
+    {
+        ChainMoments moments;
+        moments.mass = fraction_.mass ? *fraction_.mass : fraction_.moles.value_or(0) * averages.mn;
+        moments.zeroth = fraction_.mass ? moments.mass / averages.mn : *fraction_.moles;
+        moments.first = moments.mass / m0;
+        moments.second = averages.mw / m0 * *moments.first;
+        if (averages.mz) moments.third = *averages.mz / m0 * *moments.second;
+        if (moments.mass == 0) moments.third = 0;
+        for (const auto share : shares) moments.segment_flows.push_back(share * *moments.first);
+        if (std::isfinite(*moments.second) && std::isfinite(moments.third.value_or(0))) return moments;
+        return refuse(" has moments that are not finite; expected smaller values");
+    }
+
+    const ChainFraction& fraction_;
+    const Segments& segments_;
+    Diagnostics& diagnostics_;
+};
+
+// What is unknown of one part is unknown of the whole.
+Number sum(const Number& a, const Number& b)
+{
+    return a && b ? Number{*a + *b} : Number{};
+}
+
+void add(const ChainMoments& part, ChainMoments& whole)
+{
+    whole.zeroth = sum(whole.zeroth, part.zeroth);
+    whole.first = sum(whole.first, part.first);
+    whole.second = sum(whole.second, part.second);
+    whole.third = sum(whole.third, part.third);
+    whole.mass += part.mass;
+    for (std::size_t s = 0; s < part.segment_flows.size(); ++s)
+        whole.segment_flows[s] += part.segment_flows[s];
+}
+
+Number ratio(const Number& a, const Number& b)
+{
+    return a && b && *b > 0 ? Number{*a / *b} : Number{};
+}
+
+Number product(const Number& a, const Number& b)
+{
+    return a && b ? Number{*a * *b} : Number{};
+}
+
+std::vector<double> values(const Number& number)
+{
+    return number ? std::vector<double>{*number} : std::vector<double>{};
+}
+
+std::vector<double> segment_fractions(const ChainMoments& m)
+{
+    double sum = 0;
+    for (const auto flow : m.segment_flows) sum += flow;
+    if (!(sum > 0)) return {};
+    std::vector<double> fractions;
+    for (const auto flow : m.segment_flows) fractions.push_back(flow / sum);
+    return fractions;
+}
+
+Number number_average(const ChainMoments& m)
+{
+    return ratio(m.first, m.zeroth);
+}
+Number weight_average(const ChainMoments& m)
+{
+    return ratio(m.second, m.first);
+}
+Number z_average(const ChainMoments& m)
+{
+    return ratio(m.third, m.second);
+}
+Number segment_weight(const ChainMoments& m)
+{
+    return ratio(m.mass, m.first);
+}
+
+struct Scalar {
+    std::string_view attribute;
+    Number (*value)(const ChainMoments&);
+};
+
+constexpr Scalar scalars[] = {
+    {"ZMOM", [](const ChainMoments& m) { return m.zeroth; }},
+    {"FMOM", [](const ChainMoments& m) { return m.first; }},
+    {"SMOM", [](const ChainMoments& m) { return m.second; }},
+    {"TMOM", [](const ChainMoments& m) { return m.third; }},
+    {"DPN", number_average},
+    {"DPW", weight_average},
+    {"DPZ", z_average},
+    {"PDI", [](const ChainMoments& m) { return ratio(weight_average(m), number_average(m)); }},
+    {"MWSEG", segment_weight},
+    {"MWN", [](const ChainMoments& m) { return product(number_average(m), segment_weight(m)); }},
+    {"MWW", [](const ChainMoments& m) { return product(weight_average(m), segment_weight(m)); }},
+    {"MWZ", [](const ChainMoments& m) { return product(z_average(m), segment_weight(m)); }},
+};
+
+}  // namespace
+
+std::optional<ChainMoments> chain_moments(const PolymerChains& chains, const Segments& segments,
+                                          Diagnostics& diagnostics)
+{
+    ChainMoments whole{0.0, 0.0, 0.0, 0.0, std::vector<double>(segments.size()), 0};
+    bool is_usable = true;
+    for (const auto& fraction : chains.fractions) {
+        const auto part = FractionReader{fraction, segments, diagnostics}.moments();
+        is_usable = is_usable && part;
+        if (part) add(*part, whole);
+    }
+    return is_usable ? std::optional{whole} : std::nullopt;
+}
+
+std::vector<double> attribute_values(const ChainMoments& moments, std::string_view attribute)
+{
+    if (attribute == "SFLOW") return moments.segment_flows;
+    if (attribute == "SFRAC") return segment_fractions(moments);
+    const auto* found = std::ranges::find(scalars, attribute, &Scalar::attribute);
+    return found == std::end(scalars) ? std::vector<double>{} : values(found->value(moments));
+}
+
+}  // namespace app
