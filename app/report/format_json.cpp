@@ -44,6 +44,7 @@ JsonValue section_object(const Section& section)
     JsonValue object;
     object.set("name", section.name);
     for (const auto& [key, text] : section.facts) object.set(key, text);
+    for (const auto& [key, excerpt] : section.excerpts) object.set(key, excerpt);
     add_tables(section.tables, object);
     return object;
 }
