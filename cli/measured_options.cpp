@@ -46,7 +46,7 @@ bool is_calibration(const std::vector<double>& v)
     return v.size() == 4 && v[0] > 0 && is_exponent(v[1]) && v[2] > 0 && is_exponent(v[3]);
 }
 
-// How an option is written, and what it has to hold.
+// Syntax and help of an option.
 struct Form {
     const char* option;
     const char* separators;

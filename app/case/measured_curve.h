@@ -12,7 +12,7 @@
 
 namespace app {
 
-// What the first column holds.
+// Content of the first column.
 enum class WeightColumn { evident, m, log10m };
 
 // A signal below zero ends the reading, or counts as zero.

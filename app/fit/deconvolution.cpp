@@ -41,7 +41,7 @@ void check(const MeasuredCurve& curve, const FitOptions& options)
     if (!(*std::ranges::max_element(curve.signal) > 0))
         throw std::runtime_error{
             fmt::format("{}: the signal is 0 everywhere; expected more than 0", curve.file)};
-    // Three points more than parameters let the residual say something about them.
+    // Limits need more points than parameters.
     const std::size_t needed = options.most_sites * (options.free_beta ? 3 : 2) + 3;
     if (curve.size() < needed)
         throw std::runtime_error{fmt::format("{}: {} points; expected at least {} for {} sites{}", curve.file,

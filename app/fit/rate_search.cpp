@@ -109,7 +109,7 @@ RateSolution improved(ProjectedResidual& residual, VectorXd log_rates, Index eva
     return residual.solution(log_rates);
 }
 
-// The natural logarithms of the chain lengths below which these shares of the signal's area are.
+// The natural logarithm of the chain length below which this share of the signal's area is.
 double log_length_at(const SiteModel& model, const VectorXd& signal, double share)
 {
     const Eigen::VectorXd logs = model.chain_length.log();

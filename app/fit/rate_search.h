@@ -2,7 +2,7 @@
 //
 // For any rates the best masses follow by non-negative least squares. The search over ln(s), by the method of
 // Levenberg and Marquardt, sees only the residual that those masses leave (variable projection); its
-// derivatives are those of Kaufman: changes of the curves, without what the masses make up for.
+// derivatives are those of Kaufman: changes of the curves, less the part that the masses compensate.
 #pragma once
 
 #include <vector>

@@ -71,8 +71,7 @@ TEST(MeasuredCurve, SaysWhatIsWrongWithItAndWhatACaseLacksForIt)
 {
     const auto* const second =
         "[distributions.E]\npoints = 2\nlongest_chain = 9\nsites = [{ tau = 1, amount = 1 }]\n";
-    const std::string two_numbers =
-        "; expected two numbers, molecular weight and signal, separated by `,`\n";
+    const std::string two_numbers = "; expected two numbers, molecular weight and signal, separated by `,`\n";
     const struct {
         std::string text, measured, distribution, expected;
     } cases[] = {
