@@ -4,6 +4,7 @@
 
 #include "cli/check_command.h"
 #include "cli/convert_command.h"
+#include "cli/fit_command.h"
 #include "cli/run_command.h"
 #include "cli/selfcheck_command.h"
 #include "cli/sweep_command.h"
@@ -17,6 +18,7 @@ try {
     cli::add_run_command(program, status);
     cli::add_check_command(program, status);
     cli::add_convert_command(program, status);
+    cli::add_fit_command(program, status);
     cli::add_sweep_command(program, status);
     cli::add_selfcheck_command(program, status);
     try {

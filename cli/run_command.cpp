@@ -6,6 +6,7 @@
 #include "app/io/whole_file.h"
 #include "app/report/make_report.h"
 #include "app/report/output_files.h"
+#include "cli/measured_options.h"
 
 namespace cli {
 
@@ -16,7 +17,7 @@ int run_unguarded(const RunOptions& options, std::FILE* out, std::FILE* errors)
     const auto input = read(options.file, errors);
     if (!input) return exit_case_error;
     std::optional<app::MeasuredCurve> measured;
-    if (options.gpc) measured = app::read_measured_curve(*options.gpc);
+    if (options.gpc) measured = app::read_measured_curve(*options.gpc, options.measured);
     const auto results = app::evaluate(
         *input, {measured ? &*measured : nullptr, options.distribution, options.out.has_value()});
     const auto report = app::make_report(*input, results);
@@ -52,6 +53,7 @@ void add_run_command(CLI::App& program, int& status)
         ->type_name("DIR");
     command->add_option("--gpc", options->gpc, "Measured curve to compare a composite distribution with")
         ->type_name("FILE");
+    add_measured_options(*command, options->measured);
     command->add_option("--export-gpc", options->export_gpc, "Write a composite distribution as such a curve")
         ->type_name("FILE");
     command

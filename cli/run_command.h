@@ -1,6 +1,7 @@
 // The command `run`: prints the results of a case.
 #pragma once
 
+#include "app/case/measured_curve.h"
 #include "cli/command.h"
 
 namespace cli {
@@ -11,6 +12,7 @@ struct RunOptions {
     Strictness strictness = Strictness::normal;
     std::optional<std::filesystem::path> out;         // directory for the files of the run
     std::optional<std::filesystem::path> gpc;         // measured curve to compare a composite with
+    app::MeasuredCurveOptions measured;               // how to read it
     std::optional<std::filesystem::path> export_gpc;  // file for a composite in the same form
     std::string distribution;                         // whose composite; empty: the only one
 };

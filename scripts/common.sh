@@ -23,6 +23,7 @@ missing_packages() {
     have_header toml++/toml.h || echo libtomlplusplus-dev
     have_header CLI/CLI.hpp || echo libcli11-dev
     have_header fmt/format.h || echo libfmt-dev
+    have_header eigen3/Eigen/Dense || echo libeigen3-dev
     have_header nlohmann/json.hpp || echo nlohmann-json3-dev
     [[ -f /usr/share/javascript/chart.js/chart.min.js ]] || echo libjs-chart.js
     [[ " $* " != *" browser "* ]] || have_command chromium || echo chromium

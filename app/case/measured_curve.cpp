@@ -3,112 +3,211 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <charconv>
+#include <cctype>
 #include <cmath>
-#include <optional>
 #include <stdexcept>
 
+#include "app/case/curve_columns.h"
 #include "app/io/file_contents.h"
 
 namespace app {
 
 namespace {
 
-constexpr std::string_view blanks = " \t\r,";
+// Numbers within the first two may be either; a logarithm beyond the third is a mistake.
+constexpr double least_log10 = 1;
+constexpr double largest_log10 = 8;
+constexpr double largest_exponent = 15;
 
-struct Pair {
-    double molecular_weight;
-    double signal;
-};
-
-// Takes a number from the front of the text.
-std::optional<double> take_number(std::string_view& text)
+[[noreturn]] void refuse(const std::string& file, const std::string& why)
 {
-    text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
-    if (text.starts_with('+')) text.remove_prefix(1);
-    double value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc{} || !std::isfinite(value)) return {};
-    text.remove_prefix(static_cast<std::size_t>(end - text.data()));
-    return value;
+    throw std::runtime_error{fmt::format("{}: {}", file, why)};
 }
 
-// Two numbers with blanks or a comma between them, and nothing else.
-std::optional<Pair> read_pair(std::string_view line)
+std::string lower_case(std::string text)
 {
-    const auto molecular_weight = take_number(line);
-    if (!molecular_weight || line.empty() || blanks.find(line.front()) == std::string_view::npos) return {};
-    line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
-    if (line.starts_with(',')) line.remove_prefix(1);
-    const auto signal = take_number(line);
-    if (!signal || line.find_first_not_of(" \t\r") != std::string_view::npos) return {};
-    return Pair{*molecular_weight, *signal};
+    for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return text;
 }
 
-[[noreturn]] void refuse(const std::string& file, std::size_t line, std::string_view seen,
-                         std::string_view expected)
+// `log M`, `log10(MW)`, `lg_m`.
+bool names_logarithm(const std::string& note)
 {
-    throw std::runtime_error{fmt::format("{}:{}: \"{}\"; expected {}", file, line, seen, expected)};
+    for (const std::string_view name : {"log", "lg"})
+        for (auto at = note.find(name); at != std::string::npos; at = note.find(name, at + 1)) {
+            const auto next = note.find_first_not_of("10 _([", at + name.size());
+            if (next != std::string::npos && note[next] == 'm') return true;
+        }
+    return false;
 }
 
-std::vector<std::string_view> lines_of(std::string_view text)
+// `g/mol`, `molecular weight`, `molar mass`, or a first column headed `M` or `Mw`.
+bool names_molecular_weight(const std::string& note)
 {
-    std::vector<std::string_view> lines;
-    while (!text.empty()) {
-        auto line = text.substr(0, text.find('\n'));
-        text.remove_prefix(std::min(line.size() + 1, text.size()));
-        if (line.ends_with('\r')) line.remove_suffix(1);
-        lines.push_back(line);
+    for (const std::string_view name : {"g/mol", "molecular", "molar mass"})
+        if (note.find(name) != std::string::npos) return true;
+    const auto first = note.substr(0, note.find_first_of(" \t,;"));
+    return first == "m" || first == "mw";
+}
+
+WeightColumn evident_column(const CurveColumns& columns, const std::string& file)
+{
+    bool is_weight = false;
+    for (const auto& note : columns.notes) {
+        const auto text = lower_case(note);
+        if (names_logarithm(text)) return WeightColumn::log10m;
+        is_weight = is_weight || names_molecular_weight(text);
     }
-    return lines;
+    const auto may_be_logarithm = [](const ColumnPair& pair) {
+        return pair.first >= least_log10 && pair.first <= largest_log10;
+    };
+    if (is_weight || !std::ranges::all_of(columns.pairs, may_be_logarithm)) return WeightColumn::m;
+    refuse(file, fmt::format("the first column is within {} to {} and no heading says whether it holds M or "
+                             "log10(M); expected the option --gpc-column m or --gpc-column log10m",
+                             least_log10, largest_log10));
+}
+
+double molecular_weight(const ColumnPair& pair, WeightColumn column, const std::string& file)
+{
+    if (column == WeightColumn::m) {
+        if (!(pair.first > 0)) refuse_line(file, pair.line, pair.text, "a molecular weight greater than 0");
+        return pair.first;
+    }
+    if (std::abs(pair.first) > largest_exponent)
+        refuse_line(file, pair.line, pair.text,
+                    fmt::format("log10 of a molecular weight, {} at most", largest_exponent));
+    return std::pow(10.0, pair.first);
+}
+
+MeasuredCurve uncorrected(const CurveColumns& columns, const std::string& file, WeightColumn column)
+{
+    MeasuredCurve curve;
+    curve.file = file;
+    curve.notes = columns.notes;
+    if (column == WeightColumn::evident && !columns.pairs.empty()) column = evident_column(columns, file);
+    for (const auto& pair : columns.pairs) {
+        curve.molecular_weight.push_back(molecular_weight(pair, column, file));
+        curve.signal.push_back(pair.second);
+        curve.lines.push_back(pair.line);
+    }
+    return curve;
 }
 
 // A detector writes in the order of elution: molecular weights may fall as well as rise.
-void put_in_order(MeasuredCurve& curve, const std::string& file)
+void put_in_order(MeasuredCurve& curve)
 {
     auto& m = curve.molecular_weight;
     if (m.size() < 2)
-        throw std::runtime_error{
-            fmt::format("{}: {} with two numbers; expected at least 2: molecular weight and signal", file,
-                        m.empty() ? "no line" : "1 line")};
+        refuse(curve.file,
+               fmt::format("{} with two numbers; expected at least 2: molecular weight and signal",
+                           m.empty() ? "no line" : "1 line"));
     if (m.front() > m.back()) {
         std::ranges::reverse(m);
         std::ranges::reverse(curve.signal);
+        std::ranges::reverse(curve.lines);
     }
     const auto fault = std::ranges::adjacent_find(m, std::greater_equal{});
     if (fault != m.end())
-        throw std::runtime_error{fmt::format(
-            "{}: molecular weight {} is followed by {}; expected molecular weights that all rise or all fall",
-            file, *fault, *(fault + 1))};
+        refuse(
+            curve.file,
+            fmt::format("molecular weight {} is followed by {}; expected molecular weights that all rise or "
+                        "all fall",
+                        *fault, *(fault + 1)));
+}
+
+// How far the second molecular weight is on the way from the first to the third, over log10(M).
+double share(double low, double m, double high)
+{
+    return std::log(m / low) / std::log(high / low);
+}
+
+double signal_at(const MeasuredCurve& curve, double weight)
+{
+    const auto& m = curve.molecular_weight;
+    if (weight < m.front() || weight > m.back())
+        refuse(curve.file,
+               fmt::format("--gpc-baseline: {} g/mol is outside the curve; expected {} to {} g/mol", weight,
+                           m.front(), m.back()));
+    const auto above = std::ranges::upper_bound(m.begin() + 1, m.end() - 1, weight);
+    const auto k = static_cast<std::size_t>(above - m.begin());
+    return std::lerp(curve.signal[k - 1], curve.signal[k], share(m[k - 1], weight, m[k]));
+}
+
+void subtract_baseline(MeasuredCurve& curve, const WeightRange& ends)
+{
+    const double low = signal_at(curve, ends.low);
+    const double high = signal_at(curve, ends.high);
+    for (std::size_t k = 0; k < curve.size(); ++k)
+        curve.signal[k] -= std::lerp(low, high, share(ends.low, curve.molecular_weight[k], ends.high));
+}
+
+template <typename Value>
+void keep(std::vector<Value>& values, std::size_t first, std::size_t end)
+{
+    values.erase(values.begin() + static_cast<std::ptrdiff_t>(end), values.end());
+    values.erase(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(first));
+}
+
+void keep_window(MeasuredCurve& curve, const WeightRange& window)
+{
+    const auto& m = curve.molecular_weight;
+    const auto first = static_cast<std::size_t>(std::ranges::lower_bound(m, window.low) - m.begin());
+    const auto end = static_cast<std::size_t>(std::ranges::upper_bound(m, window.high) - m.begin());
+    if (end < first + 2)
+        refuse(curve.file, fmt::format("--gpc-window: {} of {} points are within {} to {} g/mol; expected at "
+                                       "least 2",
+                                       end - first, m.size(), window.low, window.high));
+    keep(curve.molecular_weight, first, end);
+    keep(curve.signal, first, end);
+    keep(curve.lines, first, end);
+}
+
+void settle_negative(MeasuredCurve& curve, NegativeSignal choice, bool has_baseline)
+{
+    for (std::size_t k = 0; k < curve.size(); ++k) {
+        if (!(curve.signal[k] < 0)) continue;
+        if (choice == NegativeSignal::refuse)
+            throw std::runtime_error{fmt::format(
+                "{}:{}: the signal {}is {}; expected 0 or more, a --gpc-baseline or --gpc-window that leaves "
+                "no such point, or --gpc-negative cut, which counts it as 0",
+                curve.file, curve.lines[k], has_baseline ? "above the baseline " : "", curve.signal[k])};
+        curve.signal[k] = 0;
+    }
+}
+
+void calibrate(MeasuredCurve& curve, const UniversalCalibration& c)
+{
+    const double slope = (1 + c.a_standard) / (1 + c.a_polymer);
+    const double offset = std::log10(c.k_standard / c.k_polymer) / (1 + c.a_polymer);
+    for (auto& m : curve.molecular_weight) {
+        m = std::pow(10.0, offset + slope * std::log10(m));
+        if (!(m > 0) || !std::isfinite(m))
+            refuse(curve.file,
+                   "--gpc-calibration: a molecular weight becomes 0 or infinite; expected K1 and "
+                   "K2 in the same unit");
+    }
+    // dw/dlog10(M) keeps its area.
+    for (auto& signal : curve.signal) signal /= slope;
 }
 
 }  // namespace
 
-MeasuredCurve parse_measured_curve(std::string_view text, const std::string& file)
+MeasuredCurve parse_measured_curve(std::string_view text, const std::string& file,
+                                   const MeasuredCurveOptions& options)
 {
-    MeasuredCurve curve;
-    curve.file = file;
-    std::size_t number = 0;
-    for (const auto line : lines_of(text)) {
-        ++number;
-        if (line.find_first_not_of(" \t") == std::string_view::npos) continue;
-        const auto pair = read_pair(line);
-        if (!pair && curve.size() > 0) refuse(file, number, line, "two numbers, molecular weight and signal");
-        if (!pair) {
-            curve.notes.emplace_back(line);
-            continue;
-        }
-        if (!(pair->molecular_weight > 0)) refuse(file, number, line, "a molecular weight greater than 0");
-        curve.molecular_weight.push_back(pair->molecular_weight);
-        curve.signal.push_back(pair->signal);
-    }
-    put_in_order(curve, file);
+    auto curve = uncorrected(read_columns(text, file), file, options.column);
+    put_in_order(curve);
+    if (options.baseline) subtract_baseline(curve, *options.baseline);
+    if (options.window) keep_window(curve, *options.window);
+    settle_negative(curve, options.negative, options.baseline.has_value());
+    if (options.calibration) calibrate(curve, *options.calibration);
+    curve.mark_houwink_exponent = options.mark_houwink_exponent;
     return curve;
 }
 
-MeasuredCurve read_measured_curve(const std::filesystem::path& file)
+MeasuredCurve read_measured_curve(const std::filesystem::path& file, const MeasuredCurveOptions& options)
 {
-    return parse_measured_curve(file_contents(file), file.string());
+    return parse_measured_curve(file_contents(file), file.string(), options);
 }
 
 }  // namespace app

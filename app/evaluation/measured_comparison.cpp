@@ -46,12 +46,6 @@ void scale_to_area_one(const Values& m, Values& values, const std::string& what)
     for (auto& value : values) value /= area;
 }
 
-void add_averages(const Values& m, const Values& values, double& mn, double& mw)
-{
-    mn = 1 / integral(m, [&](std::size_t k) { return values[k] / m[k]; });
-    mw = integral(m, [&](std::size_t k) { return values[k] * m[k]; });
-}
-
 void add_residual(MeasuredComparison& c)
 {
     const auto difference = [&](std::size_t k) { return c.measured[k] - c.calculated[k]; };
@@ -65,6 +59,25 @@ void add_residual(MeasuredComparison& c)
 }
 
 }  // namespace
+
+MolecularWeightAverages averages_over_log10(const Values& m, const Values& curve,
+                                            std::optional<double> mark_houwink_exponent)
+{
+    // ∫wM^power over log10(M).
+    const auto moment = [&](double power) {
+        return integral(m, [&](std::size_t k) { return curve[k] * std::pow(m[k], power); });
+    };
+    const double area = moment(0);
+    MolecularWeightAverages averages;
+    averages.mn = area / moment(-1);
+    averages.mw = moment(1) / area;
+    averages.mz = moment(2) / moment(1);
+    averages.mz1 = moment(3) / moment(2);
+    averages.pdi = averages.mw / averages.mn;
+    if (mark_houwink_exponent)
+        averages.mv = std::pow(moment(*mark_houwink_exponent) / area, 1 / *mark_houwink_exponent);
+    return averages;
+}
 
 MeasuredComparison compare(const MeasuredCurve& measured, const CompositeCurve& composite)
 {
@@ -84,8 +97,9 @@ MeasuredComparison compare(const MeasuredCurve& measured, const CompositeCurve& 
                     composite.distribution, c.molecular_weight.front(), c.molecular_weight.back()));
     for (std::size_t k = 0; k < c.measured.size(); ++k)
         c.overlay.push_back(c.measured[k] / std::numbers::ln10 / (composite.is_gpc ? 1 : c.chain_length[k]));
-    add_averages(c.molecular_weight, c.measured, c.mn_measured, c.mw_measured);
-    add_averages(c.molecular_weight, c.calculated, c.mn_calculated, c.mw_calculated);
+    c.measured_averages = averages_over_log10(c.molecular_weight, c.measured, measured.mark_houwink_exponent);
+    c.calculated_averages =
+        averages_over_log10(c.molecular_weight, c.calculated, measured.mark_houwink_exponent);
     add_residual(c);
     return c;
 }

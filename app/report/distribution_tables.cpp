@@ -70,20 +70,33 @@ Table curves(const DistributionResults& results)
     return table;
 }
 
+void add_pair(const std::string& key, const std::string& heading, const std::string& unit, double measured,
+              double calculated, Table& table)
+{
+    table.columns.push_back({key + "_measured", heading + " measured", unit});
+    table.columns.push_back({key + "_calculated", "calculated", unit});
+    table.rows.front().emplace_back(measured);
+    table.rows.front().emplace_back(calculated);
+}
+
 Table fit(const MeasuredComparison& gpc)
 {
-    return {"gpc_comparison",
-            "Measured curve against the composite",
-            {{"file", "File", ""},
-             {"points", "Points", ""},
-             {"residual", "Residual", "1"},
-             {"largest_difference", "Largest difference", "1"},
-             {"mn_measured", "Mn measured", "g/mol"},
-             {"mn_calculated", "calculated", "g/mol"},
-             {"mw_measured", "Mw measured", "g/mol"},
-             {"mw_calculated", "calculated", "g/mol"}},
-            {{gpc.file, static_cast<Int>(gpc.measured.size()), gpc.residual, gpc.largest_difference,
-              gpc.mn_measured, gpc.mn_calculated, gpc.mw_measured, gpc.mw_calculated}}};
+    Table table{"gpc_comparison",
+                "Measured curve against the composite",
+                {{"file", "File", ""},
+                 {"points", "Points", ""},
+                 {"residual", "Residual", "1"},
+                 {"largest_difference", "Largest difference", "1"}},
+                {{gpc.file, static_cast<Int>(gpc.measured.size()), gpc.residual, gpc.largest_difference}}};
+    const auto& measured = gpc.measured_averages;
+    const auto& calculated = gpc.calculated_averages;
+    add_pair("mn", "Mn", "g/mol", measured.mn, calculated.mn, table);
+    add_pair("mw", "Mw", "g/mol", measured.mw, calculated.mw, table);
+    add_pair("mz", "Mz", "g/mol", measured.mz, calculated.mz, table);
+    add_pair("mz1", "Mz+1", "g/mol", measured.mz1, calculated.mz1, table);
+    add_pair("pdi", "Đ (Mw/Mn)", "1", measured.pdi, calculated.pdi, table);
+    if (measured.mv) add_pair("mv", "Mv", "g/mol", *measured.mv, *calculated.mv, table);
+    return table;
 }
 
 Table measured_curve(const MeasuredComparison& gpc)

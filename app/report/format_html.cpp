@@ -75,7 +75,7 @@ std::string table(const Table& table)
 
 bool has_chart(const Section& section)
 {
-    if (section.kind == "distribution") return true;
+    if (section.kind == "distribution" || section.kind == "fit") return true;
     if (section.kind != "parameter") return false;
     // One temperature is no curve.
     for (const auto& table : section.tables)
@@ -113,6 +113,8 @@ std::string html(const Section& section)
         if (!t.is_long) html += table(t);
     }
     if (shown == 0) html += "<p>Nothing flows here.</p>\n";
+    for (const auto& [key, excerpt] : section.excerpts)
+        html += fmt::format("<pre data-key=\"{}\">{}</pre>\n", html_text(key), html_text(excerpt));
     return html + "</section>\n";
 }
 

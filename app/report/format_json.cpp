@@ -59,6 +59,7 @@ JsonValue section_object(const Section& section)
         auto& list = object[key] = JsonValue::array();
         for (const auto& name : names) list.push_back(JsonValue::scalar(name));
     }
+    for (const auto& [key, excerpt] : section.excerpts) object.set(key, excerpt);
     add_tables(section.tables, object);
     return object;
 }

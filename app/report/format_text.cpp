@@ -92,6 +92,7 @@ std::string format_text(const Report& report)
         add_block(section.heading + "\n", text);
         if (!add_tables(section.tables, text))
             add_block(fmt::format("Nothing flows in this {}.\n", section.kind), text);
+        for (const auto& [key, excerpt] : section.excerpts) add_block(excerpt + "\n", text);
     }
     return text;
 }

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "app/report/distribution_tables.h"
+#include "app/report/fit_tables.h"
 #include "app/report/input_tables.h"
 #include "app/report/parameter_tables.h"
 #include "app/report/result_numbers.h"
@@ -94,6 +95,18 @@ Report make_report(const Case& input, const Results& results)
     for (const auto& set : results.parameters) report.sections.push_back(parameter_section(set));
     add_not_finite(input, report);
     append(results.warnings, report);
+    return report;
+}
+
+Report make_fit_report(const std::string& title, const FitResults& results)
+{
+    Report report{title, results.file, {}, {}, {}, {fit_section(results)}};
+    add_not_finite({}, report);
+    for (const auto& warning : results.warnings) {
+        auto& found = report.diagnostics.emplace_back();
+        found.text = warning;
+        found.severity = Severity::warning;
+    }
     return report;
 }
 

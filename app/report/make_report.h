@@ -3,12 +3,16 @@
 
 #include "app/evaluation/input_results.h"
 #include "app/evaluation/results.h"
+#include "app/fit/fit_results.h"
 #include "app/report/report_model.h"
 
 namespace app {
 
 // Results that are not finite become errors of the report.
 Report make_report(const Case& input, const Results& results);
+
+// The sites of a measured curve; diagnostics name the file of the curve.
+Report make_fit_report(const std::string& title, const FitResults& results);
 
 // The polymer paragraph as checked; only the messages when there is one.
 Report make_input_report(const Case& input, const InputResults& results);

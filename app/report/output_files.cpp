@@ -98,4 +98,15 @@ std::vector<OutputFile> output_files(const std::string& name, const Case& input,
     return files;
 }
 
+std::vector<OutputFile> fit_files(const std::string& name, const Report& report)
+{
+    std::vector<OutputFile> files{{name + ".fit.txt", format_text(report)},
+                                  {name + ".fit.csv", format_csv(report)},
+                                  {name + ".fit.json", format_json(report)},
+                                  {name + ".fit.html", format_html(report)}};
+    for (const auto& table : report.sections.front().tables)
+        if (table.is_long) files.push_back({name + ".fit.curves.csv", wide_csv(table)});
+    return files;
+}
+
 }  // namespace app

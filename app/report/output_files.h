@@ -18,4 +18,7 @@ std::string report_file(const Case& input, const Report& report, const LibraryOu
 std::vector<OutputFile> output_files(const std::string& name, const Case& input, const Report& report,
                                      const LibraryOutput& library_output);
 
+// NAME.fit.txt, .csv, .json, .html, and NAME.fit.curves.csv with the curves of the sites.
+std::vector<OutputFile> fit_files(const std::string& name, const Report& report);
+
 }  // namespace app

@@ -33,14 +33,15 @@ struct Table {
     bool is_long = false;  // a curve, which text and pages omit
 };
 
-// The tables of one stream, reactor, distribution or binary parameter set.
+// The tables of one stream, reactor, distribution, binary parameter set or fit.
 struct Section {
-    std::string kind;  // "stream", "reactor", "distribution", "parameter"
+    std::string kind;  // "stream", "reactor", "distribution", "parameter", "fit"
     std::string name;
     std::string heading;                                     // as text shows it
     std::vector<std::pair<std::string, std::string>> facts;  // further keys and texts
     std::vector<Table> tables;
     std::vector<std::pair<std::string, std::vector<std::string>>> lists = {};  // further keys and names
+    std::vector<std::pair<std::string, std::string>> excerpts = {};  // keys, and texts to copy as they are
 };
 
 struct Report {

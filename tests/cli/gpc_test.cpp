@@ -17,14 +17,14 @@ sites = [{ tau = 0.01, amount = 1 }]
 TEST(MeasuredCurve, ReadsBothSeparatorsAndKeepsHeaderLinesAsNotes)
 {
     const std::string texts[] = {
-        "run 17, THF\nmolecular_weight,signal\n1000,0.5\n2000, 1.5\n\n4e3 ,-0.25\n",
-        "run 17, THF\r\nmolecular_weight,signal\r\n4000 -0.25\r\n2000\t+1.5\r\n  1000   0.5  ",
+        "run 17, THF\nmolecular_weight,signal\n1000,0.5\n2000, 1.5\n\n4e3 ,0.25\n",
+        "run 17, THF\r\nmolecular_weight,signal\r\n4000 0.25\r\n2000\t+1.5\r\n  1000   0.5  ",
     };
     for (const auto& text : texts) {
         const auto curve = app::parse_measured_curve(text, "m.txt");
         EXPECT_EQ(curve.notes, (std::vector<std::string>{"run 17, THF", "molecular_weight,signal"}));
         EXPECT_EQ(curve.molecular_weight, (std::vector<double>{1000, 2000, 4000}));
-        EXPECT_EQ(curve.signal, (std::vector<double>{0.5, 1.5, -0.25}));
+        EXPECT_EQ(curve.signal, (std::vector<double>{0.5, 1.5, 0.25}));
     }
 }
 
@@ -64,14 +64,14 @@ TEST(MeasuredCurve, ResidualComparesCurvesOfAreaOne)
     EXPECT_DOUBLE_EQ(c.calculated[0], 1);
     EXPECT_DOUBLE_EQ(c.residual, 0.5 / 1.5);
     EXPECT_DOUBLE_EQ(c.largest_difference, 0.5 / 1.5);
-    EXPECT_DOUBLE_EQ(c.mw_measured, 0.5 * (0.5 * 10000 + 1.5 * 100000));
+    EXPECT_DOUBLE_EQ(c.measured_averages.mw, 0.5 * (0.5 * 10000 + 1.5 * 100000));
 }
 
 TEST(MeasuredCurve, SaysWhatIsWrongWithItAndWhatACaseLacksForIt)
 {
     const auto* const second =
         "[distributions.E]\npoints = 2\nlongest_chain = 9\nsites = [{ tau = 1, amount = 1 }]\n";
-    const std::string two_numbers = "; expected two numbers, molecular weight and signal\n";
+    const std::string two_numbers = "; expected two numbers, molecular weight and signal, separated by `,`\n";
     const struct {
         std::string text, measured, distribution, expected;
     } cases[] = {
@@ -81,7 +81,7 @@ TEST(MeasuredCurve, SaysWhatIsWrongWithItAndWhatACaseLacksForIt)
         {one_site, "0 2\n3 4\n", "", "/measured:1: \"0 2\"; expected a molecular weight greater than 0\n"},
         {one_site, "M S\n3 4\n", "",
          "/measured: 1 line with two numbers; expected at least 2: molecular weight and signal\n"},
-        {one_site, "1 1\n3 1\n3 1\n4 1\n", "",
+        {one_site, "M S\n1 1\n3 1\n3 1\n4 1\n", "",
          "/measured: molecular weight 3 is followed by 3; expected molecular weights that all rise or all "
          "fall\n"},
         {one_site + second, "1000 1\n2000 1\n", "", "has 2 distributions; expected the name of one"},
@@ -89,7 +89,8 @@ TEST(MeasuredCurve, SaysWhatIsWrongWithItAndWhatACaseLacksForIt)
         {one_site + second, "1000 1\n2000 1\n", "E", "distributions.E has no segment weight"},
         {one_site, "1e9 1\n2e9 1\n", "",
          "the composite in the measured range, 1000000000 to 2000000000 g/mol, has area 0"},
-        {one_site, "1e3 1\n2e3 -1\n", "", "the signal has area 0 over log10 of molecular weight"},
+        {one_site, "1e3 1\n2e3 -1\n", "", "/measured:2: the signal is -1; expected 0 or more"},
+        {one_site, "1e3 0\n2e3 0\n", "", "the signal has area 0 over log10 of molecular weight"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.expected);

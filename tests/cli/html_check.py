@@ -57,7 +57,7 @@ def faults_of(page, report, browser):
         capture_output=True, text=True, timeout=300)
     seen = json.loads(html.unescape(re.search('data-seen="([^"]*)"', browsed.stdout)[1]))
     faults = seen["errors"] + [line for line in browsed.stderr.splitlines() if "CONSOLE" in line]
-    charts = len(report.get("distributions", [])) + sum(
+    charts = len(report.get("distributions", [])) + len(report.get("fits", [])) + sum(
         len({row["temperature"] for row in entry["binary_parameters"]}) > 1 for entry in report.get("parameters", []))
     for what, count, expected in (("charts", seen["charts"], charts), ("blank charts", seen["blank"], 0),
                                   ("legends that switch", seen["legends"], charts)):
@@ -66,14 +66,23 @@ def faults_of(page, report, browser):
     if "http" in page.read_text().replace("https://www.chartjs.org", "").split("<script>")[0]:
         faults.append("an outside link")
     shown = {table["place"]: table["rows"] for table in seen["tables"]}
-    for kind in ("stream", "reactor", "distribution", "parameter"):
+    for kind in ("stream", "reactor", "distribution", "parameter", "fit"):
         for section in report.get(kind + "s", []):
             for key, rows in section.items():
-                if isinstance(rows, list) and rows and key not in ("distribution_curves", "gpc_curve"):
+                if isinstance(rows, list) and rows and key not in ("distribution_curves", "gpc_curve", "fit_curves"):
                     place = f"{kind} {section['name']} {key}"
                     if shown.get(place) != rows:
                         faults.append(f"{place} is missing or differs from the JSON")
     return faults, f"{len(shown)} tables, {charts} charts"
+
+
+# Each case, the commands that make a page of it, and the ending of the page. A case with a curve is fitted too.
+def pages(cases):
+    for case in cases:
+        curve = pathlib.Path(case).with_suffix("") / "curve.csv"
+        yield case, ["run", case], ".html"
+        if curve.exists():
+            yield case, ["fit", case, "--gpc", str(curve), "--sites", "3"], ".fit.html"
 
 
 def main():
@@ -84,15 +93,15 @@ def main():
         return 77
     status = 0
     with tempfile.TemporaryDirectory() as directory:
-        for case in cases:
+        for case, command, ending in pages(cases):
             # Status 1: a case with something to report, which the page reports as well.
-            ran = subprocess.run([program, "run", case, "--out", directory], capture_output=True, text=True)
+            ran = subprocess.run([program, *command, "--out", directory], capture_output=True, text=True)
             if ran.returncode > 1:
                 sys.exit(f"{case}: {ran.stderr}")
-            page = pathlib.Path(directory, pathlib.Path(case).stem + ".html")
+            page = pathlib.Path(directory, pathlib.Path(case).stem + ending)
             report = json.loads(page.with_suffix(".json").read_text())
             faults, contents = faults_of(page, report, browser)
-            print(f"{case}: {contents}, {'; '.join(faults) or 'sound'}")
+            print(f"{' '.join(command)}: {contents}, {'; '.join(faults) or 'sound'}")
             status = status or bool(faults)
     return int(status)
 

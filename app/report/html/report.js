@@ -116,6 +116,26 @@ function distributionChart(canvas, distribution) {
     return chart(canvas, datasets, scales, marked, (x) => `Chain length ${shown(x)}`);
 }
 
+// The measured points, the sum of the sites and each site.
+function fitChart(canvas, fit) {
+    const rows = fit.fit_curves;
+    const curve = (key) => rows.map((row) => ({ x: row.molecular_weight, y: row[key] }));
+    const datasets = fit.fit_sites.map((row, i) => line(`site ${row.site}`, curve(`site_${row.site}`),
+        { borderColor: palette[i % palette.length], backgroundColor: palette[i % palette.length] }));
+    datasets.unshift(line("sum of the sites", curve("fitted"), { borderColor: () => colour("--ink"), borderWidth: 2.5 }));
+    datasets.push(line("measured", curve("measured"),
+        { showLine: false, pointRadius: 2, borderColor: colour("--accent"), backgroundColor: colour("--accent") }));
+    const scales = {
+        x: axis("Molecular weight, g/mol", { type: "logarithmic", min: rows[0].molecular_weight,
+            max: rows[rows.length - 1].molecular_weight, ticks: { color: () => colour("--quiet"), callback: decades,
+                maxRotation: 0, autoSkip: false } }),
+        y: axis("dw/dlog10(M)", { beginAtZero: true }),
+    };
+    const average = fit.fit_averages.find((row) => row.curve === "fitted");
+    const marked = ["mn", "mw"].map((key, row) => ({ name: key === "mn" ? "Mn" : "Mw", value: average[key], row }));
+    return chart(canvas, datasets, scales, marked, (x) => `${shown(x)} g/mol`);
+}
+
 // Every pair with data whose parameter is not 0 throughout; both orders of it where they differ.
 function parameterChart(canvas, set) {
     const rows = set.binary_parameters;
@@ -142,7 +162,11 @@ function parameterChart(canvas, set) {
     return chart(canvas, datasets, scales, [], (x) => `${shown(x)} K`);
 }
 
-const makers = { distribution: [report.distributions, distributionChart], parameter: [report.parameters, parameterChart] };
+const makers = {
+    distribution: [report.distributions, distributionChart],
+    parameter: [report.parameters, parameterChart],
+    fit: [report.fits, fitChart],
+};
 const charts = [];
 for (const section of document.querySelectorAll("section[data-kind]")) {
     const canvas = section.querySelector("canvas");

@@ -1,0 +1,138 @@
+#include "app/report/fit_tables.h"
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+#include "app/report/columns.h"
+
+namespace app {
+
+namespace {
+
+std::string site_name(std::size_t j)
+{
+    return fmt::format("{}", j + 1);
+}
+
+Table sites(const FitResults& results)
+{
+    Table table{"fit_sites",
+                "Sites, with 95 % confidence limits",
+                {{"site", "Site", ""},
+                 {"tau", "τ", "1"},
+                 {"tau_low", "from", "1"},
+                 {"tau_high", "to", "1"},
+                 {"beta", "β", "1"},
+                 {"mass_fraction", "Mass fraction", "1"},
+                 {"mass_fraction_low", "from", "1"},
+                 {"mass_fraction_high", "to", "1"},
+                 {"pn", "Pn", "1"},
+                 {"pw", "Pw", "1"},
+                 columns::mn,
+                 columns::mw},
+                {}};
+    for (std::size_t j = 0; j < results.sites.size(); ++j) {
+        const auto& site = results.sites[j];
+        table.rows.push_back({site_name(j), site.tau.value, site.tau.low, site.tau.high, site.beta,
+                              site.amount.value, site.amount.low, site.amount.high, site.pn, site.pw, site.mn,
+                              site.mw});
+    }
+    return table;
+}
+
+Table summary(const FitResults& results)
+{
+    return {"fit_summary",
+            "Fit",
+            {{"file", "File", ""},
+             {"points", "Points", ""},
+             {"sites", "Sites", ""},
+             {"segment_weight", "Segment weight", "g/mol"},
+             {"residual", "Residual", "1"}},
+            {{results.file, static_cast<Int>(results.measured.size()), static_cast<Int>(results.sites.size()),
+              results.segment_weight, results.residual}}};
+}
+
+Table averages(const FitResults& results)
+{
+    Table table{"fit_averages",
+                "Averages between the first and the last point",
+                {{"curve", "Curve", ""},
+                 columns::mn,
+                 columns::mw,
+                 {"mz", "Mz", "g/mol"},
+                 {"mz1", "Mz+1", "g/mol"},
+                 {"pdi", "Đ (Mw/Mn)", "1"}},
+                {}};
+    if (results.measured_averages.mv) table.columns.push_back({"mv", "Mv", "g/mol"});
+    const auto add = [&](const char* curve, const MolecularWeightAverages& a) {
+        auto& row =
+            table.rows.emplace_back(std::vector<Cell>{std::string{curve}, a.mn, a.mw, a.mz, a.mz1, a.pdi});
+        if (a.mv) row.emplace_back(*a.mv);
+    };
+    add("measured", results.measured_averages);
+    add("fitted", results.fitted_averages);
+    return table;
+}
+
+Table residuals(const FitResults& results)
+{
+    Table table{"fit_residuals",
+                "Residual by number of sites",
+                {{"sites", "Sites", ""},
+                 {"sites_with_mass", "with mass", ""},
+                 {"residual", "Residual", "1"},
+                 {"reduction", "Reduction", "1"}},
+                {}};
+    for (const auto& row : results.residuals)
+        table.rows.push_back({static_cast<Int>(row.sites), static_cast<Int>(row.sites_with_mass),
+                              row.residual, row.reduction});
+    return table;
+}
+
+Table curves(const FitResults& results)
+{
+    Table table{"fit_curves",
+                "Measured curve and sites",
+                {columns::molecular_weight,
+                 columns::chain_length,
+                 {"measured", "Measured", "1"},
+                 {"fitted", "Sum of the sites", "1"}},
+                {},
+                true};
+    for (std::size_t j = 0; j < results.sites.size(); ++j)
+        table.columns.push_back({"site_" + site_name(j), "Site " + site_name(j), "1"});
+    for (std::size_t k = 0; k < results.measured.size(); ++k) {
+        auto& row = table.rows.emplace_back(std::vector<Cell>{
+            results.molecular_weight[k], results.chain_length[k], results.measured[k], results.fitted[k]});
+        for (const auto& site : results.sites) row.emplace_back(site.values[k]);
+    }
+    return table;
+}
+
+// The key `sites` of a distribution.
+std::string case_sites(const FitResults& results)
+{
+    std::string text = "sites = [\n";
+    for (std::size_t j = 0; j < results.sites.size(); ++j) {
+        const auto& site = results.sites[j];
+        const auto beta = site.beta > 0 ? fmt::format(", beta = {:.8g}", site.beta) : "";
+        text += fmt::format("    {{ name = \"{}\", tau = {:.8g}{}, amount = {:.8g} }},\n", site_name(j),
+                            site.tau.value, beta, site.amount.value);
+    }
+    return text + "]";
+}
+
+}  // namespace
+
+Section fit_section(const FitResults& results)
+{
+    return {"fit",
+            results.file,
+            "Fit of " + results.file,
+            {{"gpc_notes", fmt::format("{}", fmt::join(results.notes, "\n"))}},
+            {summary(results), sites(results), averages(results), residuals(results), curves(results)},
+            {{"sites", case_sites(results)}}};
+}
+
+}  // namespace app

@@ -1,0 +1,122 @@
+#include "cli/measured_options.h"
+
+#include <fmt/format.h>
+
+#include <cmath>
+
+#include "cli/program.h"
+
+namespace {
+
+using namespace cli_test;
+
+app::MeasuredCurveOptions options(const std::string& text)
+{
+    CLI::App program;
+    app::MeasuredCurveOptions options;
+    cli::add_measured_options(program, options);
+    program.parse(text);
+    return options;
+}
+
+// "M signal, M signal, …" with six digits.
+std::string points(const app::MeasuredCurve& curve)
+{
+    std::string text;
+    for (std::size_t k = 0; k < curve.size(); ++k)
+        text += fmt::format("{}{:.6g} {:.6g}", k ? ", " : "", curve.molecular_weight[k], curve.signal[k]);
+    return text;
+}
+
+TEST(MeasuredCurve, ReadsEverySeparatorDecimalCommasAndCorrections)
+{
+    // A line through 100 and 10 000 g/mol, 1 and 3, is 2 at 1000.
+    const std::string line = "M S\n10 4\n100 1\n1000 7\n10000 3\n100000 5\n";
+    const struct {
+        const char* name;
+        std::string text;
+        const char* options;
+        const char* expected;
+    } cases[] = {
+        {"semicolon, decimal comma", "M;S\n1000,5;0,25\n2000;3\n", "", "1000.5 0.25, 2000 3"},
+        {"semicolon, decimal point", "M;S\n1000.5; 0.25\n2000;3\n", "", "1000.5 0.25, 2000 3"},
+        {"tab, decimal comma", "1000,5\t0,25\n2000\t3\n", "", "1000.5 0.25, 2000 3"},
+        {"blanks, decimal comma", "1000 0,25\n2000,5 3\n", "", "1000 0.25, 2000.5 3"},
+        {"comma", "1000,25\n2000.5,3\n", "", "1000 25, 2000.5 3"},
+        {"byte order mark",
+         "\xEF\xBB\xBF"
+         "1000 1\n2000 3\n",
+         "", "1000 1, 2000 3"},
+        {"heading of a logarithm", "log10(M),S\n3,1\n2,3\n", "", "100 3, 1000 1"},
+        {"option for a logarithm", "3 1\n4 3\n", "--gpc-column log10m", "1000 1, 10000 3"},
+        {"option against a heading", "log M,S\n3,1\n4,3\n", "--gpc-column m", "3 1, 4 3"},
+        {"beyond a logarithm", "3 1\n8.5 3\n", "", "3 1, 8.5 3"},
+        {"cut", "M S\n10 -1\n20 3\n", "--gpc-negative cut", "10 0, 20 3"},
+        {"window with its ends", line, "--gpc-window 100:10000", "100 1, 1000 7, 10000 3"},
+        {"baseline, its ends exactly 0", line, "--gpc-baseline 100:10000 --gpc-window 100:10000",
+         "100 0, 1000 5, 10000 0"},
+        {"baseline between points", "M S\n10 1\n1000 3\n100000 9\n",
+         "--gpc-baseline 100:1000 --gpc-window 50:1e9", "1000 0, 100000 4"},
+        // log10 M2 = log10(100)/2 + log10 M1·1.5/2: 10 000 becomes 10^(1 + 3); areas keep.
+        {"calibration after the window", "M S\n10000 3\n100000000 6\n",
+         "--gpc-window 5000:2e8 --gpc-calibration 1,0.5:0.01,1", "10000 4, 1e+07 8"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        EXPECT_EQ(points(app::parse_measured_curve(c.text, "m.txt", options(c.options))), c.expected);
+    }
+}
+
+TEST(MeasuredCurve, NamesTheOptionOrLineThatIsWrong)
+{
+    const struct {
+        const char* text;
+        const char* options;
+        const char* expected;
+    } cases[] = {
+        {"3 1\n4 1\n", "",
+         "m.txt: the first column is within 1 to 8 and no heading says whether it holds M or log10(M); "
+         "expected the option --gpc-column m or --gpc-column log10m"},
+        {"3 1\n16 1\n", "--gpc-column log10m",
+         "m.txt:2: \"16 1\"; expected log10 of a molecular weight, 15 at most"},
+        {"M S\n10 1\n20 -0.5\n", "", "m.txt:3: the signal is -0.5; expected 0 or more"},
+        {"M S\n100 1\n10 2\n1 1\n", "--gpc-baseline 10:100", "m.txt:4: the signal above the baseline is -2"},
+        {"M S\n10 1\n20 2\n", "--gpc-baseline 5:20",
+         "m.txt: --gpc-baseline: 5 g/mol is outside the curve; expected 10 to 20 g/mol"},
+        {"M S\n10 1\n20 2\n", "--gpc-window 15:100",
+         "m.txt: --gpc-window: 1 of 2 points are within 15 to 100 g/mol; expected at least 2"},
+        {"M;S\n10;1\n20,2\n", "",
+         "m.txt:3: \"20,2\"; expected two numbers, molecular weight and signal, separated by `;`"},
+        {"", "--gpc-window 20:10",
+         "--gpc-window: \"20:10\"; expected two molecular weights in g/mol, the lower first"},
+        {"", "--gpc-window 0:10", "--gpc-window: \"0:10\"; expected two molecular weights"},
+        {"", "--gpc-baseline 10:20:30", "--gpc-baseline: \"10:20:30\"; expected two molecular weights"},
+        {"", "--gpc-calibration 1,0.7", "--gpc-calibration: \"1,0.7\"; expected K and a of the standards"},
+        {"", "--gpc-calibration 0,0.7:1,0.7", "--gpc-calibration: \"0,0.7:1,0.7\"; expected K and a"},
+        {"", "--gpc-exponent 0", "--gpc-exponent: \"0\"; expected a number greater than 0, 2 at most"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.expected);
+        try {
+            app::parse_measured_curve(c.text, "m.txt", options(c.options));
+            ADD_FAILURE() << "accepted";
+        } catch (const std::exception& error) {
+            EXPECT_EQ(std::string{error.what()}.find(c.expected), 0u) << error.what();
+        }
+    }
+}
+
+// Signals 1, 3, 0 at 10, 100 and 1000 g/mol: trapezoids of one decade sum to 3.5, those of w·M to 305, of w/M
+// to 0.08, of w·M² to 30 050, of w·M³ to 3 000 500; of w·√M to 30 + √10/2.
+TEST(MeasuredCurve, HasTheAveragesOfItsTrapezoids)
+{
+    const auto a = app::averages_over_log10({10, 100, 1000}, {1, 3, 0}, 0.5);
+    EXPECT_DOUBLE_EQ(a.mn, 3.5 / 0.08);
+    EXPECT_DOUBLE_EQ(a.mw, 305 / 3.5);
+    EXPECT_DOUBLE_EQ(a.mz, 30050 / 305.0);
+    EXPECT_DOUBLE_EQ(a.mz1, 3000500 / 30050.0);
+    EXPECT_DOUBLE_EQ(a.pdi, 305 * 0.08 / 3.5 / 3.5);
+    EXPECT_DOUBLE_EQ(a.mv.value(), std::pow((30 + std::sqrt(10) / 2) / 3.5, 2));
+}
+
+}  // namespace

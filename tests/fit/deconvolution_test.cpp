@@ -1,0 +1,185 @@
+#include "app/fit/deconvolution.h"
+
+#include <Eigen/Dense>
+
+#include <cmath>
+#include <numbers>
+#include <stdexcept>
+
+#include "app/fit/confidence.h"
+#include "app/fit/nonnegative_least_squares.h"
+#include "app/io/file_contents.h"
+#include "cli/fit_command.h"
+#include "cli/program.h"
+
+namespace {
+
+using namespace cli_test;
+
+struct Site {
+    double tau, beta, amount;
+};
+
+// The curve of sites in dw/dlog10(M): ln(10)·x·w(x), w(x) = s·x·e^(−s·x)·(τ + β·s·x/2).
+app::MeasuredCurve curve_of(const std::vector<Site>& sites, int points, double shortest, double longest)
+{
+    app::MeasuredCurve curve;
+    for (int k = 0; k < points; ++k) {
+        const double x = shortest * std::pow(longest / shortest, k / (points - 1.0));
+        double signal = 0;
+        for (const auto& [tau, beta, amount] : sites) {
+            const double s = tau + beta;
+            signal += amount * std::numbers::ln10 * s * x * x * std::exp(-s * x) * (tau + beta * s * x / 2);
+        }
+        curve.molecular_weight.push_back(100 * x);
+        curve.signal.push_back(signal);
+    }
+    return curve;
+}
+
+TEST(NonnegativeLeastSquares, SolvesHandCases)
+{
+    using Eigen::MatrixXd;
+    using Eigen::VectorXd;
+    MatrixXd skew(3, 2);
+    skew << 1, 1, 1, 2, 1, 3;
+    const MatrixXd twins{{1.0, 1.0}, {1.0, 1.0}};
+    const struct {
+        const char* name;
+        MatrixXd a;
+        VectorXd b, x;
+    } cases[] = {
+        {"free solution is positive", skew, VectorXd{{3.0, 5.0, 7.0}}, VectorXd{{1.0, 2.0}}},
+        // Free: intercept 8, slope −2. The intercept is the mean.
+        {"slope at 0", skew, VectorXd{{6.0, 4.0, 2.0}}, VectorXd{{4.0, 0.0}}},
+        // Free: intercept −1, slope 2. The slope is (1·1 + 2·3 + 3·5)/(1 + 4 + 9).
+        {"intercept at 0", skew, VectorXd{{1.0, 3.0, 5.0}}, VectorXd{{0.0, 22.0 / 14}}},
+        {"nothing helps", skew, VectorXd{{-1.0, -1.0, -1.0}}, VectorXd{{0.0, 0.0}}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        EXPECT_TRUE(app::nonnegative_least_squares(c.a, c.b).isApprox(c.x, 1e-12) ||
+                    (c.x.isZero() && app::nonnegative_least_squares(c.a, c.b).isZero()))
+            << app::nonnegative_least_squares(c.a, c.b);
+    }
+    const VectorXd shared = app::nonnegative_least_squares(twins, VectorXd{{2.0, 2.0}});
+    EXPECT_NEAR(shared.sum(), 2, 1e-12);
+    EXPECT_GE(shared.minCoeff(), 0);
+}
+
+// The first curve ends where 40 % of the last site is still to come: masses are those of whole sites.
+TEST(Deconvolution, RecoversKnownSites)
+{
+    const struct {
+        const char* name;
+        std::vector<Site> sites;
+        double longest;
+        bool free_beta;
+    } cases[] = {
+        {"cut off", {{0.01, 0, 0.3}, {0.002, 0, 0.45}, {0.0004, 0, 0.25}}, 5000, false},
+        {"close",
+         {{0.01, 0, 0.1}, {0.004, 0, 0.2}, {0.001, 0, 0.35}, {0.0004, 0, 0.25}, {0.0001, 0, 0.1}},
+         1e6,
+         false},
+        {"combination", {{0.004, 0.004, 0.4}, {0.0005, 0, 0.6}}, 1e5, true},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        const auto n = c.sites.size();
+        const auto r = app::fit(curve_of(c.sites, 200, 10, c.longest), 100, {n, n, c.free_beta});
+        ASSERT_EQ(r.sites.size(), n);
+        EXPECT_TRUE(r.warnings.empty());
+        for (std::size_t j = 0; j < n; ++j) {
+            const auto& [tau, beta, amount] = c.sites[j];
+            EXPECT_NEAR(r.sites[j].tau.value, tau, 1e-4 * tau);
+            EXPECT_NEAR(r.sites[j].beta, beta, 1e-4 * tau);
+            EXPECT_NEAR(r.sites[j].amount.value, amount, 1e-4 * amount);
+            EXPECT_NEAR(r.sites[j].mn, 100 / (tau + beta / 2), 0.01 / tau);
+            EXPECT_NEAR(r.sites[j].pw, (2 * tau + 3 * beta) / std::pow(tau + beta, 2), 3e-4 / tau);
+        }
+    }
+}
+
+TEST(Deconvolution, WarnsOfSitesThatGainNothing)
+{
+    const auto one = curve_of({{0.001, 0, 1}}, 100, 10, 1e5);
+    const auto same = app::fit(one, 100, {2, 2, false});
+    ASSERT_EQ(same.warnings.size(), 1u);
+    EXPECT_EQ(same.sites.size(), 1u);
+    const auto range = app::fit(one, 100, {1, 3, false});
+    ASSERT_EQ(range.warnings.size(), 1u);
+    EXPECT_EQ(range.warnings[0].find("--sites 2: "), 0u) << range.warnings[0];
+    EXPECT_EQ(range.residuals.size(), 3u);
+    EXPECT_THROW(app::fit(curve_of({{0.001, 0, 1}}, 6, 10, 1e5), 100, {2, 2, false}), std::runtime_error);
+    auto dark = one;
+    dark.signal.assign(dark.size(), 0);
+    EXPECT_THROW(app::fit(dark, 100, {1, 1, false}), std::runtime_error);
+}
+
+// Two-sided 95 % points of Student's distribution from tables.
+TEST(Deconvolution, WidensLimitsForFewPoints)
+{
+    const std::pair<double, double> table[] = {{3, 3.182}, {10, 2.228}, {30, 2.042}, {120, 1.980}};
+    for (const auto& [freedom, limit] : table) EXPECT_NEAR(app::student_limit(freedom), limit, 0.008 * limit);
+}
+
+Outcome fit(cli::FitCommandOptions options, const std::filesystem::path& file, Format format)
+{
+    const auto command = [&](const auto& path, Format form, std::FILE* out, std::FILE* errors) {
+        options.file = path;
+        options.format = form;
+        return cli::fit(options, out, errors);
+    };
+    return support::capture(command, file, format);
+}
+
+TEST(FitCommand, RecoversTheSitesOfAnExportedComposite)
+{
+    const File exported{"", "exported"};
+    cli::RunOptions run_options;
+    run_options.export_gpc = exported.path;
+    const auto file = examples / "ziegler-natta-5-site.toml";
+    ASSERT_EQ(run(run_options, file, Format::json).status, 0);
+    cli::FitCommandOptions options;
+    options.gpc = exported.path;
+    options.fit = {5, 5, false};
+    const auto seen = fit(options, file, Format::json);
+    ASSERT_EQ(seen.status, 0) << seen.errors;
+    EXPECT_EQ(seen.errors, "");
+    const auto section = Json::parse(seen.out)["fits"][0];
+    const double tau[] = {0.01, 0.004, 0.001, 0.0004, 0.0001};
+    const double amount[] = {0.10, 0.20, 0.35, 0.25, 0.10};
+    ASSERT_EQ(section["fit_sites"].size(), 5u);
+    for (std::size_t j = 0; j < 5; ++j) {
+        EXPECT_NEAR(section["fit_sites"][j]["tau"].get<double>(), tau[j], 1e-4 * tau[j]);
+        EXPECT_NEAR(section["fit_sites"][j]["mass_fraction"].get<double>(), amount[j], 1e-4 * amount[j]);
+    }
+}
+
+// The sites that made the curve of the example are within their limits, and those printed are those of the
+// case.
+TEST(FitCommand, PrintsTheSitesOfTheExample)
+{
+    cli::FitCommandOptions options;
+    options.gpc = examples / "gpc-deconvolution" / "curve.csv";
+    options.fit = {1, 5, false};
+    const auto file = examples / "gpc-deconvolution.toml";
+    const auto seen = fit(options, file, Format::json);
+    ASSERT_EQ(seen.status, 0) << seen.errors;
+    EXPECT_NE(seen.errors.find("curve.csv:1:1: --sites 4: site 4 gains nothing"), std::string::npos)
+        << seen.errors;
+    const auto section = Json::parse(seen.out)["fits"][0];
+    const auto& sites = section["fit_sites"];
+    ASSERT_EQ(sites.size(), 3u);
+    const double tau[] = {0.008, 0.0015, 0.0003};
+    for (std::size_t j = 0; j < 3; ++j) {
+        EXPECT_LT(sites[j]["tau_low"].get<double>(), tau[j]);
+        EXPECT_GT(sites[j]["tau_high"].get<double>(), tau[j]);
+        EXPECT_NEAR(sites[j]["tau"].get<double>(), tau[j], 0.02 * tau[j]);
+    }
+    EXPECT_NE(app::file_contents(file).find(section["sites"].get<std::string>()), std::string::npos);
+    EXPECT_NE(fit(options, file, Format::text).out.find(section["sites"].get<std::string>()),
+              std::string::npos);
+}
+
+}  // namespace
