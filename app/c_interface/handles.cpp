@@ -90,7 +90,7 @@ void RunHandle::index_numbers()
     number_keys_.reserve(all.size());
     numbers_.reserve(all.size());
     for (const auto& n : all) {
-        if (n.table->is_long) continue;
+        if (n.table->is_long || !is_number(n.value)) continue;
         number_keys_.push_back(n.key());
         const auto as_real = [](const auto& value) -> double {
             if constexpr (std::is_arithmetic_v<std::decay_t<decltype(value)>>)

@@ -21,6 +21,7 @@ enum class SegmentType { end = 1, repeat = 2, branch3 = 3, branch4 = 4 };
 
 struct Component : minihost::Component {
     SourcePosition source;
+    std::optional<double> mark_houwink_exponent;
 };
 
 struct Segment {

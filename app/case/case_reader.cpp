@@ -51,6 +51,7 @@ Component read_component(const std::string& id, TableReader table)
     component.dpn = table.number("dpn", Range::not_negative);
     component.pdi = table.number("pdi", Range::positive);
     component.cry = table.number("cry", Range::not_negative);
+    component.mark_houwink_exponent = read_mark_houwink_exponent(table);
     table.finish();
     return component;
 }

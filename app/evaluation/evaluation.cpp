@@ -5,7 +5,6 @@
 
 #include <stdexcept>
 
-#include "app/evaluation/distribution_checks.h"
 #include "app/evaluation/distributions.h"
 #include "app/host_setup/loaded_case.h"
 #include "app/routines/publication.h"
@@ -70,9 +69,9 @@ Results evaluate(const Case& input, const EvaluationOptions& options)
     results.distributions = evaluate_distributions(input, host);
     add_comparison(input, options, results);
     results.parameters = evaluate_parameters(input);
-    for (std::size_t i = 0; i < results.distributions.size(); ++i)
-        for (auto& warning : disagreements(input.distributions[i], results.distributions[i]))
-            results.warnings.push_back(std::move(warning));
+    for (const auto& distribution : results.distributions)
+        results.warnings.insert(results.warnings.end(), distribution.warnings.begin(),
+                                distribution.warnings.end());
     if (options.library_output) results.library_output = publish_all(input, results, host);
     return results;
 }

@@ -49,6 +49,7 @@ std::string cell(const Cell& cell)
         return fmt::format(R"(<td class="number" data-value="{}">{:.6g}</td>)", *value, *value);
     if (const auto* value = std::get_if<Int>(&cell))
         return fmt::format(R"(<td class="number" data-value="{}">{}</td>)", *value, *value);
+    if (std::holds_alternative<std::monostate>(cell)) return R"(<td class="number" data-empty>-</td>)";
     return fmt::format("<td>{}</td>", html_text(std::get<std::string>(cell)));
 }
 

@@ -6,13 +6,20 @@ namespace app {
 
 namespace {
 
-constexpr int schema_version = 1;
+constexpr int schema_version = 2;
 
 JsonValue row_object(const Table& table, const std::vector<Cell>& row)
 {
     auto object = JsonValue::object();
     for (std::size_t i = 0; i < row.size(); ++i)
-        std::visit([&](const auto& value) { object.set(table.columns[i].key, value); }, row[i]);
+        std::visit(
+            [&](const auto& value) {
+                if constexpr (std::is_same_v<decltype(value), const std::monostate&>)
+                    object.set(table.columns[i].key, nullptr);
+                else
+                    object.set(table.columns[i].key, value);
+            },
+            row[i]);
     return object;
 }
 

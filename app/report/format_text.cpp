@@ -15,6 +15,7 @@ std::string shown(const Cell& cell)
 {
     if (const auto* value = std::get_if<double>(&cell)) return fmt::format("{:.6g}", *value);
     if (const auto* value = std::get_if<Int>(&cell)) return fmt::format("{}", *value);
+    if (std::holds_alternative<std::monostate>(cell)) return "-";
     return std::get<std::string>(cell);
 }
 
@@ -29,6 +30,13 @@ std::vector<std::string> shown(const std::vector<Cell>& row)
 std::string unit(const Column& column)
 {
     return column.unit == "1" ? "-" : column.unit;
+}
+
+// Characters of a UTF-8 text: bytes that do not continue one.
+std::size_t character_count(const std::string& text)
+{
+    return static_cast<std::size_t>(std::ranges::count_if(
+        text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
 }
 
 // Headings, units where a column has one, rows.
@@ -49,7 +57,7 @@ std::string aligned(const Table& table)
     const auto all = lines(table);
     std::vector<std::size_t> widths(table.columns.size());
     for (const auto& line : all)
-        for (std::size_t i = 0; i < line.size(); ++i) widths[i] = std::max(widths[i], line[i].size());
+        for (std::size_t i = 0; i < line.size(); ++i) widths[i] = std::max(widths[i], character_count(line[i]));
     std::string text;
     for (const auto& line : all) {
         std::string row;

@@ -12,7 +12,8 @@
 
 namespace app {
 
-using Cell = std::variant<std::string, double, Int>;
+// std::monostate: a result without a value.
+using Cell = std::variant<std::string, double, Int, std::monostate>;
 
 struct Column {
     std::string key;      // stable name in CSV and JSON

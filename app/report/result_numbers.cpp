@@ -13,7 +13,7 @@ std::string item_of(const Table& table, const std::vector<Cell>& row)
     if (is_number(row.front())) return text(row.front());
     for (std::size_t i = 0; i < row.size(); ++i) {
         const auto& key = table.columns[i].key;
-        if (is_number(row[i]) || key == "component" || key == "segment" || key == "class") continue;
+        if (!std::holds_alternative<std::string>(row[i]) || key == "component" || key == "segment" || key == "class") continue;
         const auto source = text_of(table, row, "source");
         return std::get<std::string>(row[i]) + (source.empty() ? "" : "." + source);
     }
@@ -31,7 +31,7 @@ void add_row(const Section& section, const Table& table, const std::vector<Cell>
                             nullptr,
                             {}};
     for (std::size_t i = 0; i < row.size(); ++i) {
-        if (!is_number(row[i])) continue;
+        if (std::holds_alternative<std::string>(row[i])) continue;
         all.push_back(lead);
         all.back().quantity = &table.columns[i];
         all.back().value = row[i];
@@ -42,12 +42,15 @@ void add_row(const Section& section, const Table& table, const std::vector<Cell>
 
 bool is_number(const Cell& cell)
 {
-    return !std::holds_alternative<std::string>(cell);
+    return std::holds_alternative<double>(cell) || std::holds_alternative<Int>(cell);
 }
 
 std::string text(const Cell& cell)
 {
-    return std::visit([](const auto& value) { return fmt::format("{}", value); }, cell);
+    if (std::holds_alternative<std::monostate>(cell)) return {};
+    if (const auto* value = std::get_if<double>(&cell)) return fmt::format("{}", *value);
+    if (const auto* value = std::get_if<Int>(&cell)) return fmt::format("{}", *value);
+    return std::get<std::string>(cell);
 }
 
 std::string text_of(const Table& table, const std::vector<Cell>& row, std::string_view key)

@@ -15,7 +15,7 @@ struct ResultNumber {
     std::string component;
     std::string segment;
     const Column* quantity;
-    Cell value;  // double or Int
+    Cell value;  // double or Int; empty where a result has no value
 
     // The path that a sweep heads a column with.
     std::string key() const;
