@@ -31,9 +31,9 @@ void read_mean(TableReader& table, DistributionComponent& component)
                                 fmt::format("{} has {}; expected one of them", table.path(),
                                             has_mn ? "both mn and dpn" : "neither mn nor dpn"));
     if (component.dpn && !(*component.dpn > 1))
-        table.diagnostics().add(table.entry("dpn")->source,
-                                fmt::format("{}.dpn is {}; expected greater than 1", table.path(),
-                                            *component.dpn));
+        table.diagnostics().add(
+            table.entry("dpn")->source,
+            fmt::format("{}.dpn is {}; expected greater than 1", table.path(), *component.dpn));
 }
 
 void read_dispersity(TableReader& table, DistributionComponent& component)
@@ -41,14 +41,15 @@ void read_dispersity(TableReader& table, DistributionComponent& component)
     const auto given = table.entry("dispersity");
     if (component.model == ChainLengthModel::poisson) {
         if (given)
-            table.diagnostics().add(given->source, given->path + " is given; a Poisson distribution has one "
-                                                                 "that follows from its length");
+            table.diagnostics().add(given->source, given->path +
+                                                       " is given; a Poisson distribution has one "
+                                                       "that follows from its length");
         return;
     }
     const auto value = table.required_number("dispersity", Range::positive);
     if (value && !(*value > 1))
-        table.diagnostics().add(
-            given->source, fmt::format("{} is {}; expected greater than 1", given->path, *value));
+        table.diagnostics().add(given->source,
+                                fmt::format("{} is {}; expected greater than 1", given->path, *value));
     component.dispersity = value.value_or(0);
 }
 

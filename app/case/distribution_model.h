@@ -41,12 +41,12 @@ struct DistributionComponent {
 struct Distribution {
     PlacedName name;
     std::int64_t points = 0;
-    double longest_chain = 0;                   // segments
-    bool is_gpc = false;                        // dw/d ln M instead of the weight fraction per segment
-    std::optional<double> segment_weight;       // g/mol
+    double longest_chain = 0;              // segments
+    bool is_gpc = false;                   // dw/d ln M instead of the weight fraction per segment
+    std::optional<double> segment_weight;  // g/mol
     std::optional<double> mark_houwink_exponent;
-    std::optional<PlacedName> stream;           // whose moments the averages are compared with
-    std::vector<DistributionSection> sections;  // mixed in proportion to what they make
+    std::optional<PlacedName> stream;               // whose moments the averages are compared with
+    std::vector<DistributionSection> sections;      // mixed in proportion to what they make
     std::vector<DistributionComponent> components;  // mixed in likewise
 };
 

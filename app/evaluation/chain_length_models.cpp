@@ -46,10 +46,7 @@ private:
 class SchulzZimm : public AnyPower<SchulzZimm> {
 public:
     explicit SchulzZimm(const ModelDistribution& d) : k_(1 / (d.dispersity - 1)), theta_(d.pn / k_) {}
-    double mean_power(double p) const
-    {
-        return std::exp(p * std::log(theta_) + log_gamma_ratio(k_ + 1, p));
-    }
+    double mean_power(double p) const { return std::exp(p * std::log(theta_) + log_gamma_ratio(k_ + 1, p)); }
     double height(double x) const
     {
         return std::exp(k_ * std::log(x / theta_) - x / theta_ - log_gamma_ratio(1, k_)) / theta_;

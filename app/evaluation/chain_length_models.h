@@ -28,7 +28,8 @@ MassMeans model_means(const ModelDistribution& distribution, const GridEnds& gri
 // Weight fraction per segment at the chain length x; of a Poisson distribution at a whole number.
 double model_height(const ModelDistribution& distribution, double x);
 
-// Viscosity average of a Schulz-Zimm distribution, in the unit of `mn`. A dispersity of 1 is one chain length.
+// Viscosity average of a Schulz-Zimm distribution, in the unit of `mn`. A dispersity of 1 is one chain
+// length.
 double schulz_zimm_viscosity_average(double mn, double dispersity, double exponent);
 
 }  // namespace app

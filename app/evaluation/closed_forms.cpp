@@ -26,9 +26,9 @@ double mean_power(const SiteIncrement& site, double k)
 MassMeans weighted_sum(double a, const MassMeans& first, double b, const MassMeans& second)
 {
     const auto sum = [&](double MassMeans::*member) { return a * first.*member + b * second.*member; };
-    return {sum(&MassMeans::inverse),   sum(&MassMeans::first), sum(&MassMeans::second),
-            sum(&MassMeans::third),     sum(&MassMeans::viscosity),
-            sum(&MassMeans::below),     sum(&MassMeans::above)};
+    return {sum(&MassMeans::inverse), sum(&MassMeans::first),     sum(&MassMeans::second),
+            sum(&MassMeans::third),   sum(&MassMeans::viscosity), sum(&MassMeans::below),
+            sum(&MassMeans::above)};
 }
 
 }  // namespace

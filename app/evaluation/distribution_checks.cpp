@@ -54,10 +54,11 @@ void warn_of_grid(const Distribution& distribution, const DistributionResults& r
     if (below + above <= outside_tolerance) return;
     warnings.push_back(warning(
         distribution.name.source,
-        fmt::format("distributions.{}: {:.3g} % of the mass of {} is outside the grid, {:.3g} % below {:g} and "
-                    "{:.3g} % above {:g} segments; expected at most {:g} %",
-                    results.name, 100 * (below + above), curve.name, 100 * below, results.lengths.front(),
-                    100 * above, results.lengths.back(), 100 * outside_tolerance)));
+        fmt::format(
+            "distributions.{}: {:.3g} % of the mass of {} is outside the grid, {:.3g} % below {:g} and "
+            "{:.3g} % above {:g} segments; expected at most {:g} %",
+            results.name, 100 * (below + above), curve.name, 100 * below, results.lengths.front(),
+            100 * above, results.lengths.back(), 100 * outside_tolerance)));
 }
 
 struct ShortChains {
@@ -83,10 +84,11 @@ void warn_of_short_chains(const Distribution& distribution, std::vector<Diagnost
     if (!site) return;
     warnings.push_back(warning(
         site->source,
-        fmt::format("distributions.{}: tau of site {} is {:g}, greater than {:g}; averages take the chain length "
-                    "as continuous, with Pn = 1/tau = {:.6g} for beta = 0; whole chain lengths give "
-                    "Pn = 1 + 1/tau = {:.6g}",
-                    distribution.name.id, site->id, tau, short_chain_tau, 1 / tau, 1 + 1 / tau)));
+        fmt::format(
+            "distributions.{}: tau of site {} is {:g}, greater than {:g}; averages take the chain length "
+            "as continuous, with Pn = 1/tau = {:.6g} for beta = 0; whole chain lengths give "
+            "Pn = 1 + 1/tau = {:.6g}",
+            distribution.name.id, site->id, tau, short_chain_tau, 1 / tau, 1 + 1 / tau)));
 }
 
 }  // namespace
@@ -126,9 +128,10 @@ std::vector<Diagnostic> distribution_warnings(const Distribution& distribution,
     if (distribution.mark_houwink_exponent && !results.segment_weight)
         warnings.push_back(warning(
             distribution.name.source,
-            fmt::format("distributions.{}.mark_houwink_exponent is not used: there is no segment weight to give "
-                        "Mv in g/mol; expected a segment_weight, or a stream with polymer",
-                        distribution.name.id)));
+            fmt::format(
+                "distributions.{}.mark_houwink_exponent is not used: there is no segment weight to give "
+                "Mv in g/mol; expected a segment_weight, or a stream with polymer",
+                distribution.name.id)));
     return warnings;
 }
 

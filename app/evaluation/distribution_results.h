@@ -1,10 +1,10 @@
 // Chain-length distributions of a case: curves, exact averages, averages on the grid, and checks.
 //
-// Every curve is its part of the composite: its area is the share of its amount in the whole, but for the mass
-// outside the grid. Sites add up to their section, sections and components to the composite.
+// Every curve is its part of the composite: its area is the share of its amount in the whole, but for the
+// mass outside the grid. Sites add up to their section, sections and components to the composite.
 //
-// Averages on the grid are those of the library's report, by the trapezoid rule, with h the weight fraction per
-// unit of chain length and each trapezoid weighted by the chain length at its right-hand end:
+// Averages on the grid are those of the library's report, by the trapezoid rule, with h the weight fraction
+// per unit of chain length and each trapezoid weighted by the chain length at its right-hand end:
 //
 //   a(k) = 0.5·(h(k) + h(k+1))·(x(k+1) − x(k))      area = Σ a(k)
 //   1/Pn = Σ a(k)/x(k+1) / share      Pw = Σ a(k)·x(k+1) / share      PDI = Pw/Pn

@@ -45,12 +45,9 @@ public:
     CurveCollector(const Distribution& distribution, DistributionResults& results)
         : distribution_(distribution),
           results_(results),
-          composite_{"composite",
-                     Curve::Kind::composite,
-                     0.0,
-                     std::vector<double>(static_cast<std::size_t>(distribution.points)),
-                     {},
-                     {},
+          composite_{"composite", Curve::Kind::composite,
+                     0.0,         std::vector<double>(static_cast<std::size_t>(distribution.points)),
+                     {},          {},
                      {}}
     {
         // A distribution without sites has a grid all the same.
@@ -139,10 +136,10 @@ private:
 std::optional<double> chain_length(const DistributionComponent& component, DistributionResults& results)
 {
     const auto refuse = [&](const std::string& why) {
-        results.warnings.push_back(
-            {component.name.source,
-             fmt::format("distributions.{}: component {} is left out: {}", results.name, component.name.id, why),
-             Severity::error});
+        results.warnings.push_back({component.name.source,
+                                    fmt::format("distributions.{}: component {} is left out: {}",
+                                                results.name, component.name.id, why),
+                                    Severity::error});
         return std::optional<double>{};
     };
     if (component.dpn) return component.dpn;
@@ -191,7 +188,8 @@ DistributionResults evaluate(const Distribution& distribution, Host& host)
         results.segment_weight = polymer->mean_segment_weight;
     add_curves(distribution, results);
     if (results.segment_weight)
-        for (const double x : results.lengths) results.molecular_weights.push_back(x * *results.segment_weight);
+        for (const double x : results.lengths)
+            results.molecular_weights.push_back(x * *results.segment_weight);
     add_grid_averages(results);
     if (polymer) results.checks = curve_checks(distribution, results, polymer->moments);
     for (auto& warning : distribution_warnings(distribution, results))

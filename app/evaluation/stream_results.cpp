@@ -48,8 +48,16 @@ std::vector<ChainAverages> chain_averages(const std::string& name, const StreamL
     std::vector<ChainAverages> averages;
     for (std::size_t i = 0; i < list.size(); ++i) {
         const auto& component = host.components().at(list.components[i].index);
-        averages.push_back({component.id, component.component_class, list.mole_flow[i], dpn[i], mrf[i], mn[i],
-                            mw[i], pdi[i], z_average(stream, list.components[i], mrf[i], host), {}});
+        averages.push_back({component.id,
+                            component.component_class,
+                            list.mole_flow[i],
+                            dpn[i],
+                            mrf[i],
+                            mn[i],
+                            mw[i],
+                            pdi[i],
+                            z_average(stream, list.components[i], mrf[i], host),
+                            {}});
         averages.back().mv =
             viscosity_average(averages.back(), input.find(component.id)->mark_houwink_exponent);
     }

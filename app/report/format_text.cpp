@@ -35,8 +35,8 @@ std::string unit(const Column& column)
 // Characters of a UTF-8 text: bytes that do not continue one.
 std::size_t character_count(const std::string& text)
 {
-    return static_cast<std::size_t>(std::ranges::count_if(
-        text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+    return static_cast<std::size_t>(
+        std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
 }
 
 // Headings, units where a column has one, rows.
@@ -57,7 +57,8 @@ std::string aligned(const Table& table)
     const auto all = lines(table);
     std::vector<std::size_t> widths(table.columns.size());
     for (const auto& line : all)
-        for (std::size_t i = 0; i < line.size(); ++i) widths[i] = std::max(widths[i], character_count(line[i]));
+        for (std::size_t i = 0; i < line.size(); ++i)
+            widths[i] = std::max(widths[i], character_count(line[i]));
     std::string text;
     for (const auto& line : all) {
         std::string row;

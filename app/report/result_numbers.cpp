@@ -13,7 +13,9 @@ std::string item_of(const Table& table, const std::vector<Cell>& row)
     if (is_number(row.front())) return text(row.front());
     for (std::size_t i = 0; i < row.size(); ++i) {
         const auto& key = table.columns[i].key;
-        if (!std::holds_alternative<std::string>(row[i]) || key == "component" || key == "segment" || key == "class") continue;
+        if (!std::holds_alternative<std::string>(row[i]) || key == "component" || key == "segment" ||
+            key == "class")
+            continue;
         const auto source = text_of(table, row, "source");
         return std::get<std::string>(row[i]) + (source.empty() ? "" : "." + source);
     }

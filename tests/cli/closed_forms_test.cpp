@@ -32,8 +32,8 @@ MassMeans of_mixture()
     return *all.mean();
 }
 
-// Expected: Simpson's rule over ln x with 40 000 intervals on the weight fractions per segment; of the Poisson
-// distribution sums over whole chain lengths.
+// Expected: Simpson's rule over ln x with 40 000 intervals on the weight fractions per segment; of the
+// Poisson distribution sums over whole chain lengths.
 TEST(ClosedForms, HaveTheAveragesOfTheirWeightFractions)
 {
     const app::GridEnds wide{1, 5000};

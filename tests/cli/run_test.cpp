@@ -42,7 +42,7 @@ TEST(Run, CsvHoldsTheNumbersOfJson)
     for (const char* example : {"nylon6-oligomers.toml", "slurry-hdpe.toml"}) {
         const auto json = run(examples / example, Format::json).out;
         EXPECT_EQ(run(examples / example, Format::csv).out, csv_of(json));
-        EXPECT_EQ(Json::parse(json)["schema_version"], 1);
+        EXPECT_EQ(Json::parse(json)["schema_version"], 2);
     }
 }
 
