@@ -182,11 +182,12 @@ void check_models(const Distribution& distribution, double zero_bound, Diagnosti
     for (const auto& component : distribution.components) {
         names.push_back(component.name);
         total += component.amount;
-        if (component.mn && !distribution.segment_weight && !distribution.stream)
-            diagnostics.add(component.name.source,
-                            fmt::format("{}: {} is given by mn; expected a segment_weight or a stream too, "
-                                        "to make chain lengths of it",
-                                        path, component.name.id));
+        if (component.mn && !component.dpn && !distribution.segment_weight && !distribution.stream)
+            diagnostics.add(
+                component.name.source,
+                fmt::format("{}: component {} is given by mn; expected a segment_weight or a stream too, "
+                            "to make chain lengths of it",
+                            path, component.name.id));
     }
     check_unique(names, path + ".components", diagnostics);
     if (distribution.sections.empty() && !names.empty() && !(total > zero_bound))

@@ -116,8 +116,8 @@ TEST(Distribution, ComponentsHaveCurvesOfTheirAverages)
             EXPECT_NEAR(composite.averages->pn, r.pn, 1e-9 * r.pn);
             EXPECT_NEAR(composite.averages->pw, r.pw, 1e-9 * r.pw);
             EXPECT_NEAR(composite.on_grid->area, 1, 1e-4);
-            EXPECT_NEAR(composite.on_grid->pn, r.pn, 0.7);  // lengths of right-hand ends, one segment apart
-            EXPECT_NEAR(composite.on_grid->pw, r.pw, 0.7);
+            EXPECT_NEAR(composite.on_grid->pn, r.pn, 1.1);  // lengths of right-hand ends, one segment apart
+            EXPECT_NEAR(composite.on_grid->pw, r.pw, 1.1);
         }
     }
 }
@@ -170,7 +170,7 @@ TEST(Distribution, WarnsOfMassOutsideTheGridShortChainsMomentsAndUnusedKeys)
           "and "
           "73.6 % above 1000 segments; expected at most 1 %"}},
         {grid + "sites = [{ tau = 0.01, amount = 1 }, { tau = 0.0125, amount = 1 }]\n",
-         {"c.toml:7:32: distributions.D: tau of site 2 is 0.0125, greater than 0.01; averages take the chain "
+         {"c.toml:7:38: distributions.D: tau of site 2 is 0.0125, greater than 0.01; averages take the chain "
           "length as "
           "continuous, with Pn = 1/tau = 80 for beta = 0; whole chain lengths give Pn = 1 + 1/tau = 81"}},
         {grid + "mark_houwink_exponent = 0.7\nsites = [{ tau = 0.01, amount = 1 }]\n",
@@ -179,16 +179,16 @@ TEST(Distribution, WarnsOfMassOutsideTheGridShortChainsMomentsAndUnusedKeys)
           "g/mol; expected a segment_weight, or a stream with polymer"}},
         {stream + grid + "stream = \"F\"\nsites = [{ tau = 0.01, amount = 1 }]\n", {}},
         {stream + grid + "stream = \"F\"\nsites = [{ tau = 0.01, beta = 1e-7, amount = 1 }]\n",
-         {"c.toml:15:10: distributions.D: Pn of composite is 99.9995 by its parameters and 100 by the "
+         {"c.toml:16:1: distributions.D: Pn of composite is 99.9995 by its parameters and 100 by the "
           "moments of "
           "stream F; the relative difference is -5e-06, more than 1e-06",
-          "c.toml:15:10: distributions.D: Pw of composite is 199.999 by its parameters and 200 by the "
+          "c.toml:16:1: distributions.D: Pw of composite is 199.999 by its parameters and 200 by the "
           "moments of "
           "stream F; the relative difference is -5e-06, more than 1e-06"}},
         {stream + grid +
              "stream = \"F\"\nsites = [{ tau = 0.01, amount = 1 }]\n"
              "components = [{ type = \"poisson\", mn = 10, amount = 1 }]\n",
-         {"c.toml:17:16: distributions.D: component 1 is left out: mn is 10; expected more than a segment "
+         {"c.toml:18:15: distributions.D: component 1 is left out: mn is 10; expected more than a segment "
           "weighs, 10 "
           "g/mol"}},
     };
