@@ -16,7 +16,7 @@ constexpr double greatest_exponent = 2;
 ChainLengthModel read_model(TableReader& table)
 {
     const auto type = table.entry("type");
-    if (!type) table.missing("type", "\"log-normal\", \"schulz-zimm\" or \"poisson\"");
+    if (!type) table.missing("type", R"("log-normal", "schulz-zimm" or "poisson")");
     return type ? read_word(*type, models, table.diagnostics()).value_or(ChainLengthModel::log_normal)
                 : ChainLengthModel::log_normal;
 }

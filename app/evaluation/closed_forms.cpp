@@ -22,7 +22,7 @@ double mean_power(const SiteIncrement& site, double k)
     return gamma * (site.tau + site.beta * (k + 2) / 2) / std::pow(site.tau + site.beta, k + 1);
 }
 
-// target = a·first + b·second, member by member.
+// a·first + b·second, member by member.
 MassMeans weighted_sum(double a, const MassMeans& first, double b, const MassMeans& second)
 {
     const auto sum = [&](double MassMeans::*member) { return a * first.*member + b * second.*member; };

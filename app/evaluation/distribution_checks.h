@@ -1,5 +1,5 @@
 // Averages of a distribution by the parameters of its sites and by the moments of a stream, and warnings
-// about what a reader might not expect of its results. By moments, Pn = first/zeroth and Pw = second/first.
+// about its results. By moments, Pn = first/zeroth and Pw = second/first.
 #pragma once
 
 #include "app/case/distribution_model.h"
