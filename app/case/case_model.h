@@ -23,6 +23,7 @@ struct Component : minihost::Component {
     SourcePosition source;
     SourcePosition dpn_source = {};  // of the parameter, where it is given
     SourcePosition pdi_source = {};
+    std::optional<double> mark_houwink_exponent;
 };
 
 struct Segment {

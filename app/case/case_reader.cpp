@@ -62,6 +62,7 @@ Component read_component(const std::string& id, TableReader table)
     component.dpn = read_placed_number(table, "dpn", Range::not_negative, component.dpn_source);
     component.pdi = read_placed_number(table, "pdi", Range::positive, component.pdi_source);
     component.cry = table.number("cry", Range::not_negative);
+    component.mark_houwink_exponent = read_mark_houwink_exponent(table);
     table.finish();
     return component;
 }

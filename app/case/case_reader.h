@@ -17,7 +17,11 @@ std::vector<Property> read_properties(TableReader table);
 std::vector<Reactor> read_reactors(TableReader table);
 
 std::vector<Distribution> read_distributions(TableReader table);
+std::vector<DistributionComponent> read_distribution_components(TableReader& table);
 std::vector<ParameterSet> read_parameter_sets(TableReader table);
+
+// Greater than 0 and at most 2; absent where the table has none.
+std::optional<double> read_mark_houwink_exponent(TableReader& table);
 
 // Component IDs and numbers.
 std::vector<ComponentValue> read_component_values(TableReader table, Range range);

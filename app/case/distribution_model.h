@@ -26,14 +26,28 @@ struct DistributionSection {
     std::vector<Increment> increments;
 };
 
+enum class ChainLengthModel { log_normal, schulz_zimm, poisson };
+
+// Polymer whose chain lengths follow a model.
+struct DistributionComponent {
+    PlacedName name;
+    ChainLengthModel model = ChainLengthModel::log_normal;
+    std::optional<double> mn;   // g/mol; this or dpn is given
+    std::optional<double> dpn;  // segments per chain
+    double dispersity = 0;      // Mw/Mn; not read for a Poisson distribution
+    double amount = 0;          // as of sites
+};
+
 struct Distribution {
     PlacedName name;
     std::int64_t points = 0;
-    double longest_chain = 0;                   // segments
-    bool is_gpc = false;                        // chain length times weight fraction
-    std::optional<double> segment_weight;       // g/mol
-    std::optional<PlacedName> stream;           // whose moments the averages are checked against
-    std::vector<DistributionSection> sections;  // mixed in proportion to what they make
+    double longest_chain = 0;              // segments
+    bool is_gpc = false;                   // dw/d ln M instead of the weight fraction per segment
+    std::optional<double> segment_weight;  // g/mol
+    std::optional<double> mark_houwink_exponent;
+    std::optional<PlacedName> stream;               // whose moments the averages are compared with
+    std::vector<DistributionSection> sections;      // mixed in proportion to what they make
+    std::vector<DistributionComponent> components;  // mixed in likewise
 };
 
 struct ParameterPair {

@@ -101,6 +101,7 @@ std::vector<DistributionSection> read_sections(TableReader& table)
 {
     std::vector<DistributionSection> sections;
     if (!table.entry("sections")) {
+        if (!table.entry("sites") && !table.entry("increments") && table.entry("components")) return sections;
         sections.push_back({{"", table.source()}, {}, {}});
         read_increments(table, sections.back());
         return sections;
@@ -142,8 +143,10 @@ Distribution read_distribution(const Entry& entry, TableReader table)
     if (const auto form = table.entry("form"))
         distribution.is_gpc = read_word(*form, forms, table.diagnostics()).value_or(false);
     distribution.segment_weight = table.number("segment_weight", Range::positive);
+    distribution.mark_houwink_exponent = read_mark_houwink_exponent(table);
     distribution.stream = reference(table, "stream");
     distribution.sections = read_sections(table);
+    distribution.components = read_distribution_components(table);
     table.finish();
     return distribution;
 }
@@ -169,6 +172,28 @@ void check_amounts(const DistributionSection& section, std::string_view path, do
         diagnostics.add(section.name.source,
                         fmt::format("{} makes {} in total; expected more than the zero bound, {}", path,
                                     total, zero_bound));
+}
+
+void check_models(const Distribution& distribution, double zero_bound, Diagnostics& diagnostics)
+{
+    const auto path = "distributions." + distribution.name.id;
+    double total = 0;
+    std::vector<PlacedName> names;
+    for (const auto& component : distribution.components) {
+        names.push_back(component.name);
+        total += component.amount;
+        if (component.mn && !component.dpn && !distribution.segment_weight && !distribution.stream)
+            diagnostics.add(
+                component.name.source,
+                fmt::format("{}: component {} is given by mn; expected a segment_weight or a stream too, "
+                            "to make chain lengths of it",
+                            path, component.name.id));
+    }
+    check_unique(names, path + ".components", diagnostics);
+    if (distribution.sections.empty() && !names.empty() && !(total > zero_bound))
+        diagnostics.add(distribution.name.source,
+                        fmt::format("{} has components of {} in total; expected more than the zero bound, {}",
+                                    path, total, zero_bound));
 }
 
 }  // namespace
@@ -200,6 +225,7 @@ void check_distributions(const Case& input, Diagnostics& diagnostics)
             check_amounts(section, path, input.settings.zero_bound, diagnostics);
         }
         check_unique(names, path + ".sections", diagnostics);
+        check_models(distribution, input.settings.zero_bound, diagnostics);
     }
 }
 

@@ -9,121 +9,89 @@ namespace app {
 
 namespace {
 
-// Rounding, and what a sum of trapezoids leaves open besides the choice of its sides.
-constexpr double grid_tolerance = 1e-5;
-// A composite is the sum of its sites point by point: six digits.
-constexpr double sum_tolerance = 1e-6;
+constexpr double moment_tolerance = 1e-6;   // relative
+constexpr double outside_tolerance = 0.01;  // mass fraction
+constexpr double short_chain_tau = 0.01;    // chains of 100 segments
 
-// Mass-weighted sums of 1/Pn and Pw.
-struct Sums {
-    double amount = 0;
-    double over = 0;
-    double times = 0;
-
-    void add(const SiteIncrement& site)
-    {
-        const double s = site.tau + site.beta;
-        amount += site.amount;
-        over += site.amount * (site.tau + site.beta / 2);
-        times += site.amount * (2 * site.tau + 3 * site.beta) / (s * s);
-    }
-    void add(const Sums& other)
-    {
-        amount += other.amount;
-        over += other.over;
-        times += other.times;
-    }
-};
-
-class Checks {
-public:
-    explicit Checks(const DistributionResults& results) : results_(results) {}
-
-    void add(const std::string& curve, std::string source, double pn, double pw)
-    {
-        const auto& averages = averages_of(curve);
-        checks_.push_back({curve, std::move(source), averages, pn, pw, averages.pn_spread + grid_tolerance,
-                           averages.pw_spread + grid_tolerance});
-    }
-
-    void add(const std::string& curve, const Sums& sums)
-    {
-        if (sums.amount > 0) add(curve, "site parameters", sums.amount / sums.over, sums.times / sums.amount);
-    }
-
-    // A stream without polymer, or without second moments, says nothing.
-    void add(const std::string& curve, const routines::StreamMoments& moments, std::size_t entry)
-    {
-        const double z = moments.zeroth[entry];
-        const double f = moments.first[entry];
-        const double s = moments.second[entry];
-        if (z > 0 && f > 0 && s > 0) add(curve, "stream moments", f / z, s / f);
-    }
-
-    // The averages of the composite from those of its sites, on the same grid.
-    void add_sum_of_sites()
-    {
-        double over = 0;
-        double times = 0;
-        double share = 1;  // of the section, whose curves follow it
-        int sites = 0;
-        for (const auto& curve : results_.curves) {
-            if (curve.kind == Curve::Kind::section) share = curve.amount / results_.composite().amount;
-            if (curve.kind != Curve::Kind::site || !(curve.averages.area > 0)) continue;
-            over += share * curve.averages.area / curve.averages.pn;
-            times += share * curve.averages.area * curve.averages.pw;
-            ++sites;
-        }
-        if (sites > 1)
-            checks_.push_back({"composite", "sum of the sites", averages_of("composite"), 1 / over, times,
-                               sum_tolerance, sum_tolerance});
-    }
-
-    std::vector<CurveCheck> take() { return std::move(checks_); }
-
-private:
-    const CurveAverages& averages_of(const std::string& curve) const
-    {
-        return std::ranges::find(results_.curves, curve, &Curve::name)->averages;
-    }
-
-    const DistributionResults& results_;
-    std::vector<CurveCheck> checks_;
-};
-
-void check_parameters(const Distribution& distribution, Checks& checks)
+// A stream without polymer, or without second moments, says nothing; nor does a site that makes nothing.
+void add_check(const Curve& curve, const routines::StreamMoments& moments, std::size_t entry,
+               std::vector<CurveCheck>& checks)
 {
-    Sums all;
-    for (const auto& section : distribution.sections) {
-        Sums whole;
-        for (std::size_t j = 0; j < section.sites.size(); ++j) {
-            Sums site;
-            for (const auto& increment : section.increments) site.add(increment[j]);
-            checks.add(site_curve_name(section, j), site);
-            whole.add(site);
-        }
-        if (!section.name.id.empty()) checks.add(section_curve_name(section), whole);
-        all.add(whole);
-    }
-    checks.add("composite", all);
+    const double z = moments.zeroth[entry];
+    const double f = moments.first[entry];
+    const double s = moments.second[entry];
+    if (curve.averages && z > 0 && f > 0 && s > 0)
+        checks.push_back({curve.name, curve.averages->pn, f / z, curve.averages->pw, s / f});
 }
 
-// Site moments belong to the sites of one section.
-void check_moments(const Distribution& distribution, const routines::StreamMoments& moments, Checks& checks)
+Diagnostic warning(const SourcePosition& source, std::string text)
 {
-    const auto& section = distribution.sections.front();
-    if (distribution.sections.size() == 1 && moments.sites() == section.sites.size())
-        for (std::size_t j = 0; j < section.sites.size(); ++j)
-            checks.add(site_curve_name(section, j), moments, j);
-    checks.add("composite", moments, moments.sites());
+    return {source, std::move(text), Severity::warning};
+}
+
+void warn_of_moments(const Distribution& distribution, const CurveCheck& check,
+                     std::vector<Diagnostic>& warnings)
+{
+    const auto compare = [&](const char* average, double seen, double expected, double difference) {
+        if (!std::isfinite(difference) || std::abs(difference) <= moment_tolerance) return;
+        warnings.push_back(warning(
+            distribution.stream->source,
+            fmt::format("distributions.{}: {} of {} is {:.6g} by its parameters and {:.6g} by the moments of "
+                        "stream {}; the relative difference is {:.2g}, more than {:g}",
+                        distribution.name.id, average, check.curve, seen, expected, distribution.stream->id,
+                        difference, moment_tolerance)));
+    };
+    compare("Pn", check.pn, check.pn_expected, check.pn_difference());
+    compare("Pw", check.pw, check.pw_expected, check.pw_difference());
+}
+
+void warn_of_grid(const Distribution& distribution, const DistributionResults& results, const Curve& curve,
+                  std::vector<Diagnostic>& warnings)
+{
+    if (!curve.averages) return;
+    const double below = curve.averages->below_grid;
+    const double above = curve.averages->above_grid;
+    if (below + above <= outside_tolerance) return;
+    warnings.push_back(warning(
+        distribution.name.source,
+        fmt::format(
+            "distributions.{}: {:.3g} % of the mass of {} is outside the grid, {:.3g} % below {:g} and "
+            "{:.3g} % above {:g} segments; expected at most {:g} %",
+            results.name, 100 * (below + above), curve.name, 100 * below, results.lengths.front(),
+            100 * above, results.lengths.back(), 100 * outside_tolerance)));
+}
+
+struct ShortChains {
+    double tau = short_chain_tau;
+    const PlacedName* site = nullptr;
+};
+
+// The site with the greatest τ that makes polymer.
+ShortChains shortest_chains(const Distribution& distribution)
+{
+    ShortChains found;
+    for (const auto& section : distribution.sections)
+        for (const auto& increment : section.increments)
+            for (std::size_t j = 0; j < std::min(increment.size(), section.sites.size()); ++j)
+                if (increment[j].amount > 0 && increment[j].tau > found.tau)
+                    found = {increment[j].tau, &section.sites[j]};
+    return found;
+}
+
+void warn_of_short_chains(const Distribution& distribution, std::vector<Diagnostic>& warnings)
+{
+    const auto [tau, site] = shortest_chains(distribution);
+    if (!site) return;
+    warnings.push_back(warning(
+        site->source,
+        fmt::format(
+            "distributions.{}: tau of site {} is {:g}, greater than {:g}; averages take the chain length "
+            "as continuous, with Pn = 1/tau = {:.6g} for beta = 0; whole chain lengths give "
+            "Pn = 1 + 1/tau = {:.6g}",
+            distribution.name.id, site->id, tau, short_chain_tau, 1 / tau, 1 + 1 / tau)));
 }
 
 }  // namespace
-
-bool CurveCheck::agrees() const
-{
-    return std::abs(pn_difference()) <= pn_tolerance && std::abs(pw_difference()) <= pw_tolerance;
-}
 
 std::string section_curve_name(const DistributionSection& section)
 {
@@ -136,30 +104,35 @@ std::string site_curve_name(const DistributionSection& section, std::size_t site
     return section.name.id.empty() ? "site " + name : section.name.id + ": site " + name;
 }
 
+// Site moments belong to the sites of one section.
 std::vector<CurveCheck> curve_checks(const Distribution& distribution, const DistributionResults& results,
-                                     const routines::StreamMoments* moments)
+                                     const routines::StreamMoments& moments)
 {
-    Checks checks{results};
-    checks.add_sum_of_sites();
-    check_parameters(distribution, checks);
-    if (moments) check_moments(distribution, *moments, checks);
-    return checks.take();
+    std::vector<CurveCheck> checks;
+    if (distribution.sections.size() == 1 && moments.sites() == distribution.sections.front().sites.size()) {
+        std::size_t entry = 0;
+        for (const auto& curve : results.curves)
+            if (curve.kind == Curve::Kind::site) add_check(curve, moments, entry++, checks);
+    }
+    add_check(results.composite(), moments, moments.sites(), checks);
+    return checks;
 }
 
-std::vector<Diagnostic> disagreements(const Distribution& distribution, const DistributionResults& results)
+std::vector<Diagnostic> distribution_warnings(const Distribution& distribution,
+                                              const DistributionResults& results)
 {
-    std::vector<Diagnostic> found;
-    for (const auto& check : results.checks)
-        if (std::isfinite(check.pn) && std::isfinite(check.pw) && !check.agrees())
-            found.push_back(
-                {distribution.name.source,
-                 fmt::format(
-                     "distributions.{}: {} has Pn {:.6g} and Pw {:.6g} on the grid; by its {} they are "
-                     "{:.6g} and {:.6g}: more points or a greater longest_chain may be needed",
-                     results.name, check.curve, check.averages.pn, check.averages.pw, check.source, check.pn,
-                     check.pw),
-                 Severity::warning});
-    return found;
+    std::vector<Diagnostic> warnings;
+    for (const auto& check : results.checks) warn_of_moments(distribution, check, warnings);
+    for (const auto& curve : results.curves) warn_of_grid(distribution, results, curve, warnings);
+    warn_of_short_chains(distribution, warnings);
+    if (distribution.mark_houwink_exponent && !results.segment_weight)
+        warnings.push_back(warning(
+            distribution.name.source,
+            fmt::format(
+                "distributions.{}.mark_houwink_exponent is not used: there is no segment weight to give "
+                "Mv in g/mol; expected a segment_weight, or a stream with polymer",
+                distribution.name.id)));
+    return warnings;
 }
 
 }  // namespace app

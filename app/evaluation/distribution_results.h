@@ -1,73 +1,92 @@
-// Chain-length distributions of a case: curves, averages, and checks of both.
+// Chain-length distributions of a case: curves, exact averages, averages on the grid, and checks.
 //
-// Averages by the trapezoid rule of the library's report, with h the weight fraction per unit of chain length
-// and each trapezoid weighted by the chain length at its right-hand end:
+// Every curve is its part of the composite: its area is the share of its amount in the whole, but for the
+// mass outside the grid. Sites add up to their section, sections and components to the composite.
+//
+// Averages on the grid are those of the library's report, by the trapezoid rule, with h the weight fraction
+// per unit of chain length and each trapezoid weighted by the chain length at its right-hand end:
 //
 //   a(k) = 0.5·(h(k) + h(k+1))·(x(k+1) − x(k))      area = Σ a(k)
-//   1/Pn = Σ a(k)/x(k+1)      Pw = Σ a(k)·x(k+1)      PDI = Pw/Pn
-//
-// A site's curve is its part of the composite: its area is its mass fraction, and its averages are divided by
-// it. So 1/Pn of the composite is the sum of area/Pn of the sites, and its Pw that of area·Pw, on any grid.
+//   1/Pn = Σ a(k)/x(k+1) / share      Pw = Σ a(k)·x(k+1) / share      PDI = Pw/Pn
 #pragma once
 
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "app/case/diagnostics.h"
 #include "app/evaluation/measured_comparison.h"
 
 namespace app {
 
-struct CurveAverages {
-    double area = 0;  // 1
-    double pn = 0;    // segments per chain, number average
-    double pw = 0;    // the same, weight average
-    double pdi = 0;   // Pw/Pn
-    double mn = 0;    // g/mol; 0 when the segment weight is not known
-    double mw = 0;    // g/mol; the same
+// In closed form, without the grid.
+struct DistributionAverages {
+    double pn = 0;             // segments per chain, number average
+    double pw = 0;             // the same, weight average
+    double pz = 0;             // the same, z-average
+    double pz1 = 0;            // the same, (z+1)-average
+    double pdi = 0;            // Pw/Pn
+    double mn = 0;             // g/mol; this and the next only with a segment weight
+    double mw = 0;             // g/mol
+    double mz = 0;             // g/mol
+    double mz1 = 0;            // g/mol
+    std::optional<double> mv;  // g/mol; with a Mark-Houwink exponent and a segment weight
+    double below_grid = 0;     // mass fraction of chains shorter than the first grid point
+    double above_grid = 0;     // mass fraction of chains longer than the last grid point
+};
 
-    // What the grid leaves open: the relative distance to the average that weights by left-hand chain
-    // lengths.
-    double pn_spread = 0;
-    double pw_spread = 0;
+struct GridAverages {
+    double area = 0;           // 1
+    double pn = 0;             // segments per chain
+    double pw = 0;             // segments per chain
+    double pdi = 0;            // Pw/Pn
+    double pn_grid_error = 0;  // percent of the closed form
+    double pw_grid_error = 0;  // percent of the closed form
 };
 
 struct Curve {
-    enum class Kind { composite, section, site };
+    enum class Kind { composite, section, site, component };
 
     std::string name;
     Kind kind = Kind::composite;
     double amount = 0;
-    std::vector<double> values;  // by grid point
-    CurveAverages averages;
+    std::vector<double> values;                    // by grid point
+    std::vector<double> chromatogram;              // dw/dlog10(M), by grid point
+    std::optional<DistributionAverages> averages;  // empty when nothing was made
+    std::optional<GridAverages> on_grid;           // empty when the grid reaches nothing
 };
 
-// Averages of a curve from another source.
+// As the key of its chromatogram.
+inline std::string chromatogram_name(const Curve& curve)
+{
+    return curve.kind == Curve::Kind::composite ? "dw_dlog10m" : "dw_dlog10m " + curve.name;
+}
+
+// Averages of a curve by its parameters and by the moments of a stream.
 struct CurveCheck {
     std::string curve;
-    std::string source;
-    CurveAverages averages;
-    double pn = 0;
+    double pn = 0;           // by its parameters
+    double pn_expected = 0;  // by moments
     double pw = 0;
-    double pn_tolerance = 0;  // relative
-    double pw_tolerance = 0;
+    double pw_expected = 0;
 
-    double pn_difference() const { return averages.pn / pn - 1; }
-    double pw_difference() const { return averages.pw / pw - 1; }
-    bool agrees() const;
+    double pn_difference() const { return pn / pn_expected - 1; }
+    double pw_difference() const { return pw / pw_expected - 1; }
 };
 
 struct DistributionResults {
     std::string name;
     bool is_gpc = false;
     std::optional<double> segment_weight;   // g/mol
+    std::optional<double> exponent;         // of Mark and Houwink
     std::vector<double> lengths;            // segments
     std::vector<double> molecular_weights;  // g/mol; empty when the segment weight is not known
-    std::vector<Curve> curves;              // the composite first, then each section and its sites
-    std::vector<double> cumulative;         // mass fraction of the chains up to each length
-    std::vector<double> chromatogram;       // dw/dlog10(M) of the composite
+    std::vector<Curve> curves;              // the composite, each section and its sites, components
+    std::vector<double> cumulative;         // mass fraction on the grid of the chains up to each length
     std::vector<CurveCheck> checks;
     std::optional<MeasuredComparison> measured;
+    std::vector<std::vector<double>> parts;  // of the composite, each of area 1
+    std::vector<Diagnostic> warnings;
 
     const Curve& composite() const { return curves.front(); }
     // Weight fraction per unit of chain length.

@@ -1,13 +1,14 @@
 #include "app/evaluation/distributions.h"
 
-#include <numbers>
+#include <fmt/format.h>
 
+#include "app/evaluation/chain_length_models.h"
+#include "app/evaluation/distribution_averages.h"
 #include "app/evaluation/distribution_checks.h"
 #include "app/evaluation/reactors.h"
 #include "app/evaluation/stream_list.h"
 #include "app/routines/chain_length_distribution.h"
 #include "app/routines/publication.h"
-#include "src/numeric/trapezoid_averages.h"
 
 namespace app {
 
@@ -38,77 +39,125 @@ routines::AccumulatedDistribution accumulate(const Distribution& distribution,
     return made;
 }
 
-void add_section(const DistributionSection& section, const routines::AccumulatedDistribution& made,
-                 DistributionResults& results)
-{
-    if (!section.name.id.empty())
-        results.curves.push_back(
-            {section_curve_name(section), Curve::Kind::section, made.amount(), made.composite(), {}});
-    for (std::size_t j = 0; j < section.sites.size(); ++j)
-        results.curves.push_back(
-            {site_curve_name(section, j), Curve::Kind::site, made.amount(j), made.site(j), {}});
-}
-
-// Calls visit(area, left-hand length, right-hand length) for each trapezoid of a curve.
-template <class Visit>
-void visit_trapezoids(const DistributionResults& r, const Curve& curve, Visit visit)
-{
-    const auto point = [](Int k) { return static_cast<std::size_t>(k - 1); };
-    polyprops::numeric::visit_trapezoids(
-        std::ssize(r.lengths), [&](Int k) { return r.lengths[point(k)]; },
-        [&](Int k) { return r.height(curve, point(k)); }, visit);
-}
-
-CurveAverages averages(const DistributionResults& r, const Curve& curve)
-{
-    polyprops::numeric::TrapezoidSums sums;
-    double over_left = 0;
-    double times_left = 0;
-    visit_trapezoids(r, curve, [&](double area, double left, double right) {
-        sums.add(area, right);
-        over_left += area / left;
-        times_left += area * left;
-    });
-    CurveAverages result;
-    result.area = sums.area;
-    if (!(result.area > 0)) return {};  // made nothing, or nothing that the grid reaches
-    // The report does not divide those of a composite by its area.
-    const double share = curve.kind == Curve::Kind::site ? result.area : 1.0;
-    result.pn = share / sums.over_length;
-    result.pw = sums.times_length / share;
-    result.pdi = result.pw / result.pn;
-    result.pn_spread = over_left / sums.over_length - 1;
-    result.pw_spread = 1 - times_left / sums.times_length;
-    return result;
-}
-
-std::vector<double> cumulative(const DistributionResults& r)
-{
-    std::vector<double> sums{0.0};
-    visit_trapezoids(r, r.composite(),
-                     [&](double area, double, double) { sums.push_back(sums.back() + area); });
-    return sums;
-}
-
-DistributionResults curves(const Distribution& distribution)
-{
-    DistributionResults results;
-    results.name = distribution.name.id;
-    results.is_gpc = distribution.is_gpc;
-    results.segment_weight = distribution.segment_weight;
-    results.curves.push_back({"composite",
-                              Curve::Kind::composite,
-                              0.0,
-                              std::vector<double>(static_cast<std::size_t>(distribution.points)),
-                              {}});
-    for (const auto& section : distribution.sections) {
-        const auto made = accumulate(distribution, section);
-        auto& composite = results.curves.front();
-        routines::mix_in(made.composite(), made.amount(), composite.values, composite.amount);
-        add_section(section, made, results);
-        results.lengths = made.lengths();
+// Collects the curves of a distribution. Every curve gets its share of the composite at the end.
+class CurveCollector {
+public:
+    CurveCollector(const Distribution& distribution, DistributionResults& results)
+        : distribution_(distribution),
+          results_(results),
+          composite_{"composite", Curve::Kind::composite,
+                     0.0,         std::vector<double>(static_cast<std::size_t>(distribution.points)),
+                     {},          {},
+                     {}}
+    {
+        // A distribution without sites has a grid all the same.
+        results_.lengths = accumulate(distribution, {}).lengths();
+        grid_ = {results_.lengths.front(), results_.lengths.back()};
     }
-    return results;
+
+    void add(const DistributionSection& section)
+    {
+        const auto made = accumulate(distribution_, section);
+        routines::mix_in(made.composite(), made.amount(), composite_.values, composite_.amount);
+        results_.parts.push_back(made.composite());
+        const auto means = means_of_sites(section);
+        MassWeightedMeans all;
+        for (const auto& site : means) all.add(site);
+        means_.add(all);
+        if (!section.name.id.empty())
+            add(section_curve_name(section), Curve::Kind::section, made.amount(), made.composite(),
+                made.amount(), all);
+        for (std::size_t j = 0; j < section.sites.size(); ++j)
+            add(site_curve_name(section, j), Curve::Kind::site, made.amount(j), made.site(j), made.amount(),
+                means[j]);
+    }
+
+    void add(const DistributionComponent& component, double pn)
+    {
+        const ModelDistribution model{component.model, pn, component.dispersity};
+        std::vector<double> values;
+        for (const double x : results_.lengths)
+            values.push_back((distribution_.is_gpc ? x : 1) * model_height(model, x));
+        routines::mix_in(values, component.amount, composite_.values, composite_.amount);
+        MassWeightedMeans means;
+        means.add(component.amount, model_means(model, grid_, distribution_.mark_houwink_exponent));
+        means_.add(means);
+        add("component " + component.name.id, Curve::Kind::component, component.amount, values,
+            component.amount, means);
+        results_.parts.push_back(std::move(values));
+    }
+
+    void finish()
+    {
+        // One section without a name is the composite.
+        if (results_.parts.size() == 1 && parts_.front().kind == Curve::Kind::site)
+            results_.parts.front() = composite_.values;
+        composite_.averages = averages(means_);
+        for (std::size_t i = 0; i < parts_.size(); ++i)
+            for (auto& value : parts_[i].values) value *= wholes_[i] / composite_.amount;
+        results_.curves.push_back(std::move(composite_));
+        for (auto& part : parts_) results_.curves.push_back(std::move(part));
+    }
+
+private:
+    std::vector<MassWeightedMeans> means_of_sites(const DistributionSection& section) const
+    {
+        std::vector<MassWeightedMeans> means(section.sites.size());
+        for (const auto& increment : section.increments)
+            for (std::size_t j = 0; j < means.size(); ++j)
+                means[j].add(increment[j].amount,
+                             site_means(increment[j], grid_, distribution_.mark_houwink_exponent));
+        return means;
+    }
+
+    std::optional<DistributionAverages> averages(const MassWeightedMeans& means) const
+    {
+        return closed_averages(means, results_.segment_weight, distribution_.mark_houwink_exponent);
+    }
+
+    // `values` are scaled to an amount, the whole.
+    void add(std::string name, Curve::Kind kind, double amount, std::vector<double> values, double whole,
+             const MassWeightedMeans& means)
+    {
+        parts_.push_back({std::move(name), kind, amount, std::move(values), {}, averages(means), {}});
+        wholes_.push_back(whole);
+    }
+
+    const Distribution& distribution_;
+    DistributionResults& results_;
+    GridEnds grid_;
+    Curve composite_;
+    MassWeightedMeans means_;
+    std::vector<Curve> parts_;
+    std::vector<double> wholes_;
+};
+
+// Segments per chain of a component. Empty with an error when it is not known or not that of a chain.
+std::optional<double> chain_length(const DistributionComponent& component, DistributionResults& results)
+{
+    const auto refuse = [&](const std::string& why) {
+        results.warnings.push_back({component.name.source,
+                                    fmt::format("distributions.{}: component {} is left out: {}",
+                                                results.name, component.name.id, why),
+                                    Severity::error});
+        return std::optional<double>{};
+    };
+    if (component.dpn) return component.dpn;
+    if (!results.segment_weight)
+        return refuse("the stream has no polymer to give a segment weight; expected a segment_weight");
+    const double pn = *component.mn / *results.segment_weight;
+    if (pn > 1) return pn;
+    return refuse(fmt::format("mn is {:g}; expected more than a segment weighs, {:g} g/mol", *component.mn,
+                              *results.segment_weight));
+}
+
+void add_curves(const Distribution& distribution, DistributionResults& results)
+{
+    CurveCollector curves{distribution, results};
+    for (const auto& section : distribution.sections) curves.add(section);
+    for (const auto& component : distribution.components)
+        if (const auto pn = chain_length(component, results)) curves.add(component, *pn);
+    curves.finish();
 }
 
 // Moments of all polymer of the stream that a distribution is compared with.
@@ -127,29 +176,24 @@ std::optional<StreamPolymer> polymer_of(const Distribution& distribution, Host& 
                          routines::polymer_held(view, by_component, sites).mean_segment_weight.back()};
 }
 
-void add_molecular_weights(DistributionResults& results)
-{
-    if (!results.segment_weight) return;
-    for (auto& curve : results.curves) {
-        curve.averages.mn = curve.averages.pn * *results.segment_weight;
-        curve.averages.mw = curve.averages.pw * *results.segment_weight;
-    }
-    for (const double x : results.lengths) results.molecular_weights.push_back(x * *results.segment_weight);
-}
-
 DistributionResults evaluate(const Distribution& distribution, Host& host)
 {
-    auto results = curves(distribution);
-    for (auto& curve : results.curves) curve.averages = averages(results, curve);
-    results.cumulative = cumulative(results);
-    for (std::size_t k = 0; k < results.lengths.size(); ++k)
-        results.chromatogram.push_back(std::numbers::ln10 *
-                                       (results.lengths[k] * results.height(results.composite(), k)));
+    DistributionResults results;
+    results.name = distribution.name.id;
+    results.is_gpc = distribution.is_gpc;
+    results.segment_weight = distribution.segment_weight;
+    results.exponent = distribution.mark_houwink_exponent;
     const auto polymer = polymer_of(distribution, host);
     if (polymer && !results.segment_weight && polymer->mean_segment_weight > 0)
         results.segment_weight = polymer->mean_segment_weight;
-    add_molecular_weights(results);
-    results.checks = curve_checks(distribution, results, polymer ? &polymer->moments : nullptr);
+    add_curves(distribution, results);
+    if (results.segment_weight)
+        for (const double x : results.lengths)
+            results.molecular_weights.push_back(x * *results.segment_weight);
+    add_grid_averages(results);
+    if (polymer) results.checks = curve_checks(distribution, results, polymer->moments);
+    for (auto& warning : distribution_warnings(distribution, results))
+        results.warnings.push_back(std::move(warning));
     return results;
 }
 
@@ -164,13 +208,8 @@ std::vector<DistributionResults> evaluate_distributions(const Case& input, Host&
 
 void publish(const DistributionResults& results, Host& host)
 {
-    std::vector<std::vector<double>> sections;
-    for (const auto& curve : results.curves)
-        if (curve.kind == Curve::Kind::section) sections.push_back(curve.values);
-    // One section without a name is the composite.
-    if (sections.empty()) sections.push_back(results.composite().values);
     routines::publish_distribution(host, results.name, form_of(results.is_gpc), results.lengths,
-                                   results.composite().values, sections);
+                                   results.composite().values, results.parts);
 }
 
 }  // namespace app

@@ -8,7 +8,6 @@
 #include <stdexcept>
 
 #include "app/evaluation/contradictions.h"
-#include "app/evaluation/distribution_checks.h"
 #include "app/evaluation/distributions.h"
 #include "app/evaluation/unused_values.h"
 #include "app/host_setup/loaded_case.h"
@@ -71,8 +70,7 @@ void add_warnings(const Case& input, Host& host, Results& results)
     for (const auto& stream : input.streams) append(contradictions(stream, host), results.warnings);
     append(unused_values(input, results.streams, host), results.warnings);
     std::ranges::stable_sort(results.warnings, {}, &Diagnostic::source);
-    for (std::size_t i = 0; i < results.distributions.size(); ++i)
-        append(disagreements(input.distributions[i], results.distributions[i]), results.warnings);
+    for (const auto& distribution : results.distributions) append(distribution.warnings, results.warnings);
 }
 
 }  // namespace

@@ -29,6 +29,9 @@ void add(const DistributionResults& results, Collector& all)
     all.add(curves + "molecular_weight", results.molecular_weights);
     all.add(curves + "cumulative", results.cumulative);
     for (const auto& curve : results.curves) all.add(curves + curve.name, curve.values);
+    if (results.segment_weight)
+        for (const auto& curve : results.curves)
+            all.add(curves + chromatogram_name(curve), curve.chromatogram);
     if (!results.measured) return;
     const auto measured = fmt::format("distributions.{}.gpc_curve.", results.name);
     all.add(measured + "molecular_weight", results.measured->molecular_weight);

@@ -1,6 +1,8 @@
 #include "app/evaluation/stream_results.h"
 
+#include "app/evaluation/chain_length_models.h"
 #include "app/routines/chain_averages.h"
+#include "minihost/attributes.h"
 #include "minihost/polymer_input.h"
 
 namespace app {
@@ -9,18 +11,55 @@ namespace {
 
 using minihost::Host;
 
-std::vector<ChainAverages> chain_averages(const StreamList& list, const Host& host)
+// A moment of a component; 0 where it is not carried or not given.
+double moment(const minihost::StreamView& stream, routines::Component component, std::string_view name,
+              Host& host)
+{
+    const auto* entry = host.attributes().find(component.index, name);
+    return entry ? stream.values[stream.first_flow.front() + entry->offset - 1] : 0;
+}
+
+std::optional<double> z_average(const minihost::StreamView& stream, routines::Component component,
+                                double mean_segment_weight, Host& host)
+{
+    const double second = moment(stream, component, "SMOM", host);
+    const double third = moment(stream, component, "TMOM", host);
+    if (!(second > 0 && third > 0)) return {};
+    return third / second * mean_segment_weight;
+}
+
+// A dispersity below 1 belongs to no distribution.
+std::optional<double> viscosity_average(const ChainAverages& averages, std::optional<double> exponent)
+{
+    constexpr double rounding = 1e-9;
+    if (!exponent || !(averages.mn > 0) || !(averages.mw >= averages.mn * (1 - rounding))) return {};
+    return schulz_zimm_viscosity_average(averages.mn, averages.mw / averages.mn, *exponent);
+}
+
+std::vector<ChainAverages> chain_averages(const std::string& name, const StreamList& list, const Case& input,
+                                          Host& host)
 {
     const auto dpn = routines::degrees_of_polymerization(list.components);
     const auto mrf = routines::mean_segment_weights(list.components);
     const auto mn = routines::number_average_molecular_weights(list.components);
     const auto mw = routines::weight_average_molecular_weights(list.components);
     const auto pdi = routines::polydispersity_indices(list.components);
+    const auto& stream = host.streams().view(name);
     std::vector<ChainAverages> averages;
     for (std::size_t i = 0; i < list.size(); ++i) {
         const auto& component = host.components().at(list.components[i].index);
-        averages.push_back({component.id, component.component_class, list.mole_flow[i], dpn[i], mrf[i], mn[i],
-                            mw[i], pdi[i]});
+        averages.push_back({component.id,
+                            component.component_class,
+                            list.mole_flow[i],
+                            dpn[i],
+                            mrf[i],
+                            mn[i],
+                            mw[i],
+                            pdi[i],
+                            z_average(stream, list.components[i], mrf[i], host),
+                            {}});
+        averages.back().mv =
+            viscosity_average(averages.back(), input.find(component.id)->mark_houwink_exponent);
     }
     return averages;
 }
@@ -54,7 +93,7 @@ StreamResults evaluate(const std::string& name, const Case& input, Host& host)
 {
     const auto list = list_stream(name, host);
     return {name,
-            chain_averages(list, host),
+            chain_averages(name, list, input, host),
             segment_shares(list.chains(), host),
             compositions(list, host),
             segment_count_matrix(list, host),

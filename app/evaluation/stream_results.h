@@ -1,6 +1,7 @@
 // Results of one stream.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,8 @@ struct ChainAverages {
     double mn;                   // g/mol
     double mw;                   // g/mol
     double pdi;                  // Mw/Mn
+    std::optional<double> mz;    // g/mol; with TMOM and SMOM
+    std::optional<double> mv;    // g/mol; of a Schulz-Zimm distribution with Mn and Mw
 };
 
 // The share of one segment in a polymer or oligomer.

@@ -318,9 +318,11 @@ void name_parameters(const Component& component, const std::vector<Polymer>& pol
 
 bool has_moments_compared(const Case& input, const std::string& stream)
 {
-    return std::ranges::any_of(
-               input.reactors,
-               [&](const auto& r) { return r.inlet.id == stream || r.outlet.id == stream; }) ||
+    const auto is_named = [&](const PlacedName& name) { return name.id == stream; };
+    return std::ranges::any_of(input.reactors,
+                               [&](const auto& r) {
+                                   return std::ranges::any_of(r.inlets, is_named) || is_named(r.outlet);
+                               }) ||
            std::ranges::any_of(input.distributions,
                                [&](const auto& d) { return d.stream && d.stream->id == stream; });
 }

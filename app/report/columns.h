@@ -1,6 +1,8 @@
 // Columns of more than one table: the same quantity has the same key, heading and unit everywhere.
 #pragma once
 
+#include <optional>
+
 #include "app/report/report_model.h"
 
 namespace app::columns {
@@ -19,6 +21,14 @@ inline const Column chain_length{"chain_length", "Chain length", "1"};
 inline const Column mn{"mn", "Mn", "g/mol"};
 inline const Column mw{"mw", "Mw", "g/mol"};
 inline const Column dpn{"dpn", "DPN", "1"};
-inline const Column pdi{"pdi", "PDI", "1"};
+inline const Column mz{"mz", "Mz", "g/mol"};
+inline const Column mz1{"mz1", "Mz+1", "g/mol"};
+inline const Column pdi{"pdi", "Đ (Mw/Mn)", "1"};
+
+// Of a value that may be absent.
+inline Cell cell(const std::optional<double>& value)
+{
+    return value ? Cell{*value} : Cell{NoData{}};
+}
 
 }  // namespace app::columns

@@ -9,28 +9,74 @@ namespace app {
 
 namespace {
 
+std::vector<Cell> empty_cells(std::size_t count)
+{
+    return std::vector<Cell>(count, Cell{NoData{}});
+}
+
+void append(const std::vector<Cell>& cells, std::vector<Cell>& row)
+{
+    row.insert(row.end(), cells.begin(), cells.end());
+}
+
+// With a segment weight also as molecular weights, with an exponent Mv.
+std::vector<Cell> average_cells(const DistributionAverages& a, const DistributionResults& results)
+{
+    std::vector<Cell> cells{a.pn, a.pw, a.pz, a.pz1, a.pdi};
+    if (results.segment_weight) append({a.mn, a.mw, a.mz, a.mz1}, cells);
+    if (results.segment_weight && results.exponent) cells.push_back(columns::cell(a.mv));
+    return cells;
+}
+
 Table averages(const DistributionResults& results)
 {
     Table table{"distribution_averages",
-                "Averages of the curves",
+                "Averages of the curves in closed form",
                 {{"curve", "Curve", ""},
                  {"amount", "Amount", ""},
-                 {"area", "Area", "1"},
                  {"pn", "Pn", "1"},
                  {"pw", "Pw", "1"},
+                 {"pz", "Pz", "1"},
+                 {"pz1", "Pz+1", "1"},
                  columns::pdi},
                 {}};
-    if (results.segment_weight) {
-        table.columns.push_back(columns::mn);
-        table.columns.push_back(columns::mw);
-    }
+    const auto leading = 2U;
+    if (results.segment_weight)
+        table.columns.insert(table.columns.end(), {columns::mn, columns::mw, columns::mz, columns::mz1});
+    if (results.segment_weight && results.exponent) table.columns.push_back({"mv", "Mv", "g/mol"});
     for (const auto& curve : results.curves) {
-        const auto& a = curve.averages;
-        auto& row =
-            table.rows.emplace_back(std::vector<Cell>{curve.name, curve.amount, a.area, a.pn, a.pw, a.pdi});
-        if (!results.segment_weight) continue;
-        row.emplace_back(a.mn);
-        row.emplace_back(a.mw);
+        auto& row = table.rows.emplace_back(std::vector<Cell>{curve.name, curve.amount});
+        append(curve.averages ? average_cells(*curve.averages, results)
+                              : empty_cells(table.columns.size() - leading),
+               row);
+    }
+    return table;
+}
+
+Table quadrature(const DistributionResults& results)
+{
+    Table table{"distribution_quadrature",
+                "Trapezoids on the grid, their grid error, and the mass outside the grid",
+                {{"curve", "Curve", ""},
+                 {"area", "Area", "1"},
+                 {"pn", "Pn", "1"},
+                 {"pn_grid_error", "Grid error", "%"},
+                 {"pw", "Pw", "1"},
+                 {"pw_grid_error", "Grid error", "%"},
+                 columns::pdi,
+                 {"below_grid", "Mass below", "1"},
+                 {"above_grid", "Mass above", "1"}},
+                {}};
+    for (const auto& curve : results.curves) {
+        auto& row = table.rows.emplace_back(std::vector<Cell>{curve.name});
+        if (const auto& g = curve.on_grid)
+            append({g->area, g->pn, g->pn_grid_error, g->pw, g->pw_grid_error, g->pdi}, row);
+        else
+            append(empty_cells(6), row);
+        if (const auto& a = curve.averages)
+            append({a->below_grid, a->above_grid}, row);
+        else
+            append(empty_cells(2), row);
     }
     return table;
 }
@@ -38,20 +84,19 @@ Table averages(const DistributionResults& results)
 Table checks(const DistributionResults& results)
 {
     Table table{"distribution_checks",
-                "Curves against their sites, site parameters and moments",
+                "Curves by their parameters and by the moments of the stream",
                 {{"curve", "Curve", ""},
                  {"pn", "Pn", "1"},
-                 {"pn_expected", "expected", "1"},
-                 {"pn_difference", "difference", "1"},
+                 {"pn_expected", "by moments", "1"},
+                 {"pn_difference", "relative difference", "1"},
                  {"pw", "Pw", "1"},
-                 {"pw_expected", "expected", "1"},
-                 {"pw_difference", "difference", "1"},
-                 {"source", "by", ""},
-                 {"agrees", "Agrees", ""}},
+                 {"pw_expected", "by moments", "1"},
+                 {"pw_difference", "relative difference", "1"},
+                 {"source", "by", ""}},
                 {}};
     for (const auto& c : results.checks)
-        table.rows.push_back({c.curve, c.averages.pn, c.pn, c.pn_difference(), c.averages.pw, c.pw,
-                              c.pw_difference(), c.source, std::string{c.agrees() ? "yes" : "no"}});
+        table.rows.push_back({c.curve, c.pn, c.pn_expected, c.pn_difference(), c.pw, c.pw_expected,
+                              c.pw_difference(), std::string{"stream moments"}});
     return table;
 }
 
@@ -61,11 +106,16 @@ Table curves(const DistributionResults& results)
     if (results.segment_weight) table.columns.push_back(columns::molecular_weight);
     table.columns.push_back({"cumulative", "Cumulative", "1"});
     for (const auto& curve : results.curves) table.columns.push_back({curve.name, curve.name, "1"});
+    if (results.segment_weight)
+        for (const auto& curve : results.curves)
+            table.columns.push_back({chromatogram_name(curve), chromatogram_name(curve), "1"});
     for (std::size_t k = 0; k < results.lengths.size(); ++k) {
         auto& row = table.rows.emplace_back(std::vector<Cell>{results.lengths[k]});
         if (results.segment_weight) row.emplace_back(results.molecular_weights[k]);
         row.emplace_back(results.cumulative[k]);
         for (const auto& curve : results.curves) row.emplace_back(curve.values[k]);
+        if (!results.segment_weight) continue;
+        for (const auto& curve : results.curves) row.emplace_back(curve.chromatogram[k]);
     }
     return table;
 }
@@ -124,7 +174,7 @@ Section distribution_section(const DistributionResults& results)
                     results.name,
                     "Distribution " + results.name,
                     {{"form", results.is_gpc ? "gpc" : "weight-fraction"}},
-                    {averages(results), checks(results), curves(results)}};
+                    {averages(results), quadrature(results), checks(results), curves(results)}};
     if (const auto& measured = results.measured) {
         section.facts.emplace_back("gpc_notes", fmt::format("{}", fmt::join(measured->notes, "\n")));
         section.tables.insert(section.tables.end() - 1, fit(*measured));

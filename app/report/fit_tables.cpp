@@ -127,12 +127,14 @@ std::string case_sites(const FitResults& results)
 
 Section fit_section(const FitResults& results)
 {
-    return {"fit",
-            results.file,
-            "Fit of " + results.file,
-            {{"gpc_notes", fmt::format("{}", fmt::join(results.notes, "\n"))}},
-            {summary(results), sites(results), averages(results), residuals(results), curves(results)},
-            {{"sites", case_sites(results)}}};
+    Section section{
+        "fit",
+        results.file,
+        "Fit of " + results.file,
+        {{"gpc_notes", fmt::format("{}", fmt::join(results.notes, "\n"))}},
+        {summary(results), sites(results), averages(results), residuals(results), curves(results)}};
+    section.excerpts.emplace_back("sites", case_sites(results));
+    return section;
 }
 
 }  // namespace app

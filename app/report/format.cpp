@@ -21,11 +21,13 @@ std::string formatted(const Report& report, Format format)
 
 std::string format_measured_curve(const DistributionResults& distribution)
 {
-    auto text =
-        fmt::format("# composite of the distribution {}, {} g/mol per segment\nmolecular_weight,signal\n",
-                    distribution.name, required_segment_weight(distribution));
+    auto text = fmt::format(
+        "# composite of the distribution {}, {} g/mol per segment: dw/dlog10(M) over M in g/mol\n"
+        "molecular_weight,signal\n",
+        distribution.name, required_segment_weight(distribution));
     for (std::size_t k = 0; k < distribution.lengths.size(); ++k)
-        text += fmt::format("{},{}\n", distribution.molecular_weights[k], distribution.chromatogram[k]);
+        text += fmt::format("{},{}\n", distribution.molecular_weights[k],
+                            distribution.composite().chromatogram[k]);
     return text;
 }
 

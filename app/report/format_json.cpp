@@ -6,7 +6,7 @@ namespace app {
 
 namespace {
 
-constexpr int schema_version = 1;
+constexpr int schema_version = 2;
 
 template <typename Value>
 JsonValue json_of(const Value& value)

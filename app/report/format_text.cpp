@@ -32,6 +32,13 @@ std::string unit(const Column& column)
     return column.unit == "1" ? "-" : column.unit;
 }
 
+// Characters of a UTF-8 text: bytes that do not continue one.
+std::size_t character_count(const std::string& text)
+{
+    return static_cast<std::size_t>(
+        std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+}
+
 // Headings, units where a column has one, rows.
 std::vector<std::vector<std::string>> lines(const Table& table)
 {
@@ -50,7 +57,8 @@ std::string aligned(const Table& table)
     const auto all = lines(table);
     std::vector<std::size_t> widths(table.columns.size());
     for (const auto& line : all)
-        for (std::size_t i = 0; i < line.size(); ++i) widths[i] = std::max(widths[i], line[i].size());
+        for (std::size_t i = 0; i < line.size(); ++i)
+            widths[i] = std::max(widths[i], character_count(line[i]));
     std::string text;
     for (const auto& line : all) {
         std::string row;

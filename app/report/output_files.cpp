@@ -45,7 +45,7 @@ std::string file_part(std::string name)
 
 std::string wide_csv(const Table& table)
 {
-    const auto field = [](const Cell& cell) { return fmt::format("{}", std::get<double>(cell)); };
+    const auto field = [](const Cell& cell) { return text(cell); };
     std::string csv;
     for (const auto& column : table.columns)
         csv += fmt::format("{}{}", csv.empty() ? "" : ",", csv_field(column.key));

@@ -13,7 +13,9 @@ std::string item_of(const Table& table, const std::vector<Cell>& row)
     if (is_number(row.front())) return text(row.front());
     for (std::size_t i = 0; i < row.size(); ++i) {
         const auto& key = table.columns[i].key;
-        if (is_number(row[i]) || key == "component" || key == "segment" || key == "class") continue;
+        if (!std::holds_alternative<std::string>(row[i]) || key == "component" || key == "segment" ||
+            key == "class")
+            continue;
         const auto source = text_of(table, row, "source");
         return std::get<std::string>(row[i]) + (source.empty() ? "" : "." + source);
     }
@@ -31,7 +33,7 @@ void add_row(const Section& section, const Table& table, const std::vector<Cell>
                             nullptr,
                             {}};
     for (std::size_t i = 0; i < row.size(); ++i) {
-        if (!is_number(row[i])) continue;
+        if (std::holds_alternative<std::string>(row[i])) continue;
         all.push_back(lead);
         all.back().quantity = &table.columns[i];
         all.back().value = row[i];
@@ -42,7 +44,7 @@ void add_row(const Section& section, const Table& table, const std::vector<Cell>
 
 bool is_number(const Cell& cell)
 {
-    return !std::holds_alternative<std::string>(cell);
+    return std::holds_alternative<double>(cell) || std::holds_alternative<Int>(cell);
 }
 
 std::string text(const Cell& cell)

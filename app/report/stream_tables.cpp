@@ -3,6 +3,8 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
+#include <algorithm>
+
 #include "app/report/columns.h"
 
 namespace app {
@@ -127,11 +129,15 @@ Table chain_averages(const std::vector<ChainAverages>& averages)
     Table table{"chain_averages",
                 "Chain averages",
                 {columns::component, columns::component_class, columns::mole_flow, columns::dpn,
-                 columns::mean_segment_weight, columns::mn, columns::mw, columns::pdi},
+                 columns::mean_segment_weight, columns::mn, columns::mw, columns::pdi, columns::mz},
                 {}};
-    for (const auto& a : averages)
+    const bool has_mv = std::ranges::any_of(averages, [](const auto& a) { return a.mv.has_value(); });
+    if (has_mv) table.columns.push_back({"mv", "Mv (Schulz-Zimm)", "g/mol"});
+    for (const auto& a : averages) {
         table.rows.push_back({a.component, std::string{text(a.kind)}, a.mole_flow, a.dpn,
-                              a.mean_segment_weight, a.mn, a.mw, a.pdi});
+                              a.mean_segment_weight, a.mn, a.mw, a.pdi, columns::cell(a.mz)});
+        if (has_mv) table.rows.back().push_back(columns::cell(a.mv));
+    }
     return table;
 }
 

@@ -13,7 +13,8 @@ struct SiteParameters {
     Reals amount;     // any unit, the same in all increments
 };
 
-// The running average over increments of what some sites make.
+// The running average over increments of what some sites make. Increments are mixed whole: a site that makes
+// nothing in one of them is scaled to the new total like the others.
 class AccumulatedDistribution {
 public:
     AccumulatedDistribution(std::size_t points, double longest_chain, std::size_t sites, CurveForm form);
@@ -27,7 +28,11 @@ public:
     double amount(std::size_t j) const { return amounts_[j]; }
 
 private:
+    void accumulate(const SiteParameters& increment);
+    void mix_in(const AccumulatedDistribution& later);
+
     Int points_;
+    double longest_chain_;
     Int sites_;
     Int mode_;
     Reals lengths_;

@@ -38,7 +38,7 @@ void expect_numbers(const std::string& csv, const RunPointer& results)
     while (std::getline(lines, line)) {
         const auto f = fields(line);
         ASSERT_EQ(f.size(), 9u) << line;
-        if (f[7].empty()) continue;  // a pair without data
+        if (f[7].empty()) continue;  // a result without a value
         const double printed = std::strtod(f[7].c_str(), nullptr);
         const auto curve = f[0] + "s." + f[1] + "." + f[2] + "." + f[6];
         const double* values = nullptr;

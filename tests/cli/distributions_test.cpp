@@ -1,3 +1,6 @@
+#include <cmath>
+
+#include "app/report/format.h"
 #include "cli/program.h"
 
 namespace {
@@ -44,20 +47,79 @@ TEST(Distribution, IncrementsAverageByTheirAmounts)
     expect_same(changing.composite().values, side_by_side.composite().values);
 }
 
-TEST(Distribution, SectionsMixByWhatTheyMake)
+// One site pauses in the second of three increments, the other in the third: the composite is that of what
+// each made with its own parameters.
+TEST(Distribution, IdleSiteKeepsItsShareOfTheWhole)
+{
+    const auto paused = distribution(
+        "increments = [[{ tau = 0.01, amount = 1 }, { tau = 0.001, amount = 1 }],"
+        "[{ amount = 2 }, { amount = 0 }], [{ amount = 0 }, { beta = 0.002, amount = 4 }]]");
+    const auto side_by_side = distribution(
+        "sites = [{ tau = 0.01, amount = 3 }, { tau = 0.001, amount = 1 }, { tau = 0.001, beta = 0.002, "
+        "amount = 4 "
+        "}]");
+    expect_same(paused.composite().values, side_by_side.composite().values);
+    expect_same(curve(paused, "site 1").values, curve(side_by_side, "site 1").values);
+    EXPECT_NEAR(paused.composite().on_grid->area, 1, 1e-3);
+    EXPECT_EQ(curve(paused, "site 2").amount, 5);
+    EXPECT_DOUBLE_EQ(paused.composite().averages->pn, side_by_side.composite().averages->pn);
+}
+
+TEST(Distribution, EveryCurveIsItsPartOfTheComposite)
 {
     const auto mixed = distribution(
+        "segment_weight = 100\ncomponents = [{ name = \"C\", type = \"schulz-zimm\", mn = 30000, dispersity "
+        "= 1.5, "
+        "amount = 4 }]\n"
         "[[distributions.D.sections]]\nname = \"R1\"\nsites = [{ name = \"A\", tau = 0.01, amount = 1 }]\n"
         "[[distributions.D.sections]]\nname = \"R2\"\nsites = [{ name = \"A\", tau = 0.001, amount = 3 }]\n");
-    ASSERT_EQ(mixed.curves.size(), 5u);
+    ASSERT_EQ(mixed.curves.size(), 6u);
     const auto& first = curve(mixed, "section R1");
     const auto& second = curve(mixed, "section R2");
+    const auto& component = curve(mixed, "component C");
     EXPECT_EQ(curve(mixed, "R2: site A").values, second.values);
     std::vector<double> expected;
     for (std::size_t k = 0; k < first.values.size(); ++k)
-        expected.push_back(0.25 * first.values[k] + 0.75 * second.values[k]);
+        expected.push_back(first.values[k] + second.values[k] + component.values[k]);
     expect_same(mixed.composite().values, expected);
-    for (const auto& check : mixed.checks) EXPECT_TRUE(check.agrees()) << check.curve;
+    EXPECT_NEAR(second.on_grid->area, 3.0 / 8, 1e-3);
+    EXPECT_NEAR(component.on_grid->area, 0.5, 1e-3);
+    // 1/Pn = (0.01 + 3·0.001 + 4/300)/8; Pw = (200 + 3·2000 + 4·450)/8
+    EXPECT_NEAR(mixed.composite().averages->mn, 100 * 8 / (0.013 + 4.0 / 300), 1e-8);
+    EXPECT_NEAR(mixed.composite().averages->mw, 100 * 1000, 1e-8);
+    // dw/dlog10(M) integrates to the same share: ln(10)·x·w over log10(x).
+    double area = 0;
+    for (std::size_t k = 1; k < mixed.lengths.size(); ++k)
+        area += 0.5 * (second.chromatogram[k - 1] + second.chromatogram[k]) *
+                std::log10(mixed.lengths[k] / mixed.lengths[k - 1]);
+    EXPECT_NEAR(area, 3.0 / 8, 1e-3);
+}
+
+TEST(Distribution, ComponentsHaveCurvesOfTheirAverages)
+{
+    const struct {
+        const char* component;
+        double pn, pw;
+    } rows[] = {
+        {"type = \"log-normal\", dpn = 500, dispersity = 2", 500, 1000},
+        {"type = \"schulz-zimm\", dpn = 500, dispersity = 1.2", 500, 600},
+        {"type = \"poisson\", dpn = 100", 100, 100.99},
+    };
+    for (const auto& r : rows) {
+        SCOPED_TRACE(r.component);
+        for (const char* form : {"weight-fraction", "gpc"}) {
+            const auto results =
+                evaluated(head + "[distributions.D]\npoints = 20000\nlongest_chain = 2e4\nform = \"" + form +
+                          "\"\ncomponents = [{ " + r.component + ", amount = 2 }]\n")
+                    .results.distributions.front();
+            const auto& composite = results.composite();
+            EXPECT_NEAR(composite.averages->pn, r.pn, 1e-9 * r.pn);
+            EXPECT_NEAR(composite.averages->pw, r.pw, 1e-9 * r.pw);
+            EXPECT_NEAR(composite.on_grid->area, 1, 1e-4);
+            EXPECT_NEAR(composite.on_grid->pn, r.pn, 1.1);  // lengths of right-hand ends, one segment apart
+            EXPECT_NEAR(composite.on_grid->pw, r.pw, 1.1);
+        }
+    }
 }
 
 TEST(Distribution, GpcFormHasTheAveragesOfTheStandardForm)
@@ -65,28 +127,91 @@ TEST(Distribution, GpcFormHasTheAveragesOfTheStandardForm)
     const std::string sites = "sites = [{ tau = 0.004, beta = 0.004, amount = 2 }]\n";
     const auto standard = distribution(sites);
     const auto gpc = distribution(sites + "form = \"gpc\"\n");
-    EXPECT_NEAR(gpc.composite().averages.pn, standard.composite().averages.pn, 1e-9);
-    EXPECT_NEAR(gpc.composite().averages.pw, standard.composite().averages.pw, 1e-9);
+    EXPECT_NEAR(gpc.composite().on_grid->pn, standard.composite().on_grid->pn, 1e-9);
+    EXPECT_NEAR(gpc.composite().on_grid->pw, standard.composite().on_grid->pw, 1e-9);
     expect_same(gpc.cumulative, standard.cumulative);
     EXPECT_NEAR(gpc.composite().values[100], gpc.lengths[100] * standard.composite().values[100], 1e-12);
-    // Coupling of all chains: Pn = 1/(τ + β/2), Pw = (2τ + 3β)/(τ + β)².
-    EXPECT_DOUBLE_EQ(standard.checks.back().pn, 1 / 0.006);
-    EXPECT_DOUBLE_EQ(standard.checks.back().pw, 0.02 / 0.000064);
 }
 
-TEST(Distribution, SaysWhatTheGridCutsOffAndThatASiteMadeNothing)
+TEST(Distribution, IdleSiteHasEmptyCellsInEveryForm)
 {
     const auto e = evaluated(head +
                              "[distributions.D]\npoints = 50\nlongest_chain = 1000\n"
-                             "sites = [{ tau = 0.001, amount = 1 }, { tau = 0.1, amount = 0 }]\n");
-    EXPECT_FALSE(has_errors(e.report));
-    const auto warnings = e.diagnostics();
-    ASSERT_EQ(warnings.size(), 2u);
-    EXPECT_EQ(warnings.front().find("c.toml:4:16: distributions.D: site 1 has Pn "), 0u) << warnings.front();
-    const auto& idle = curve(e.results.distributions.front(), "site 2").averages;
-    EXPECT_EQ(idle.area, 0);
-    EXPECT_EQ(idle.pn, 0);
-    EXPECT_EQ(e.results.distributions.front().checks.size(), 2u);  // neither the idle site nor a sum of one
+                             "sites = [{ tau = 0.01, amount = 1 }, { tau = 0.1, amount = 0 }]\n");
+    EXPECT_TRUE(e.diagnostics().empty());
+    const auto row = Json::parse(app::format_json(e.report))["distributions"][0]["distribution_averages"][2];
+    EXPECT_EQ(row["amount"], 0);
+    EXPECT_TRUE(row["pn"].is_null());
+    EXPECT_NE(app::format_csv(e.report).find("distribution_averages,site 2,,,pn,,1\n"), std::string::npos);
+    EXPECT_NE(app::format_text(e.report).find("site 2          0    -    -"), std::string::npos)
+        << app::format_text(e.report);
+}
+
+// Mass above 1000 segments: e^−1·2 = 73.6 % with tau = 0.001; below 1: 1 − e^−0.2·1.2 = 1.75 % with 0.2.
+TEST(Distribution, WarnsOfMassOutsideTheGridShortChainsMomentsAndUnusedKeys)
+{
+    const std::string grid = "[distributions.D]\npoints = 50\nlongest_chain = 1000\n";
+    const std::string stream =
+        "S = { class = \"segment\", molecular_weight = 10 }\nC = { class = \"polymer\", molecular_weight = "
+        "10 }\n"
+        "[polymers]\nsegments = [{ id = \"S\", type = \"repeat\" }]\npolymers = [\"C\"]\n"
+        "attributes = [{ component = \"C\", names = [\"ZMOM\", \"FMOM\", \"SMOM\", \"SFLOW\"] }]\n"
+        "[streams.F]\nflows = { C = 100 }\nattributes.C = { ZMOM = 1, FMOM = 100, SMOM = 20000, SFLOW = "
+        "[100] }\n";
+    const struct {
+        std::string text;
+        Lines expected;
+    } rows[] = {
+        {grid + "sites = [{ tau = 0.001, amount = 1 }]\n",
+         {"c.toml:4:16: distributions.D: 73.6 % of the mass of composite is outside the grid, 5e-05 % below "
+          "1 and "
+          "73.6 % above 1000 segments; expected at most 1 %",
+          "c.toml:4:16: distributions.D: 73.6 % of the mass of site 1 is outside the grid, 5e-05 % below 1 "
+          "and "
+          "73.6 % above 1000 segments; expected at most 1 %"}},
+        {grid + "sites = [{ tau = 0.01, amount = 1 }, { tau = 0.0125, amount = 1 }]\n",
+         {"c.toml:7:38: distributions.D: tau of site 2 is 0.0125, greater than 0.01; averages take the chain "
+          "length as "
+          "continuous, with Pn = 1/tau = 80 for beta = 0; whole chain lengths give Pn = 1 + 1/tau = 81"}},
+        {grid + "mark_houwink_exponent = 0.7\nsites = [{ tau = 0.01, amount = 1 }]\n",
+         {"c.toml:4:16: distributions.D.mark_houwink_exponent is not used: there is no segment weight to "
+          "give Mv in "
+          "g/mol; expected a segment_weight, or a stream with polymer"}},
+        {stream + grid + "stream = \"F\"\nsites = [{ tau = 0.01, amount = 1 }]\n", {}},
+        {stream + grid + "stream = \"F\"\nsites = [{ tau = 0.01, beta = 1e-7, amount = 1 }]\n",
+         {"c.toml:16:1: distributions.D: Pn of composite is 99.9995 by its parameters and 100 by the "
+          "moments of "
+          "stream F; the relative difference is -5e-06, more than 1e-06",
+          "c.toml:16:1: distributions.D: Pw of composite is 199.999 by its parameters and 200 by the "
+          "moments of "
+          "stream F; the relative difference is -5e-06, more than 1e-06"}},
+        {stream + grid +
+             "stream = \"F\"\nsites = [{ tau = 0.01, amount = 1 }]\n"
+             "components = [{ type = \"poisson\", mn = 10, amount = 1 }]\n",
+         {"c.toml:18:15: distributions.D: component 1 is left out: mn is 10; expected more than a segment "
+          "weighs, 10 "
+          "g/mol"}},
+    };
+    for (const auto& r : rows) EXPECT_EQ(evaluated(head + r.text).diagnostics(), r.expected) << r.text;
+}
+
+// Mz = TMOM/SMOM·m0 = 300·10; Mv with a = 1 is Mw.
+TEST(Streams, HaveMzOfTheirThirdMomentAndMvOfTheirExponent)
+{
+    const std::string text =
+        "[components]\nS = { class = \"segment\", molecular_weight = 10 }\n"
+        "C = { class = \"polymer\", molecular_weight = 10, mark_houwink_exponent = 1 }\n"
+        "[polymers]\nsegments = [{ id = \"S\", type = \"repeat\" }]\npolymers = [\"C\"]\n"
+        "attributes = [{ component = \"C\", names = [\"ZMOM\", \"FMOM\", \"SMOM\", \"TMOM\", \"SFLOW\"] }]\n"
+        "[streams.F]\nflows = { C = 100 }\n"
+        "attributes.C = { ZMOM = 1, FMOM = 100, SMOM = 20000, TMOM = 6e6, SFLOW = [100] }\n";
+    const auto e = evaluated(text);
+    EXPECT_DOUBLE_EQ(number(e, "streams.F.chain_averages.C.mz"), 3000);
+    EXPECT_NEAR(number(e, "streams.F.chain_averages.C.mv"), 2000, 1e-9);
+    const auto without = evaluated(with(with(text, "TMOM = 6e6, ", ""), ", mark_houwink_exponent = 1", ""));
+    const auto row = Json::parse(app::format_json(without.report))["streams"][0]["chain_averages"][0];
+    EXPECT_TRUE(row["mz"].is_null());
+    EXPECT_FALSE(row.contains("mv"));
 }
 
 TEST(Parameters, CompletesByTheSymmetryOfThePositionAndEvaluatesEachForm)

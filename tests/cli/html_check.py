@@ -26,6 +26,15 @@ addEventListener("load", () => setTimeout(() => {
     };
     const canvases = [...document.querySelectorAll("canvas")];
     seen.charts = canvases.length;
+    // A chart of the other form is drawn over another axis.
+    const axes = () => Object.values(Chart.instances).map((chart) => chart.options.scales.x.title.text).join();
+    const buttons = [...document.querySelectorAll("main button")];
+    seen.buttons = buttons.length;
+    seen.switched = buttons.filter((button) => {
+        const before = axes();
+        button.click();
+        return axes() !== before;
+    }).length;
     seen.blank = canvases.filter(blank).length;
     seen.legends = Object.values(Chart.instances).filter((chart) => {
         const before = chart.isDatasetVisible(0);
@@ -59,7 +68,9 @@ def faults_of(page, report, browser):
     faults = seen["errors"] + [line for line in browsed.stderr.splitlines() if "CONSOLE" in line]
     charts = len(report.get("distributions", [])) + len(report.get("fits", [])) + sum(
         len({row["temperature"] for row in entry["binary_parameters"]}) > 1 for entry in report.get("parameters", []))
-    for what, count, expected in (("charts", seen["charts"], charts), ("blank charts", seen["blank"], 0),
+    weighed = sum("dw_dlog10m" in entry["distribution_curves"][0] for entry in report.get("distributions", []))
+    for what, count, expected in (("buttons", seen["buttons"], weighed), ("forms that switch", seen["switched"], weighed),
+                                  ("charts", seen["charts"], charts), ("blank charts", seen["blank"], 0),
                                   ("legends that switch", seen["legends"], charts)):
         if count != expected:
             faults.append(f"{count} {what}, expected {expected}")

@@ -88,32 +88,74 @@ function chart(canvas, datasets, scales, marked, pointerTitle) {
     });
 }
 
-// The curves of one distribution, or nothing where no row is.
-function distributionChart(canvas, distribution) {
+// The two forms of the curves of a distribution: as the case asks, over chain length, and as chromatograms show
+// them, over molecular weight.
+function lengthForm(distribution) {
+    return {
+        x: "chain_length",
+        key: (name) => name,
+        axes: ["Chain length, segments", distribution.form === "gpc" ? "dw/d ln M" : "Weight fraction per segment"],
+        measured: "overlay",
+        marks: { Pn: "pn", Pw: "pw" },
+        pointer: (x) => `Chain length ${shown(x)}`,
+    };
+}
+
+const weightForm = {
+    x: "molecular_weight",
+    key: (name) => (name === "composite" ? "dw_dlog10m" : `dw_dlog10m ${name}`),
+    axes: ["Molecular weight, g/mol", "dw/dlog10 M"],
+    measured: "measured",
+    marks: { Mn: "mn", Mw: "mw", Mz: "mz" },
+    pointer: (x) => `${shown(x)} g/mol`,
+};
+
+function distributionForm(canvas, distribution, form) {
     const rows = distribution.distribution_curves;
     const names = distribution.distribution_averages.map((row) => row.curve);
-    const curve = (key) => rows.map((row) => ({ x: row.chain_length, y: row[key] }));
+    const curve = (key) => rows.map((row) => ({ x: row[form.x], y: row[key] }));
     const datasets = names.map((name, i) =>
-        line(name, curve(name), i === 0
+        line(name, curve(form.key(name)), i === 0
             ? { borderColor: () => colour("--ink"), borderWidth: 2.5 }
             : { borderColor: palette[(i - 1) % palette.length], backgroundColor: palette[(i - 1) % palette.length] }));
     if (distribution.gpc_curve)
-        datasets.push(line("measured", distribution.gpc_curve.map((row) => ({ x: row.chain_length, y: row.overlay })),
+        datasets.push(line("measured", distribution.gpc_curve.map((row) => ({ x: row[form.x], y: row[form.measured] })),
             { showLine: false, pointRadius: 2, borderColor: colour("--accent"), backgroundColor: colour("--accent") }));
     datasets.push(line("cumulative", curve("cumulative"),
         { yAxisID: "cumulative", borderColor: () => colour("--quiet"), borderDash: [2, 3] }));
 
     const composite = distribution.distribution_averages[0];
-    const isGpc = distribution.form === "gpc";
     const scales = {
-        x: axis("Chain length, segments", { type: "logarithmic", min: rows[0].chain_length,
-            max: rows[rows.length - 1].chain_length, ticks: { color: () => colour("--quiet"), callback: decades,
+        x: axis(form.axes[0], { type: "logarithmic", min: rows[0][form.x],
+            max: rows[rows.length - 1][form.x], ticks: { color: () => colour("--quiet"), callback: decades,
                 maxRotation: 0, autoSkip: false } }),
-        y: axis(isGpc ? "Chain length × weight fraction" : "Weight fraction per segment", { beginAtZero: true }),
+        y: axis(form.axes[1], { beginAtZero: true }),
         cumulative: axis("Cumulative mass fraction", { position: "right", min: 0, max: 1, grid: { display: false } }),
     };
-    const marked = ["pn", "pw"].map((key, row) => ({ name: key === "pn" ? "Pn" : "Pw", value: composite[key], row }));
-    return chart(canvas, datasets, scales, marked, (x) => `Chain length ${shown(x)}`);
+    const marked = Object.entries(form.marks).map(([name, key], row) => ({ name, value: composite[key], row }));
+    return chart(canvas, datasets, scales, marked, form.pointer);
+}
+
+// The curves of one distribution, with a button that changes their form where there is a segment weight.
+function distributionChart(canvas, distribution) {
+    const first = distributionForm(canvas, distribution, lengthForm(distribution));
+    if (!("dw_dlog10m" in distribution.distribution_curves[0])) return first;
+    const button = document.createElement("button");
+    const caption = (isWeight) => (isWeight ? "Show over chain length" : "Show dw/dlog10 M over M");
+    let isWeight = false;
+    let drawn = first;
+    button.type = "button";
+    button.textContent = caption(isWeight);
+    button.addEventListener("click", () => {
+        isWeight = !isWeight;
+        const replaced = drawn;
+        drawn.destroy();
+        drawn = distributionForm(canvas, distribution, isWeight ? weightForm : lengthForm(distribution));
+        charts[charts.indexOf(replaced)] = drawn;
+        button.textContent = caption(isWeight);
+    });
+    canvas.parentElement.before(button);
+    return first;
 }
 
 // The measured points, the sum of the sites and each site.
