@@ -30,13 +30,14 @@ std::string lower_case(std::string text)
     return text;
 }
 
-// `log M`, `log10(MW)`, `lg_m`.
+// `log M`, `log10(MW)`, `lg_m`, but not the derivative `dw/dlog10(M)`.
 bool names_logarithm(const std::string& note)
 {
     for (const std::string_view name : {"log", "lg"})
         for (auto at = note.find(name); at != std::string::npos; at = note.find(name, at + 1)) {
             const auto next = note.find_first_not_of("10 _([", at + name.size());
-            if (next != std::string::npos && note[next] == 'm') return true;
+            const bool is_derivative = at > 0 && note[at - 1] == 'd';
+            if (next != std::string::npos && note[next] == 'm' && !is_derivative) return true;
         }
     return false;
 }

@@ -66,8 +66,15 @@ public:
     std::vector<Diagnostic> take() { return std::move(found_); }
 
 private:
+    // Attributes that follow from `chains` or `mix` have the position of that key: nobody gave them.
+    static bool is_derived(const SourcePosition& source)
+    {
+        return source.key.starts_with("streams.") && source.key.find(".attributes") == std::string::npos;
+    }
+
     void add(const SourcePosition& source, std::string text)
     {
+        if (is_derived(source)) return;
         found_.push_back({source, std::move(text), Severity::warning});
     }
 
