@@ -149,6 +149,7 @@ std::vector<VectorXd> guesses(const SiteModel& model, const VectorXd& signal, In
     constexpr std::array<std::pair<double, double>, 5> shares{
         {{0.02, 0.98}, {0.002, 0.998}, {0.1, 0.9}, {0.002, 0.9}, {0.1, 0.998}}};
     std::vector<VectorXd> all;
+    all.reserve(shares.size() + 1);
     for (const auto& pair : shares) all.push_back(spread(model, signal, sites, pair));
     if (previous && previous->log_rates.size() + 1 == sites)
         all.push_back(with_another(model, signal, *previous));
