@@ -33,6 +33,12 @@ const AttributeValue* find_attribute(const Stream& stream, const std::string& co
     return found == stream.attributes.end() ? nullptr : &*found;
 }
 
+std::optional<double> number_of(const Stream& stream, const std::string& component, const std::string& name)
+{
+    const auto* value = find_attribute(stream, component, name);
+    return value && !value->elements.empty() ? std::optional{value->elements.front()} : std::nullopt;
+}
+
 std::vector<double> by_position(const AttributeValue& value, const Segments& segments)
 {
     if (value.segments.empty()) return value.elements;

@@ -1,6 +1,7 @@
 // Attributes of a component as the case names them and gives their values.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,9 @@ std::vector<std::string> carried_attributes(const Case& input, const std::string
 // Null when the stream does not give it.
 const AttributeValue* find_attribute(const Stream& stream, const std::string& component,
                                      const std::string& name);
+
+// The value of an attribute with one element; empty when it is not given or has none.
+std::optional<double> number_of(const Stream& stream, const std::string& component, const std::string& name);
 
 // The elements in the order of the segments, also when they are given by segment ID.
 std::vector<double> by_position(const AttributeValue& value, const Segments& segments);

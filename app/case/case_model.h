@@ -92,6 +92,7 @@ struct AttributeValue {
     PlacedName name;
     std::vector<double> elements;
     std::vector<PlacedName> segments;  // empty: elements are given by position
+    bool is_derived = false;           // from `chains` or `mix`: the file does not give it
 };
 
 struct ComponentValue {
@@ -116,6 +117,7 @@ struct ChainFraction {
     std::optional<double> mn, mw, mz;  // g/mol
     std::optional<double> dispersity;
     std::optional<double> dpn;
+    std::optional<ChainLengthModel> type;  // that relates the averages
 };
 
 struct PolymerChains {

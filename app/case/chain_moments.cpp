@@ -5,7 +5,11 @@
 //   F  = W / m0, Z = W / Mn         W mass flow: segments and chains                    [kmol/h]
 //   S  = (Mw / m0) F, T = (Mz / m0) S
 //
-// Fractions of a polymer add their moments.
+// Fractions of a polymer add Z, F, W, W Mw and W Mw Mz, so that their averages are those by mass even where
+// their segment weights differ; m0 is then that of the whole, W / F.
+//
+// A type of distribution relates the averages, with D = Mw / Mn: Mz / Mw is D for a log-normal one and
+// 2 - 1/D for that of Schulz and Zimm.
 #include "app/case/chain_moments.h"
 
 #include <fmt/format.h>
@@ -29,6 +33,34 @@ struct Averages {
     Number mz;
 };
 
+double z_ratio(ChainLengthModel type, double dispersity)
+{
+    return type == ChainLengthModel::log_normal ? dispersity : 2 - 1 / dispersity;
+}
+
+// Mw/Mn from Mz/Mw; empty where the type has none.
+Number dispersity_by_z_ratio(ChainLengthModel type, double ratio)
+{
+    if (type == ChainLengthModel::log_normal) return ratio;
+    return ratio < 2 ? Number{1 / (2 - ratio)} : Number{};
+}
+
+// Mw/Mn from Mz/Mn.
+double dispersity_by_whole_ratio(ChainLengthModel type, double ratio)
+{
+    return type == ChainLengthModel::log_normal ? std::sqrt(ratio) : (ratio + 1) / 2;
+}
+
+// Sums over fractions, with W the mass flow of each.
+struct FractionSums {
+    double mass = 0;                    // W, kg/h
+    double chains = 0;                  // kmol/h
+    double segments = 0;                // kmol/h
+    double by_mw = 0;                   // W Mw
+    Number by_mz = 0.0;                 // W Mw Mz; empty where Mz of a fraction is not known
+    std::vector<double> segment_flows;  // kmol/h
+};
+
 // One fraction of a polymer.
 class FractionReader {
 public:
@@ -37,7 +69,7 @@ public:
     {
     }
 
-    std::optional<ChainMoments> moments()
+    std::optional<FractionSums> sums()
     {
         const auto shares = mole_fractions();
         if (shares.empty()) return {};
@@ -45,7 +77,7 @@ public:
         for (std::size_t s = 0; s < shares.size(); ++s) m0 += shares[s] * weight(s);
         const auto averages = read_averages(m0);
         if (!averages) return {};
-        return moments(*averages, shares, m0);
+        return sums(*averages, shares, m0);
     }
 
 private:
@@ -103,18 +135,47 @@ private:
     {
         const auto& f = fraction_;
         const Number by_dpn = f.dpn ? Number{*f.dpn * m0} : Number{};
-        const Number number_average = f.mn ? f.mn : by_dpn;
-        const Number by_dispersity =
-            number_average && f.dispersity ? Number{*number_average * *f.dispersity} : Number{};
+        const Number mn = f.mn ? f.mn : by_dpn;
+        const Number by_dispersity = mn && f.dispersity ? Number{*mn * *f.dispersity} : Number{};
         if (f.mn && by_dpn && !agree(*f.mn, *by_dpn)) return contradiction("mn", *f.mn, "dpn", *by_dpn);
         if (f.mw && by_dispersity && !agree(*f.mw, *by_dispersity))
             return contradiction("mw", *f.mw, f.mn ? "mn and dispersity" : "dpn and dispersity",
                                  *by_dispersity);
-        if (number_average && f.mw) return in_order({*number_average, *f.mw, f.mz}, m0);
-        if (by_dispersity) return in_order({*number_average, *by_dispersity, f.mz}, m0);
-        if (f.mw && f.dispersity) return in_order({*f.mw / *f.dispersity, *f.mw, f.mz}, m0);
+        if (mn && f.mw) return with_mz(*mn, *f.mw, m0);
+        if (by_dispersity) return with_mz(*mn, *by_dispersity, m0);
+        if (f.mw && f.dispersity) return with_mz(*f.mw / *f.dispersity, *f.mw, m0);
+        if (const auto dispersity = dispersity_by_mz(mn)) {
+            const double mw = *f.mz / z_ratio(*f.type, *dispersity);
+            return with_mz(mw / *dispersity, mw, m0);
+        }
+        if (f.mz && f.mw && f.type)
+            return refuse(
+                fmt::format(": mz is {:.6g} g/mol; expected less than twice mw, {:.6g} g/mol, by the "
+                            "type",
+                            *f.mz, 2 * *f.mw));
         return refuse(
-            fmt::format(" gives {}; expected Mn and Mw by two of mn (or dpn), mw and dispersity", given()));
+            fmt::format(" gives {}; expected Mn and Mw by two of mn (or dpn), mw and dispersity, or "
+                        "by one of them, mz and a type that relates them",
+                        given()));
+    }
+
+    // Mw/Mn from Mz and one other average.
+    Number dispersity_by_mz(const Number& mn) const
+    {
+        const auto& f = fraction_;
+        if (!f.mz || !f.type) return {};
+        if (f.dispersity) return f.dispersity;
+        if (f.mw) return dispersity_by_z_ratio(*f.type, *f.mz / *f.mw);
+        return mn ? Number{dispersity_by_whole_ratio(*f.type, *f.mz / *mn)} : Number{};
+    }
+
+    std::optional<Averages> with_mz(double mn, double mw, double m0)
+    {
+        const auto& f = fraction_;
+        if (!f.type) return in_order({mn, mw, f.mz}, m0);
+        const double follows = mw * z_ratio(*f.type, mw / mn);
+        if (f.mz && !agree(*f.mz, follows)) return contradiction("mz", *f.mz, "the type", follows);
+        return in_order({mn, mw, f.mz ? f.mz : follows}, m0);
     }
 
     static bool agree(double a, double b) { return std::abs(a - b) <= agreement * std::max(a, b); }
@@ -156,19 +217,18 @@ private:
         return averages;
     }
 
-    std::optional<ChainMoments> moments(const Averages& averages, const std::vector<double>& shares,
-                                        double m0)
+    std::optional<FractionSums> sums(const Averages& averages, const std::vector<double>& shares, double m0)
     {
-        ChainMoments moments;
-        moments.mass = fraction_.mass ? *fraction_.mass : fraction_.moles.value_or(0) * averages.mn;
-        moments.zeroth = fraction_.mass ? moments.mass / averages.mn : *fraction_.moles;
-        moments.first = moments.mass / m0;
-        moments.second = averages.mw / m0 * *moments.first;
-        if (averages.mz) moments.third = *averages.mz / m0 * *moments.second;
-        if (moments.mass == 0) moments.third = 0;
-        for (const auto share : shares) moments.segment_flows.push_back(share * *moments.first);
-        if (std::isfinite(*moments.second) && std::isfinite(moments.third.value_or(0))) return moments;
-        return refuse(" has moments that are not finite; expected smaller values");
+        FractionSums sums;
+        sums.mass = fraction_.mass ? *fraction_.mass : fraction_.moles.value_or(0) * averages.mn;
+        sums.chains = fraction_.mass ? sums.mass / averages.mn : *fraction_.moles;
+        sums.by_mw = sums.mass * averages.mw;
+        sums.segments = sums.mass / m0;
+        sums.by_mw = sums.mass * averages.mw;
+        sums.by_mz = averages.mz ? Number{sums.by_mw * *averages.mz} : Number{};
+        if (sums.mass == 0) sums.by_mz = 0;
+        for (const auto share : shares) sums.segment_flows.push_back(share * sums.segments);
+        return sums;
     }
 
     const ChainFraction& fraction_;
@@ -176,21 +236,26 @@ private:
     Diagnostics& diagnostics_;
 };
 
-// What is unknown of one part is unknown of the whole.
-Number sum(const Number& a, const Number& b)
+void add(const FractionSums& part, FractionSums& whole)
 {
-    return a && b ? Number{*a + *b} : Number{};
-}
-
-void add(const ChainMoments& part, ChainMoments& whole)
-{
-    whole.zeroth = sum(whole.zeroth, part.zeroth);
-    whole.first = sum(whole.first, part.first);
-    whole.second = sum(whole.second, part.second);
-    whole.third = sum(whole.third, part.third);
     whole.mass += part.mass;
+    whole.chains += part.chains;
+    whole.segments += part.segments;
+    whole.by_mw += part.by_mw;
+    whole.by_mz = whole.by_mz && part.by_mz ? Number{*whole.by_mz + *part.by_mz} : Number{};
     for (std::size_t s = 0; s < part.segment_flows.size(); ++s)
         whole.segment_flows[s] += part.segment_flows[s];
+}
+
+ChainMoments moments(FractionSums sums)
+{
+    ChainMoments moments{sums.chains, sums.segments, 0.0, {}, std::move(sums.segment_flows), sums.mass};
+    if (sums.by_mz) moments.third = 0;
+    if (!(sums.mass > 0)) return moments;
+    const double m0 = sums.mass / sums.segments;
+    moments.second = sums.by_mw / m0 / m0;
+    if (sums.by_mz) moments.third = *sums.by_mz / m0 / m0 / m0;
+    return moments;
 }
 
 Number ratio(const Number& a, const Number& b)
@@ -260,14 +325,20 @@ constexpr Scalar scalars[] = {
 std::optional<ChainMoments> chain_moments(const PolymerChains& chains, const Segments& segments,
                                           Diagnostics& diagnostics)
 {
-    ChainMoments whole{0.0, 0.0, 0.0, 0.0, std::vector<double>(segments.size()), 0};
+    FractionSums whole;
+    whole.segment_flows.resize(segments.size());
     bool is_usable = true;
     for (const auto& fraction : chains.fractions) {
-        const auto part = FractionReader{fraction, segments, diagnostics}.moments();
+        const auto part = FractionReader{fraction, segments, diagnostics}.sums();
         is_usable = is_usable && part;
         if (part) add(*part, whole);
     }
-    return is_usable ? std::optional{whole} : std::nullopt;
+    if (!is_usable) return {};
+    auto all = moments(std::move(whole));
+    if (std::isfinite(*all.second) && std::isfinite(all.third.value_or(0))) return all;
+    diagnostics.add(chains.polymer.source,
+                    chains.polymer.source.key + " has moments that are not finite; expected smaller values");
+    return {};
 }
 
 std::vector<double> attribute_values(const ChainMoments& moments, std::string_view attribute)

@@ -38,17 +38,20 @@ void compare(const AttributeValue& given, const std::vector<double>& elements,
          Severity::warning});
 }
 
-void add_attributes(const PolymerChains& chains, const ChainMoments& moments, Stream& stream, Case& input)
+void add_attributes(const PolymerChains& chains, ChainMoments moments, Stream& stream, Case& input)
 {
     const auto segments = segments_of(input);
     const auto& [id, source] = chains.polymer;
+    // Mz stays that of the chains when SMOM is given.
+    if (const auto second = number_of(stream, id, "SMOM"); second && moments.third && *moments.second > 0)
+        *moments.third *= *second / *moments.second;
     for (const auto& name : carried_attributes(input, id)) {
         auto values = attribute_values(moments, name);
         if (values.empty()) continue;
         if (const auto* given = find_attribute(stream, id, name))
             compare(*given, by_position(*given, segments), values, source, input);
         else
-            stream.attributes.push_back({chains.polymer, {name, source}, std::move(values), {}});
+            stream.attributes.push_back({chains.polymer, {name, source}, std::move(values), {}, true});
     }
 }
 

@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include "app/case/chain_moments.h"
 #include "minihost/attributes.h"
@@ -14,6 +15,8 @@
 namespace app {
 
 namespace {
+
+constexpr double mass_average_tolerance = 1e-4;  // relative
 
 struct Part {
     const Stream* stream;
@@ -38,7 +41,7 @@ bool holds(const Stream& stream, const std::string& component)
 // One component of a mixture.
 class ComponentMix {
 public:
-    ComponentMix(const Component& component, Parts parts, const Case& input, const Mix& mix,
+    ComponentMix(const Component& component, Parts parts, Case& input, const Mix& mix,
                  Diagnostics& diagnostics)
         : component_(component),
           parts_(std::move(parts)),
@@ -65,6 +68,7 @@ public:
         }
         if (!diagnostics_.empty()) return;
         const auto moments = moments_of(stream);
+        compare_mass_average(moments);
         for (const auto& name : averages) add(stream, name, average(name, moments));
     }
 
@@ -80,7 +84,7 @@ private:
     {
         if (!values.empty())
             stream.attributes.push_back(
-                {{component_.id, mix_.source}, {name, mix_.source}, std::move(values), {}});
+                {{component_.id, mix_.source}, {name, mix_.source}, std::move(values), {}, true});
     }
 
     void refuse(const std::string& why) const
@@ -120,15 +124,40 @@ private:
         return values;
     }
 
+    // Moments count segments: sums of them give Mw by mass only where the chains are of one segment weight.
+    void compare_mass_average(const ChainMoments& whole) const
+    {
+        double mass = 0;
+        double by_mw = 0;
+        for (const auto& [stream, factor] : parts_) {
+            const auto part = moments_of(*stream);
+            mass += factor * part.mass;
+            by_mw += factor * part.mass * mw(part);
+        }
+        const double by_mass = by_mw / mass;
+        if (!(std::abs(mw(whole) - by_mass) > mass_average_tolerance * by_mass)) return;
+        input_.warnings.push_back(
+            {mix_.source,
+             fmt::format("{}: chains of {} differ in their segment weights; moments count segments, so that "
+                         "Mw is {:.6g} g/mol in the results, but {:.6g} g/mol by mass; Mz and dispersity "
+                         "differ likewise",
+                         mix_.source.key, component_.id, mw(whole), by_mass),
+             Severity::warning});
+    }
+
+    // NaN where a moment is not known or zero.
+    static double mw(const ChainMoments& m)
+    {
+        const double segments = m.first.value_or(0);
+        return m.second.value_or(0) / segments * (m.mass / segments);
+    }
+
     ChainMoments moments_of(const Stream& stream) const
     {
-        const auto number = [&](const char* name) {
-            const auto* value = find_attribute(stream, component_.id, name);
-            return value ? std::optional{value->elements.front()} : std::nullopt;
-        };
+        const auto number = [&](const char* name) { return number_of(stream, component_.id, name); };
         ChainMoments moments{number("ZMOM"), number("FMOM"), number("SMOM"), number("TMOM"), {}, 0};
         if (const auto* flows = find_attribute(stream, component_.id, "SFLOW"))
-            moments.segment_flows = flows->elements;
+            moments.segment_flows = by_position(*flows, segments_);
         double segments = 0;
         for (std::size_t s = 0; s < std::min(segments_.size(), moments.segment_flows.size()); ++s) {
             segments += moments.segment_flows[s];
@@ -140,7 +169,7 @@ private:
 
     const Component& component_;
     Parts parts_;
-    const Case& input_;
+    Case& input_;
     const Mix& mix_;
     Segments segments_;
     Diagnostics& diagnostics_;

@@ -49,7 +49,8 @@ void check_segments(const Case& input, const PolymerChains& chains, Diagnostics&
 {
     const auto known = ids_of(input, ComponentClass::segment);
     const SegmentFractions* previous = nullptr;
-    for (const auto& [source, mass, moles, segments, mn, mw, mz, dispersity, dpn] : chains.fractions) {
+    for (const auto& fraction : chains.fractions) {
+        const auto& segments = fraction.segments;
         if (!segments || (previous && previous->source == segments->source)) continue;
         previous = &*segments;
         for (const auto& [segment, value] : segments->values)

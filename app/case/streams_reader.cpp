@@ -76,6 +76,15 @@ std::optional<double> read_dispersity(TableReader& table)
     return value;
 }
 
+// A Poisson distribution has no dispersity to give.
+std::optional<ChainLengthModel> read_type(TableReader& table)
+{
+    constexpr Word<ChainLengthModel> types[] = {{"log-normal", ChainLengthModel::log_normal},
+                                                {"schulz-zimm", ChainLengthModel::schulz_zimm}};
+    const auto entry = table.entry("type");
+    return entry ? read_word(*entry, types, table.diagnostics()) : std::nullopt;
+}
+
 ChainFraction read_chain_fraction(TableReader& table, const std::optional<SegmentFractions>& segments)
 {
     ChainFraction fraction;
@@ -91,6 +100,7 @@ ChainFraction read_chain_fraction(TableReader& table, const std::optional<Segmen
     fraction.mz = table.number("mz", Range::positive);
     fraction.dispersity = read_dispersity(table);
     fraction.dpn = table.number("dpn", Range::positive);
+    fraction.type = read_type(table);
     return fraction;
 }
 
@@ -118,7 +128,7 @@ PolymerChains read_polymer_chains(const Entry& entry, TableReader table)
     PolymerChains chains{{entry.key, entry.source}, {}};
     const auto segments = read_segment_fractions(table);
     if (const auto list = table.entry("fractions")) {
-        refuse_both(table, "fractions", {"mass", "moles", "mn", "mw", "mz", "dispersity", "dpn"});
+        refuse_both(table, "fractions", {"mass", "moles", "mn", "mw", "mz", "dispersity", "dpn", "type"});
         chains.fractions = read_chain_fractions(*list, segments, table.diagnostics());
     } else {
         chains.fractions.push_back(read_chain_fraction(table, segments));

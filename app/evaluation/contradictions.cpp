@@ -4,6 +4,7 @@
 //   FMOM = F,  ZMOM · SMOM ≥ F²,  F · TMOM ≥ SMOM²   moments of chain lengths of at least one segment
 //   Σ SZMOM = ZMOM,  Σ SSMOM = SMOM               sums over site types
 //   Σ SSFLOW(s) = SFLOW(s),  SFMOM = Σ SSFLOW     over site types; over the segments of a site type
+//   SZMOM · SSMOM ≥ (Σ SSFLOW)²                   of each site type
 //   end segments = 2 · ZMOM                       linear chains
 //   DPN = F / ZMOM;  MWSEG and SFRAC by SFLOW     attributes that are preferred to the moments
 #include "app/evaluation/contradictions.h"
@@ -13,6 +14,7 @@
 
 #include <algorithm>
 
+#include "app/evaluation/average_sources.h"
 #include "app/evaluation/comparison.h"
 
 namespace app {
@@ -54,8 +56,9 @@ std::vector<double> fractions(std::vector<double> values)
 
 class PolymerComparisons {
 public:
-    PolymerComparisons(const GivenPolymer& polymer, const Segments& segments, std::vector<Diagnostic>& found)
-        : polymer_(polymer), segments_(segments), found_(found)
+    PolymerComparisons(const GivenPolymer& polymer, const Segments& segments, AverageSources sources,
+                       std::vector<Diagnostic>& found)
+        : polymer_(polymer), segments_(segments), sources_(std::move(sources)), found_(found)
     {
     }
 
@@ -81,24 +84,25 @@ private:
     }
 
     void expect_equal(const SourcePosition& source, const Quantity& given, const Quantity& other,
-                      const std::string& advice = {})
+                      const std::string& use)
     {
         if (agree(given.value, other.value)) return;
         warn(source,
-             fmt::format("{}, but {}; {}{}", shown(given), shown(other), difference(given, other), advice));
+             fmt::format("{}, but {}; {}{}", shown(given), shown(other), difference(given, other), use));
     }
 
-    void expect_equal(std::string_view attribute, const Quantity& other, const char* unit = mole_flow)
+    void expect_equal(std::string_view attribute, const Quantity& other, const std::string& use,
+                      const char* unit = mole_flow)
     {
         expect_equal(polymer_.source(attribute), {polymer_.key(attribute), polymer_.value(attribute), unit},
-                     other);
+                     other, use);
     }
 
     // Of several elements the one that differs most is enough.
     template <typename Label>
     void expect_all_equal(std::string_view attribute, const std::vector<double>& given,
                           const std::vector<double>& other, const char* other_name, const char* unit,
-                          Label label)
+                          Label label, const std::string& use)
     {
         std::size_t worst = 0;
         for (std::size_t i = 1; i < given.size(); ++i)
@@ -107,7 +111,7 @@ private:
         if (!given.empty())
             expect_equal(polymer_.source(attribute),
                          {polymer_.key(attribute) + label(worst), given[worst], unit},
-                         {other_name, other[worst], unit});
+                         {other_name, other[worst], unit}, use);
     }
 
     std::string of_segment(std::size_t s) const { return " of " + segments_[s].id; }
@@ -125,8 +129,9 @@ private:
                                                       std::max(by_flow.value, by_segments.value) / smaller)
                                         : std::string{};
         expect_equal(polymer_.flow().component.source, by_flow, by_segments,
-                     fmt::format("{}; check {}, components.{}.molecular_weight and the scale of {}", factor,
-                                 polymer_.flow_key(), polymer_.id(), fmt::join(scaled(), ", ")));
+                     fmt::format("{}; compositions use the flow, averages the moments; check {}, "
+                                 "components.{}.molecular_weight and the scale of {}",
+                                 factor, polymer_.flow_key(), polymer_.id(), fmt::join(scaled(), ", ")));
     }
 
     // Attributes that have the scale of the flow.
@@ -141,46 +146,74 @@ private:
     void compare_moments()
     {
         if (gives({"FMOM", "SFLOW"}))
-            expect_equal("FMOM", {"the sum of SFLOW", polymer_.sum("SFLOW"), mole_flow});
+            expect_equal("FMOM", {"the sum of SFLOW", polymer_.sum("SFLOW"), mole_flow},
+                         fmt::format("{}; compositions and Mw/Mn use SFLOW", mn_use()));
         const auto* first = gives({"FMOM"}) ? "FMOM" : "SFLOW";
         if (!gives({first})) return;
         const double f = polymer_.sum(first);
         const std::string name = gives({"FMOM"}) ? "FMOM" : "the sum of SFLOW";
         if (gives({"ZMOM", "SMOM"}))
-            expect_not_below("SMOM", {"ZMOM times SMOM", polymer_.value("ZMOM") * polymer_.value("SMOM")},
-                             {"the square of " + name, f * f}, "Mw/Mn");
+            expect_not_below("SMOM", "", {"ZMOM times SMOM", polymer_.value("ZMOM") * polymer_.value("SMOM")},
+                             {"the square of " + name, f * f}, "Mw/Mn", "; Mw uses " + sources_.dispersity);
         if (gives({"SMOM", "TMOM"})) {
             const double s = polymer_.value("SMOM");
-            expect_not_below("TMOM", {name + " times TMOM", f * polymer_.value("TMOM")},
-                             {"the square of SMOM", s * s}, "Mz/Mw");
+            expect_not_below("TMOM", "", {name + " times TMOM", f * polymer_.value("TMOM")},
+                             {"the square of SMOM", s * s}, "Mz/Mw", "; Mz uses TMOM and SMOM");
         }
     }
 
-    void expect_not_below(std::string_view attribute, const Quantity& product, const Quantity& square,
-                          const char* ratio)
+    std::string mn_use() const { return "; Mn uses " + sources_.length; }
+
+    void expect_not_below(std::string_view attribute, const std::string& element, const Quantity& product,
+                          const Quantity& square, const char* ratio, const std::string& use)
     {
         if (product.value >= square.value || agree(product.value, square.value)) return;
         warn(polymer_.source(attribute),
-             fmt::format("{}: {}, but {}; {}: {} would be {:.6g}, below 1", polymer_.key(attribute),
-                         shown(product), shown(square), difference(product, square), ratio,
-                         product.value / square.value));
+             fmt::format("{}{}: {}, but {}; {}: {} would be {:.6g}, below 1{}", polymer_.key(attribute),
+                         element, shown(product), shown(square), difference(product, square), ratio,
+                         product.value / square.value, use));
     }
 
     void compare_sites()
     {
         for (const auto& [whole, by_site] : {std::pair{"ZMOM", "SZMOM"}, {"SMOM", "SSMOM"}})
             if (gives({whole, by_site}))
-                expect_equal(whole, {std::string{"the sum of "} + by_site, polymer_.sum(by_site), mole_flow});
-        if (!gives({"SSFLOW"})) return;
+                expect_equal(whole, {std::string{"the sum of "} + by_site, polymer_.sum(by_site), mole_flow},
+                             site_use(whole, by_site));
+        if (!gives({"SSFLOW"})) {
+            if (gives({"FMOM", "SFMOM"}))
+                expect_equal("FMOM", {"the sum of SFMOM", polymer_.sum("SFMOM"), mole_flow},
+                             "; results use FMOM, none uses SFMOM");
+            return;
+        }
         const auto& by_site = polymer_.elements("SSFLOW");
+        const auto sums = over_segments(by_site, segments_.size());
         if (gives({"SFLOW"}))
-            expect_all_equal("SFLOW", polymer_.elements("SFLOW"), over_sites(by_site, segments_.size()),
-                             "the sum of SSFLOW over the site types", mole_flow,
-                             [&](std::size_t s) { return of_segment(s); });
+            expect_all_equal(
+                "SFLOW", polymer_.elements("SFLOW"), over_sites(by_site, segments_.size()),
+                "the sum of SSFLOW over the site types", mole_flow,
+                [&](std::size_t s) { return of_segment(s); }, site_use("SFLOW", "SSFLOW"));
         if (gives({"SFMOM"}))
-            expect_all_equal("SFMOM", polymer_.elements("SFMOM"), over_segments(by_site, segments_.size()),
-                             "the sum of SSFLOW of this site type", mole_flow,
-                             [](std::size_t t) { return fmt::format("[{}]", t + 1); });
+            expect_all_equal(
+                "SFMOM", polymer_.elements("SFMOM"), sums, "the sum of SSFLOW of this site type", mole_flow,
+                [](std::size_t t) { return fmt::format("[{}]", t + 1); },
+                "; results of site types use SSFLOW");
+        if (gives({"SZMOM", "SSMOM"})) compare_site_moments(sums);
+    }
+
+    static std::string site_use(std::string_view whole, std::string_view by_site)
+    {
+        return fmt::format("; results of the polymer use {}, those of site types {}", whole, by_site);
+    }
+
+    void compare_site_moments(const std::vector<double>& segment_flows)
+    {
+        for (std::size_t t = 0; t < segment_flows.size(); ++t)
+            expect_not_below(
+                "SSMOM", fmt::format("[{}]", t + 1),
+                {"SZMOM times SSMOM", polymer_.elements("SZMOM")[t] * polymer_.elements("SSMOM")[t]},
+                {"the square of the sum of SSFLOW of this site type", segment_flows[t] * segment_flows[t]},
+                "Mw/Mn", "; results of the site type use these three");
     }
 
     // One end of each chain may be no segment, such as a hydrogen end.
@@ -198,9 +231,9 @@ private:
         }
         const double chains = polymer_.value("ZMOM");
         if (ends > 0 && branches == 0 && !agree(ends, chains))
-            expect_equal(polymer_.source("SFLOW"),
-                         {polymer_.key("SFLOW") + ": flow of end segments", ends, mole_flow},
-                         {"twice ZMOM", 2 * chains, mole_flow}, ", and linear chains have two ends each");
+            expect_equal(
+                polymer_.source("SFLOW"), {polymer_.key("SFLOW") + ": flow of end segments", ends, mole_flow},
+                {"twice ZMOM", 2 * chains, mole_flow}, ", and linear chains have two ends each" + mn_use());
     }
 
     void compare_averages()
@@ -210,33 +243,39 @@ private:
             expect_equal("DPN",
                          {fmt::format("{} over ZMOM", gives({"FMOM"}) ? "FMOM" : "the sum of SFLOW"),
                           polymer_.sum(first) / polymer_.value("ZMOM")},
-                         "");
+                         mn_use(), "");
         if (!gives({"SFLOW"}) || !(polymer_.sum("SFLOW") > 0)) return;
         const auto& flows = polymer_.elements("SFLOW");
         if (gives({"MWSEG"}))
             expect_equal(
                 "MWSEG",
                 {"the mean segment weight of SFLOW", mass(flows, segments_) / polymer_.sum("SFLOW"), "g/mol"},
-                "g/mol");
+                weight_use(), "g/mol");
         if (gives({"SFRAC"}))
-            expect_all_equal("SFRAC", polymer_.elements("SFRAC"), fractions(flows), "its share of SFLOW", "",
-                             [&](std::size_t s) { return of_segment(s); });
+            expect_all_equal(
+                "SFRAC", polymer_.elements("SFRAC"), fractions(flows), "its share of SFLOW", "",
+                [&](std::size_t s) { return of_segment(s); },
+                weight_use() + ", mole fractions of segments SFRAC, mass fractions SFLOW");
     }
+
+    std::string weight_use() const { return "; molecular weights use " + sources_.mean_segment_weight; }
 
     const GivenPolymer& polymer_;
     const Segments& segments_;
+    AverageSources sources_;
     std::vector<Diagnostic>& found_;
 };
 
 }  // namespace
 
-std::vector<Diagnostic> contradictions(const Stream& stream, minihost::Host& host)
+std::vector<Diagnostic> contradictions(const Stream& stream, const Settings& settings, minihost::Host& host)
 {
     std::vector<Diagnostic> found;
     const auto polymers = given_polymers(stream, host);
     if (polymers.empty()) return found;
     const auto segments = given_segments(host, minihost::read_polymer_input(host));
-    for (const auto& polymer : polymers) PolymerComparisons{polymer, segments, found}.compare();
+    for (const auto& polymer : polymers)
+        PolymerComparisons{polymer, segments, average_sources(settings, polymer, segments), found}.compare();
     return found;
 }
 

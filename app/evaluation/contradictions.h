@@ -8,7 +8,8 @@
 
 namespace app {
 
-// A warning for each pair of values that differ by more than 0.01 % of the larger.
-std::vector<Diagnostic> contradictions(const Stream& stream, minihost::Host& host);
+// A warning for each pair of values that differ by more than 0.01 % of the larger; it says which of them the
+// results use.
+std::vector<Diagnostic> contradictions(const Stream& stream, const Settings& settings, minihost::Host& host);
 
 }  // namespace app

@@ -67,7 +67,8 @@ void append(std::vector<Diagnostic> found, std::vector<Diagnostic>& all)
 
 void add_warnings(const Case& input, Host& host, Results& results)
 {
-    for (const auto& stream : input.streams) append(contradictions(stream, host), results.warnings);
+    for (const auto& stream : input.streams)
+        append(contradictions(stream, input.settings, host), results.warnings);
     append(unused_values(input, results.streams, host), results.warnings);
     std::ranges::stable_sort(results.warnings, {}, &Diagnostic::source);
     for (const auto& distribution : results.distributions) append(distribution.warnings, results.warnings);
@@ -100,7 +101,7 @@ ConversionResults evaluate_conversion(const Case& input, const std::string& stre
     if (!prepare(input, loaded, results)) return results;
     results.compositions = convert(stream, from, to, loaded.host());
     const auto found = std::ranges::find(input.streams, stream, [](const auto& s) { return s.name.id; });
-    results.warnings = contradictions(*found, loaded.host());
+    results.warnings = contradictions(*found, input.settings, loaded.host());
     return results;
 }
 

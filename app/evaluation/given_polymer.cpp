@@ -43,7 +43,8 @@ GivenPolymer::GivenPolymer(const Stream& stream, const Flow& flow, minihost::Hos
         const auto* entry = host.attributes().find(component_, value.name.id);
         if (value.component.id != id() || !entry || !fits(value, *entry)) continue;
         const auto* begin = first + entry->offset;
-        values_.insert_or_assign(value.name.id, Given{value.name.source, {begin, begin + entry->length}});
+        values_.insert_or_assign(value.name.id,
+                                 Given{value.name.source, {begin, begin + entry->length}, value.is_derived});
     }
 }
 
@@ -55,6 +56,12 @@ double GivenPolymer::mass_flow() const
 bool GivenPolymer::carries(std::string_view attribute) const
 {
     return host_.attributes().find(component_, attribute) != nullptr;
+}
+
+bool GivenPolymer::states(std::string_view attribute) const
+{
+    const auto found = values_.find(attribute);
+    return found != values_.end() && !found->second.is_derived;
 }
 
 bool GivenPolymer::gives_all(std::initializer_list<std::string_view> attributes) const

@@ -31,6 +31,7 @@ public:
     double mass_flow() const;                        // kg/h, by the component's molecular weight
     bool carries(std::string_view attribute) const;  // in every stream
     bool gives(std::string_view attribute) const { return values_.contains(attribute); }
+    bool states(std::string_view attribute) const;  // gives it in `attributes`
     bool gives_all(std::initializer_list<std::string_view> attributes) const;
 
     // Of an attribute that is given.
@@ -47,6 +48,7 @@ private:
     struct Given {
         SourcePosition source;
         std::vector<double> elements;
+        bool is_derived;  // from `chains` or `mix`
     };
 
     const std::string& stream_;

@@ -63,18 +63,12 @@ public:
     {
         add(source, fmt::format("{} is not used: {}", given, why));
     }
+    void absent(const SourcePosition& source, std::string text) { add(source, std::move(text)); }
     std::vector<Diagnostic> take() { return std::move(found_); }
 
 private:
-    // Attributes that follow from `chains` or `mix` have the position of that key: nobody gave them.
-    static bool is_derived(const SourcePosition& source)
-    {
-        return source.key.starts_with("streams.") && source.key.find(".attributes") == std::string::npos;
-    }
-
     void add(const SourcePosition& source, std::string text)
     {
-        if (is_derived(source)) return;
         found_.push_back({source, std::move(text), Severity::warning});
     }
 
@@ -115,14 +109,14 @@ public:
 private:
     void unused(const char* attribute, const char* unit, const Quantity& taken)
     {
-        if (given_.gives(attribute))
+        if (given_.states(attribute))
             warnings_.unused(given_.source(attribute), {given_.key(attribute), given_.value(attribute), unit},
                              taken);
     }
 
     void unused(const char* attribute, const std::string& why)
     {
-        if (given_.gives(attribute))
+        if (given_.states(attribute))
             warnings_.without_effect(given_.source(attribute), given_.key(attribute), why);
     }
 
@@ -131,7 +125,7 @@ private:
                 const std::vector<double>& taken)
     {
         const auto& given = given_.elements(attribute);
-        if (given.empty() || taken.size() != given.size()) return;
+        if (!given_.states(attribute) || given.empty() || taken.size() != given.size()) return;
         std::size_t worst = 0;
         for (std::size_t i = 1; i < given.size(); ++i)
             if (relative_difference(given[i], taken[i]) > relative_difference(given[worst], taken[worst]))
@@ -168,7 +162,9 @@ private:
     void name_z_averages()
     {
         if (!given_.gives_all({"SMOM", "TMOM"}) || !(given_.value("SMOM") > 0)) {
-            for (const auto* attribute : {"DPZ", "MWZ"}) unused(attribute, "no result depends on it");
+            for (const auto* attribute : {"DPZ", "MWZ"})
+                unused(attribute,
+                       fmt::format("Mz comes from TMOM and SMOM, which {} does not give", given_.id()));
             return;
         }
         const double dpz = given_.value("TMOM") / given_.value("SMOM");
@@ -180,7 +176,7 @@ private:
 
     void name_second_moment()
     {
-        if (!given_.gives_all({"ZMOM", "SMOM", "SFLOW"})) return;
+        if (!given_.states("SMOM") || !given_.gives_all({"ZMOM", "SMOM", "SFLOW"})) return;
         const double f = given_.sum("SFLOW");
         warnings_.unused(given_.source("SMOM"),
                          {given_.key("SMOM") + ": Mw/Mn from ZMOM, SMOM and SFLOW",
@@ -290,7 +286,7 @@ void name_values_without_polymer(const Case& input, const Stream& stream, Warnin
         const auto& id = value.component.id;
         const auto* component = input.find(id);
         const auto key = fmt::format("streams.{}.attributes.{}", stream.name.id, id);
-        if (!component || is_of_catalyst(value) || idle == id) continue;
+        if (!component || value.is_derived || is_of_catalyst(value) || idle == id) continue;
         if (component->component_class != ComponentClass::polymer) {
             warnings.without_effect(value.name.source, fmt::format("{}.{}", key, value.name.id),
                                     id + " is not a polymer");
@@ -318,6 +314,14 @@ void name_parameters(const Component& component, const std::vector<Polymer>& pol
     if (component.dpn && !is_taken(&AverageSources::takes_dpn_parameter))
         warnings.unused(component.dpn_source, {name("dpn"), *component.dpn},
                         {taken("DPN", first->sources.length), first->averages.dpn});
+    const bool counts_chains = first->given.carries("ZMOM") || first->given.carries("DPN");
+    if (!component.pdi && counts_chains && is_taken(&AverageSources::takes_pdi_parameter))
+        warnings.absent(
+            component.source,
+            fmt::format(
+                "{} is not given, but Mw/Mn of {} comes from it where a stream has no usable ZMOM, SMOM "
+                "and SFLOW, or settings.pdi_from is \"parameters\": Mw is Mn; expected pdi or SMOM",
+                name("pdi"), component.id));
     if (component.pdi && !is_taken(&AverageSources::takes_pdi_parameter))
         warnings.unused(component.pdi_source, {name("pdi"), *component.pdi},
                         {taken("Mw/Mn", first->sources.dispersity), first->averages.pdi});

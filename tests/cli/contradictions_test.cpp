@@ -63,61 +63,92 @@ Changes giving(const std::string& name, const std::string& value)
 TEST(Contradictions, AreNamedWithBothValuesAndTheirDifference)
 {
     const std::string p = "streams.S.attributes.P.";
+    const std::string site_2 =
+        "SZMOM times SSMOM is 36.6, but the square of the sum of SSFLOW of this site type is 43.56; they "
+        "differ by "
+        "16 % of the larger: Mw/Mn would be 0.84022, below 1; results of the site type use these three";
     expect_each({
         {{}, {}},
         {{{"{ P = 10 }", "{ P = 5 }"}},
          {"c.toml:11:11: streams.S.flows.P: flow times molecular weight is 500 kg/h, but SFLOW times segment "
-          "weights is 1000 kg/h; they differ by 50 % of the larger, a factor of 2; check streams.S.flows.P, "
+          "weights is 1000 kg/h; they differ by 50 % of the larger, a factor of 2; compositions use the "
+          "flow, averages the moments; check streams.S.flows.P, "
           "components.P.molecular_weight and the scale of SFLOW, ZMOM, FMOM, SMOM, TMOM"}},
         {{{"FMOM = 10.5", "FMOM = 10.501"}}, {}},  // 0.0095 %
         {{{"FMOM = 10.5", "FMOM = 10.502"}},
          {"c.toml:14:1: " + p +
           "FMOM is 10.502 kmol/h, but the sum of SFLOW is 10.5 kmol/h; they differ by 0.019 % of the "
-          "larger"}},
-        {{{"SMOM = 441", "SMOM = 200"}, {"[141, 300]", "[60, 140]"}},
+          "larger; Mn uses FMOM and ZMOM; compositions and Mw/Mn use SFLOW"}},
+        {{{"SMOM = 441", "SMOM = 200"}, {"[141, 300]", "[78, 122]"}},
          {"c.toml:15:1: " + p +
-          "SMOM: ZMOM times SMOM is 100, but the square of FMOM is 110.25; they differ by 9.3 % of the "
-          "larger: Mw/Mn would be 0.907029, below 1"}},
+              "SMOM: ZMOM times SMOM is 100, but the square of FMOM is 110.25; they differ by 9.3 % of the "
+              "larger: Mw/Mn would be 0.907029, below 1; Mw uses ZMOM, SMOM and SFLOW",
+          "c.toml:20:1: " + p + "SSMOM[2]: " + site_2}},
         {{{"\"FMOM\", ", ""},
           {"FMOM = 10.5\n", ""},
           {"SMOM = 441", "SMOM = 200"},
-          {"[141, 300]", "[60, 140]"}},
+          {"[141, 300]", "[78, 122]"}},
          {"c.toml:14:1: " + p +
-          "SMOM: ZMOM times SMOM is 100, but the square of the sum of SFLOW is 110.25; they differ by 9.3 % "
-          "of the larger: Mw/Mn would be 0.907029, below 1"}},
+              "SMOM: ZMOM times SMOM is 100, but the square of the sum of SFLOW is 110.25; they differ by "
+              "9.3 % "
+              "of the larger: Mw/Mn would be 0.907029, below 1; Mw uses ZMOM, SMOM and SFLOW",
+          "c.toml:19:1: " + p + "SSMOM[2]: " + site_2}},
         {{{"TMOM = 27783", "TMOM = 10000"}},
          {"c.toml:16:1: " + p +
           "TMOM: FMOM times TMOM is 105000, but the square of SMOM is 194481; they differ by 46 % of the "
-          "larger: Mz/Mw would be 0.539898, below 1"}},
+          "larger: Mz/Mw would be 0.539898, below 1; Mz uses TMOM and SMOM"}},
         {{{"[0.2, 0.3]", "[0.2, 0.2]"}},
          {"c.toml:13:1: " + p +
-          "ZMOM is 0.5 kmol/h, but the sum of SZMOM is 0.4 kmol/h; they differ by 20 % of the larger"}},
+          "ZMOM is 0.5 kmol/h, but the sum of SZMOM is 0.4 kmol/h; they differ by 20 % of the larger; "
+          "results of the polymer "
+          "use ZMOM, those of site types SZMOM"}},
         {{{"[141, 300]", "[141, 200]"}},
          {"c.toml:15:1: " + p +
-          "SMOM is 441 kmol/h, but the sum of SSMOM is 341 kmol/h; they differ by 22.7 % of the larger"}},
+          "SMOM is 441 kmol/h, but the sum of SSMOM is 341 kmol/h; they differ by 22.7 % of the larger; "
+          "results of the "
+          "polymer use SMOM, those of site types SSMOM"}},
         {{{"[3.5, 0.4", "[3.5, 0.5"}},
          {"c.toml:17:1: " + p +
               "SFLOW of B-E is 1 kmol/h, but the sum of SSFLOW over the site types is 1.1 kmol/h; they "
-              "differ by 9.09 % of the larger",
+              "differ by 9.09 % of the larger; results of the polymer use SFLOW, those of site types SSFLOW",
           "c.toml:19:1: " + p +
               "SFMOM[1] is 3.9 kmol/h, but the sum of SSFLOW of this site type is 4 kmol/h; they differ by "
-              "2.5 % of the larger"}},
+              "2.5 % of the larger; results of site types use SSFLOW"}},
+        {{{"\"SSFLOW\"", "\"SFRAC\""},
+          {"SSFLOW = [3.5, 0.4, 6, 0.6]", "SFRAC = [0.9047619, 0.0952381]"},
+          {"[3.9, 6.6]", "[3.9, 6]"},
+          {"\"SZMOM\", ", ""},
+          {"SZMOM = [0.2, 0.3]\n", ""},
+          {"\"SSMOM\", ", ""},
+          {"SSMOM = [141, 300]\n", ""}},
+         {"c.toml:14:1: " + p +
+              "FMOM is 10.5 kmol/h, but the sum of SFMOM is 9.9 kmol/h; they differ by 5.71 % of the larger; "
+              "results use FMOM, none uses SFMOM",
+          "c.toml:18:1: " + p + "SFMOM is not used: no result depends on it"}},
+        // 0.2 · 60 is below 3.9², whereas the sums over the site types agree.
+        {{{"[141, 300]", "[60, 381]"}},
+         {"c.toml:20:1: " + p +
+          "SSMOM[1]: SZMOM times SSMOM is 12, but the square of the sum of SSFLOW of this site type is "
+          "15.21; they differ by 21.1 % of the larger: Mw/Mn would be 0.788955, below 1; results of the site "
+          "type use these three"}},
         {{{"ZMOM = 0.5", "ZMOM = 0.4"}, {"[0.2, 0.3]", "[0.2, 0.2]"}},
          {"c.toml:17:1: " + p +
           "SFLOW: flow of end segments is 1 kmol/h, but twice ZMOM is 0.8 kmol/h; they differ by 20 % of "
-          "the larger, and linear chains have two ends each"}},
+          "the larger, and linear chains have two ends each; Mn uses FMOM and ZMOM"}},
         // Branches, or chains with one end that is no segment.
         {{{"\"repeat\"", "\"branch3\""}, {"ZMOM = 0.5", "ZMOM = 0.4"}, {"[0.2, 0.3]", "[0.2, 0.2]"}}, {}},
         {{{"ZMOM = 0.5", "ZMOM = 1"}, {"[0.2, 0.3]", "[0.4, 0.6]"}}, {}},
         {giving("DPN", "30"),
-         {"c.toml:13:1: " + p + "DPN is 30, but FMOM over ZMOM is 21; they differ by 30 % of the larger"}},
+         {"c.toml:13:1: " + p +
+          "DPN is 30, but FMOM over ZMOM is 21; they differ by 30 % of the larger; Mn uses DPN"}},
         {giving("MWSEG", "90"),
          {"c.toml:13:1: " + p +
           "MWSEG is 90 g/mol, but the mean segment weight of SFLOW is 95.2381 g/mol; they differ by 5.5 % of "
-          "the larger"}},
+          "the larger; molecular weights use MWSEG"}},
         {giving("SFRAC", "[0.9, 0.1]"),
          {"c.toml:13:1: " + p +
-          "SFRAC of B-E is 0.1, but its share of SFLOW is 0.0952381; they differ by 4.76 % of the larger"}},
+          "SFRAC of B-E is 0.1, but its share of SFLOW is 0.0952381; they differ by 4.76 % of the larger; "
+          "molecular weights use SFRAC, mole fractions of segments SFRAC, mass fractions SFLOW"}},
     });
 }
 
@@ -176,6 +207,23 @@ TEST(UnusedValues, AreNamedWithWhatIsUsedInstead)
          {"c.toml:17:1: streams.S.attributes.P.SMOM: Mw/Mn from ZMOM, SMOM and SFLOW is 2, but is not used, "
           "since settings.pdi_from is \"parameters\": Mw/Mn from the pdi parameter is 3; they differ by 33.3 "
           "% of the larger"}},
+        {{{"\"SMOM\", ", ""},
+          {"SMOM = 441\n", ""},
+          {"\"SSMOM\", ", ""},
+          {"SSMOM = [141, 300]\n", ""},
+          {"\"TMOM\", ", "\"DPZ\", "},
+          {"TMOM = 27783", "DPZ = 60"},
+          {"\"SZMOM\", ", ""},
+          {"SZMOM = [0.2, 0.3]\n", ""},
+          {", \"SSFLOW\"", ""},
+          {"SSFLOW = [3.5, 0.4, 6, 0.6]\n", ""},
+          {", \"SFMOM\"", ""},
+          {"SFMOM = [3.9, 6.6]\n", ""}},
+         {"c.toml:4:1: components.P.pdi is not given, but Mw/Mn of P comes from it where a stream has no "
+          "usable ZMOM, SMOM and SFLOW, or settings.pdi_from is \"parameters\": Mw is Mn; expected pdi or "
+          "SMOM",
+          "c.toml:15:1: streams.S.attributes.P.DPZ is not used: Mz comes from TMOM and SMOM, which P does "
+          "not give"}},
         {{{"{ P = 10 }", "{ P = 0 }"}},
          {"c.toml:12:23: streams.S.attributes.P is not used: P does not flow in this stream"}},
         {{{"\"SSMOM\", ", ""}, {"SSMOM = [141, 300]\n", ""}},
@@ -213,7 +261,10 @@ TEST(RequiredValues, AreErrorsThatSayWhatToGive)
         {{{"SMOM = 441\n", ""}},
          {lead +
           "SMOM is missing; expected a number in kmol/h, since P carries it: Mw would be 0 without it"}},
-        {{{"SMOM = 441\n", ""}, {"[polymers]", "[settings]\npdi_from = \"parameters\"\n[polymers]"}}, {}},
+        {{{"SMOM = 441\n", ""},
+          {"100 }\n[", "100, pdi = 2 }\n["},
+          {"[polymers]", "[settings]\npdi_from = \"parameters\"\n[polymers]"}},
+         {}},
         {{{"SSMOM = [141, 300]\n", ""}},
          {lead + "SSMOM is missing; expected a number for each site type, in kmol/h, since P carries it: Mw "
                  "of the site types would be 0 without it"}},

@@ -48,6 +48,10 @@ TEST(Chains, GiveMomentsFromAnyAveragesThatDetermineThem)
     auto without_mz = all;
     without_mz.erase("TMOM");
     without_mz.erase("MWZ");
+    // Mz is 24 000 g/mol by the type of Schulz and Zimm; 16 000 × 2 by the log-normal one.
+    auto log_normal = all;
+    log_normal["TMOM"] = {8e5};
+    log_normal["MWZ"] = {32000};
     const std::string moles = "mole_fractions = { A-R = 0.6, B-R = 0.4 }\n";
     const struct {
         std::string chains;
@@ -60,6 +64,13 @@ TEST(Chains, GiveMomentsFromAnyAveragesThatDetermineThem)
         {moles + "mass = 800\ndpn = 100\nmw = 16000\nmz = 24000", all},
         {moles + "moles = 0.1\nmn = 8000\nmw = 16000\nmz = 24000", all},
         {moles + "mass = 800\nmn = 8000\nmw = 16000\nmz = 24000\ndpn = 100.09\ndispersity = 2.001", all},
+        {moles + "mass = 800\nmn = 8000\ndispersity = 2\ntype = 'schulz-zimm'", all},
+        {moles + "mass = 800\nmn = 8000\nmz = 24000\ntype = 'schulz-zimm'", all},
+        {moles + "mass = 800\nmw = 16000\nmz = 24000\ntype = 'schulz-zimm'", all},
+        {moles + "mass = 800\ndispersity = 2\nmz = 24000\ntype = 'schulz-zimm'", all},
+        {moles + "mass = 800\ndpn = 100\nmz = 32000\ntype = 'log-normal'", log_normal},
+        {moles + "mass = 800\nmw = 16000\nmz = 32000\ntype = 'log-normal'", log_normal},
+        {moles + "mass = 800\ndispersity = 2\nmz = 32000\ntype = 'log-normal'", log_normal},
         {"mass_fractions = { A-R = 0.75, B-R = 0.25 }\nmass = 800\nmn = 8000\nmw = 16000\nmz = 24000", all},
         {moles +
              "fractions = [{ mass = 400, mn = 8000, mw = 16000 }, { moles = 0.05, mn = 8000, mw = 16000 }]",
@@ -76,18 +87,19 @@ TEST(Chains, GiveMomentsFromAnyAveragesThatDetermineThem)
           {"SFRAC", {.6, .4}},
           {"PDI", {2750 * 0.11 / 100}},
           {"MWZ", {1262500.0 / 2750 * 80}}}},
-        // Chains of 100 A-R and chains of 100 B-R, 0.01 kmol/h of each.
+        // Chains of 100 A-R and chains of 100 B-R, 0.01 kmol/h of each: Mw = (100 × 10 000 + 50 × 5000) / 150
+        // by mass, Mz = (100 × 10 000² + 50 × 5000²) / 1 250 000, m0 = 75.
         {"mole_fractions = { A-R = 1 }\nfractions = [{ mass = 100, dpn = 100, dispersity = 1 }, { mass = 50, "
          "dpn = 100, dispersity = 1, mole_fractions = { B-R = 1 } }]",
          {{"flow of P", {1.5}},
           {"ZMOM", {0.02}},
           {"FMOM", {2}},
-          {"SMOM", {200}},
-          {"TMOM", {20000}},
+          {"SMOM", {25000.0 / 3 / 75 * 2}},
+          {"TMOM", {9000.0 / 75 * 25000 / 3 / 75 * 2}},
           {"SFLOW", {1, 1}},
           {"SFRAC", {.5, .5}},
-          {"PDI", {1}},
-          {"MWZ", {7500}}}},
+          {"PDI", {25000.0 / 3 / 7500}},
+          {"MWZ", {9000}}}},
         {moles + "mass = 0\nmn = 8000\nmw = 16000",
          {{"flow of P", {0}}, {"ZMOM", {0}}, {"FMOM", {0}}, {"SMOM", {0}}, {"TMOM", {0}}, {"SFLOW", {0, 0}}}},
     };
@@ -171,6 +183,22 @@ TEST(Chains, AreComparedWithAttributesGivenAsWell)
         EXPECT_EQ(std::ranges::count(seen, line), 1) << line;
     EXPECT_FALSE(app::has_errors(e.report));
     EXPECT_EQ(values(e.input.streams.front())["SMOM"], std::vector<double>{2000.1});
+    const auto with_mz = parsed(components +
+                                "[streams.S]\nattributes.P.SMOM = 1000\nchains.P = { mass = 800, mn = 8000, "
+                                "mw = 16000, mz = 24000, mole_fractions = { A-R = 0.6, B-R = 0.4 } }\n");
+    EXPECT_NEAR(values(with_mz.streams.front())["TMOM"][0], 3e5, 1e-9) << "Mz stays";
+}
+
+// N = 4 T + S: F = 14, S = 2040, 1200 kg/h; by mass Mw = (400 × 1000 + 800 × 16 000) / 1200.
+TEST(Mixes, OfDifferentSegmentWeightsAreNamed)
+{
+    const auto warnings = parsed(good).warnings;
+    ASSERT_EQ(warnings.size(), 2u);
+    EXPECT_EQ(warnings[0].source.line, 23u);
+    EXPECT_EQ(
+        warnings[0].text,
+        "streams.N.mix: chains of P differ in their segment weights; moments count segments, so that Mw is "
+        "12489.8 g/mol in the results, but 11000 g/mol by mass; Mz and dispersity differ likewise");
 }
 
 Lines diagnose(const std::string& text)
@@ -191,13 +219,13 @@ TEST(NaturalInputs, AreRefusedWithPlaceValueAndExpectation)
     } rows[] = {
         {"mn = 8000\ndispersity = 2", "mn = 8000\ndpn = 100",
          "12:19: streams.S.chains.P gives mn, dpn; expected Mn and Mw by two of mn (or dpn), mw and "
-         "dispersity"},
+         "dispersity, or by one of them, mz and a type that relates them"},
         {"mn = 8000\ndispersity = 2", "mw = 8000\nmz = 9000",
          "12:19: streams.S.chains.P gives mw, mz; expected Mn and Mw by two of mn (or dpn), mw and "
-         "dispersity"},
+         "dispersity, or by one of them, mz and a type that relates them"},
         {"mn = 8000\ndispersity = 2", "",
          "12:19: streams.S.chains.P gives no averages; expected Mn and Mw by two of mn (or dpn), mw and "
-         "dispersity"},
+         "dispersity, or by one of them, mz and a type that relates them"},
         {"dispersity = 2", "dispersity = 0.9",
          "16:1: streams.S.chains.P.dispersity is 0.9; expected 1 or greater"},
         {"dispersity = 2", "mw = 7000",
@@ -212,6 +240,15 @@ TEST(NaturalInputs, AreRefusedWithPlaceValueAndExpectation)
         {"dispersity = 2", "dispersity = 2\ndpn = 101",
          "12:19: streams.S.chains.P: mn is 8000, but 8080 follows from dpn; expected values that agree "
          "within 0.1 %"},
+        {"dispersity = 2", "dispersity = 2\nmz = 30000\ntype = \"schulz-zimm\"",
+         "12:19: streams.S.chains.P: mz is 30000, but 24000 follows from the type; expected values that "
+         "agree "
+         "within 0.1 %"},
+        {"mn = 8000\ndispersity = 2", "mw = 8000\nmz = 16000\ntype = \"schulz-zimm\"",
+         "12:19: streams.S.chains.P: mz is 16000 g/mol; expected less than twice mw, 16000 g/mol, by the "
+         "type"},
+        {"dispersity = 2", "dispersity = 2\ntype = \"poisson\"",
+         "17:1: streams.S.chains.P.type is \"poisson\"; expected one of log-normal, schulz-zimm"},
         {"mass = 800", "mass = 1e308",
          "12:19: streams.S.chains.P has moments that are not finite; expected smaller values"},
         {"mass = 800", "",
@@ -234,7 +271,7 @@ TEST(NaturalInputs, AreRefusedWithPlaceValueAndExpectation)
          "13:1: streams.S.chains.P.fractions is empty; expected at least one fraction"},
         {chains, "mole_fractions = { A-R = 1 }\nfractions = [{ mass = 1, mn = 8000 }]",
          "14:14: streams.S.chains.P.fractions[1] gives mn; expected Mn and Mw by two of mn (or dpn), mw and "
-         "dispersity"},
+         "dispersity, or by one of them, mz and a type that relates them"},
         {"mn = 8000\ndispersity = 2", "fractions = [{ mass = 1, mn = 8000, mw = 8000 }]",
          "13:1: streams.S.chains.P.mass and streams.S.chains.P.fractions are both given; expected one of the "
          "two"},
