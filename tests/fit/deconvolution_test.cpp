@@ -252,9 +252,16 @@ TEST(FitCommand, PrintsTheSitesOfTheExample)
     const auto file = examples / "gpc-deconvolution.toml";
     const auto seen = fit(options, file, Format::json);
     ASSERT_EQ(seen.status, 0) << seen.errors;
-    EXPECT_NE(seen.errors.find("curve.csv:1:1: --sites 4: site 4 gains nothing"), std::string::npos)
+    EXPECT_NE(seen.errors.find("curve.csv: --sites 4: site 4 gains nothing"), std::string::npos)
         << seen.errors;
-    const auto section = Json::parse(seen.out)["fits"][0];
+    const auto json = Json::parse(seen.out);
+    ASSERT_EQ(json["warnings"].size(), 1u);
+    EXPECT_EQ(json["warnings"][0]["file"], options.gpc.string());
+    EXPECT_EQ(seen.errors,
+              options.gpc.string() + ": " + json["warnings"][0]["text"].get<std::string>() + "\n");
+    options.strictness = cli::Strictness::strict;
+    EXPECT_EQ(fit(options, file, Format::json).status, cli::exit_case_error);
+    const auto section = json["fits"][0];
     const auto& sites = section["fit_sites"];
     ASSERT_EQ(sites.size(), 3u);
     const double tau[] = {0.008, 0.0015, 0.0003};
@@ -266,6 +273,44 @@ TEST(FitCommand, PrintsTheSitesOfTheExample)
     EXPECT_NE(app::file_contents(file).find(section["sites"].get<std::string>()), std::string::npos);
     EXPECT_NE(fit(options, file, Format::text).out.find(section["sites"].get<std::string>()),
               std::string::npos);
+}
+
+TEST(FitCommand, TakesWhatTheCaseSaysAndNamesWhatItLacks)
+{
+    const std::string components = "[components]\nP = { molecular_weight = 100 }\n";
+    const std::string distribution =
+        "[distributions.D]\npoints = 9\nlongest_chain = 99\nmark_houwink_exponent = 0.7\n"
+        "segment_weight = 100\nsites = [{ tau = 0.01, amount = 1 }]\n";
+    const std::string curve = "M S\n1e3 1\n2e3 3\n4e3 6\n8e3 5\n2e4 1\n";
+    const struct {
+        std::string text;
+        std::optional<double> segment_weight;
+        const char* name;
+        const char* expected;  // of the errors; empty: has Mv
+    } cases[] = {
+        {components + distribution, {}, "", ""},
+        {components + distribution, 100, "", ""},
+        {components + "[streams.S]\nflows = { P = 1 }\n",
+         {},
+         "",
+         "has no distribution to take the segment weight from; expected the option --segment-weight\n"},
+        {components + distribution, 100, "E", "has no distribution \"E\"; expected one of D\n"},
+    };
+    const File measured{curve, "measured"};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.expected);
+        const File file{c.text};
+        cli::FitCommandOptions options;
+        options.gpc = measured.path;
+        options.segment_weight = c.segment_weight;
+        options.distribution = c.name;
+        const auto seen = fit(options, file.path, Format::json);
+        const bool is_sound = *c.expected == 0;
+        EXPECT_EQ(seen.status, is_sound ? cli::exit_success : cli::exit_case_error);
+        EXPECT_NE(seen.errors.find(c.expected), std::string::npos) << seen.errors;
+        const bool has_mv = is_sound && Json::parse(seen.out)["fits"][0]["fit_averages"][0].contains("mv");
+        EXPECT_EQ(has_mv, is_sound);
+    }
 }
 
 }  // namespace
