@@ -4,6 +4,7 @@
 
 #include <charconv>
 #include <memory>
+#include <stdexcept>
 
 #include "app/evaluation/evaluation.h"
 #include "app/report/make_report.h"
@@ -17,13 +18,24 @@ namespace {
 // More sites than these no curve tells apart.
 constexpr std::size_t most_sites = 20;
 
-// The segment weight of the distribution; empty, with the errors printed, when the case has any.
-std::optional<double> segment_weight(const app::Case& input, const std::string& distribution,
-                                     std::FILE* errors)
+// The distribution that the curve belongs to; empty where the segment weight is given and no distribution is
+// named or the only one.
+std::optional<std::size_t> distribution_of(const app::Case& input, const FitCommandOptions& options)
 {
-    const auto at = app::find_distribution(input, distribution);
+    const auto count = input.distributions.size();
+    if (options.segment_weight && options.distribution.empty() && count != 1) return {};
+    if (count == 0 && !options.segment_weight)
+        throw std::runtime_error{fmt::format(
+            "{} has no distribution to take the segment weight from; expected the option --segment-weight",
+            input.file)};
+    return app::find_distribution(input, options.distribution);
+}
+
+// The segment weight of a distribution; empty, with the errors printed, when the case has any.
+std::optional<double> segment_weight(const app::Case& input, std::size_t distribution, std::FILE* errors)
+{
     const auto results = app::evaluate(input, {nullptr, {}, false});
-    if (results.is_complete) return app::required_segment_weight(results.distributions[at]);
+    if (results.is_complete) return app::required_segment_weight(results.distributions[distribution]);
     print(app::make_report(input, results).diagnostics, input.file, errors);
     return {};
 }
@@ -32,13 +44,17 @@ int fit_unguarded(const FitCommandOptions& options, std::FILE* out, std::FILE* e
 {
     const auto input = read(options.file, errors);
     if (!input) return exit_case_error;
-    const auto weight = options.segment_weight ? options.segment_weight
-                                               : segment_weight(*input, options.distribution, errors);
+    const auto distribution = distribution_of(*input, options);
+    const auto weight =
+        options.segment_weight ? options.segment_weight : segment_weight(*input, *distribution, errors);
     if (!weight) return exit_case_error;
-    const auto curve = app::read_measured_curve(options.gpc, options.measured);
-    const auto report = app::make_fit_report(input->title, app::fit(curve, *weight, options.fit));
+    auto measured = options.measured;
+    if (distribution && !measured.mark_houwink_exponent)
+        measured.mark_houwink_exponent = input->distributions[*distribution].mark_houwink_exponent;
+    const auto curve = app::read_measured_curve(options.gpc, measured);
+    const auto report = app::make_fit_report(*input, app::fit(curve, *weight, options.fit));
     if (options.out) app::write_files(*options.out, app::fit_files(options.file.stem().string(), report));
-    return show(report, options.format, out, errors);
+    return show(report, options.format, out, errors, options.strictness);
 }
 
 // N or N:M; 0 sites for anything else.
@@ -79,7 +95,8 @@ void add_fit_command(CLI::App& program, int& status)
     auto* command =
         add_case_command(program, "fit", "Print the sites whose sum is a measured curve", options->file);
     add_format(*command, options->format);
-    command->add_option("--gpc", options->gpc, "Measured curve")->required()->type_name("FILE");
+    add_strict(*command, options->strictness);
+    auto* gpc = command->add_option("--gpc", options->gpc, "Measured curve")->required()->type_name("FILE");
     command
         ->add_option_function<std::string>(
             "--sites", [options](const std::string& seen) { read_sites(seen, options->fit); },
@@ -96,7 +113,7 @@ void add_fit_command(CLI::App& program, int& status)
     command
         ->add_option("--distribution", options->distribution, "Which distribution, where a case has several")
         ->type_name("NAME");
-    add_measured_options(*command, options->measured);
+    add_measured_options(*command, gpc, options->measured);
     command->add_option("--out", options->out, "Write text, CSV, JSON and HTML files there")
         ->type_name("DIR");
     command->callback([options, &status] { status = fit(*options, stdout, stderr); });

@@ -10,6 +10,7 @@ namespace cli {
 struct FitCommandOptions {
     std::filesystem::path file;
     app::Format format = app::Format::text;
+    Strictness strictness = Strictness::normal;
     std::filesystem::path gpc;
     app::MeasuredCurveOptions measured;        // how to read it
     app::FitOptions fit;                       // number of sites

@@ -7,7 +7,8 @@
 
 namespace cli {
 
-// --gpc-column, --gpc-baseline, --gpc-window, --gpc-negative, --gpc-calibration and --gpc-exponent.
-void add_measured_options(CLI::App& command, app::MeasuredCurveOptions& options);
+// --gpc-column, --gpc-baseline, --gpc-window, --gpc-negative, --gpc-calibration and --gpc-exponent, each an
+// error of usage without `gpc`.
+void add_measured_options(CLI::App& command, CLI::Option* gpc, app::MeasuredCurveOptions& options);
 
 }  // namespace cli

@@ -51,9 +51,10 @@ void add_run_command(CLI::App& program, int& status)
     add_strict(*command, options->strictness);
     command->add_option("--out", options->out, "Write report, summary, CSV, JSON and HTML files there")
         ->type_name("DIR");
-    command->add_option("--gpc", options->gpc, "Measured curve to compare a composite distribution with")
-        ->type_name("FILE");
-    add_measured_options(*command, options->measured);
+    auto* gpc =
+        command->add_option("--gpc", options->gpc, "Measured curve to compare a composite distribution with")
+            ->type_name("FILE");
+    add_measured_options(*command, gpc, options->measured);
     command->add_option("--export-gpc", options->export_gpc, "Write a composite distribution as such a curve")
         ->type_name("FILE");
     command

@@ -152,6 +152,16 @@ int polyprops_case_compare(polyprops_case* handle, const char* path, const char*
         POLYPROPS_OUT_OF_MEMORY);
 }
 
+int polyprops_case_measured_option(polyprops_case* handle, const char* key, const char* value)
+{
+    if (!handle) return POLYPROPS_OUT_OF_MEMORY;
+    const auto change = [&] {
+        return key ? handle->object.set_measured_option(key, text_or_empty(value))
+                   : handle->object.reset_measured_options();
+    };
+    return attempt(change, static_cast<int>(POLYPROPS_OUT_OF_MEMORY));
+}
+
 polyprops_run* polyprops_case_run(const polyprops_case* handle)
 {
     if (!handle) return nullptr;

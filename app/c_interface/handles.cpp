@@ -6,6 +6,7 @@
 #include <exception>
 #include <new>
 
+#include "app/case/measured_options.h"
 #include "app/evaluation/evaluation.h"
 #include "app/io/file_contents.h"
 #include "app/report/format.h"
@@ -66,7 +67,7 @@ bool CaseHandle::compare(const std::string& path, const std::string& distributio
     begin_call();
     try {
         if (errors_.empty()) find_distribution(input_, distribution);
-        comparison_ = ComparisonRequest{distribution, read_measured_curve(path)};
+        comparison_ = ComparisonRequest{distribution, read_measured_curve(path, measured_options_)};
         return true;
     } catch (const FileError& error) {
         fail({no_position(), error.why(), Severity::error, path});
@@ -80,6 +81,33 @@ void CaseHandle::end_comparison()
 {
     begin_call();
     comparison_.reset();
+}
+
+int CaseHandle::set_measured_option(const std::string& key, const std::string& value)
+{
+    begin_call();
+    const auto all = measured_options();
+    const auto option = std::ranges::find(all, std::string_view{key}, &MeasuredOption::key);
+    if (option == all.end()) {
+        std::vector<std::string_view> keys;
+        for (const auto& known : all) keys.emplace_back(known.key);
+        fail({no_position(key), "there is no option \"" + key + "\"" + suggestion(key, keys)});
+        return POLYPROPS_NOT_FOUND;
+    }
+    try {
+        set(*option, value, measured_options_);
+        return POLYPROPS_OK;
+    } catch (const std::invalid_argument& error) {
+        fail({no_position(key), key + ": " + error.what()});
+        return POLYPROPS_CASE_ERROR;
+    }
+}
+
+int CaseHandle::reset_measured_options()
+{
+    begin_call();
+    measured_options_ = {};
+    return POLYPROPS_OK;
 }
 
 RunHandle::RunHandle(const CaseHandle& source) : input_(source.input())

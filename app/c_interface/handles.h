@@ -35,12 +35,15 @@ public:
         check();
     }
 
-    // These change nothing when they throw. A failed look-up or comparison is among the diagnostics until the
-    // next such call.
+    // These change nothing when they throw. A failed look-up, comparison or option is among the diagnostics
+    // until the next such call.
     std::optional<double> number(const std::string& key);
     bool set_number(const std::string& key, double value);
     bool compare(const std::string& path, const std::string& distribution);
     void end_comparison();
+    // How later comparisons read their curve; both return a polyprops_status.
+    int set_measured_option(const std::string& key, const std::string& value);
+    int reset_measured_options();
 
     const std::string& file() const { return document_.file(); }
     const std::vector<std::string>& keys() const { return keys_; }
@@ -65,6 +68,7 @@ private:
     std::vector<Diagnostic> errors_;
     std::vector<Diagnostic> diagnostics_;
     std::optional<ComparisonRequest> comparison_;
+    MeasuredCurveOptions measured_options_;
 };
 
 class RunHandle {

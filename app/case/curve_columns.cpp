@@ -3,8 +3,10 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <optional>
 #include <stdexcept>
 #include <utility>
@@ -24,6 +26,7 @@ std::string_view trimmed(std::string_view text)
     return text.substr(0, text.find_last_not_of(blanks) + 1);
 }
 
+// Infinite for a number that cannot be kept; none for a field that is no number.
 std::optional<double> number(std::string_view field, bool has_decimal_comma)
 {
     std::string text{trimmed(field)};
@@ -32,20 +35,30 @@ std::optional<double> number(std::string_view field, bool has_decimal_comma)
     double value = 0;
     const char* const end = text.data() + text.size();
     const auto [rest, error] = std::from_chars(text.data(), end, value);
-    if (error != std::errc{} || rest != end || !std::isfinite(value)) return {};
-    return value;
+    if (error == std::errc::invalid_argument || rest != end) return {};
+    return error == std::errc{} ? value : std::numeric_limits<double>::infinity();
 }
 
-// The two numbers around the first separator; none when either field is no number.
+// The numbers of a line; none when any field is no number.
+std::vector<double> numbers(std::string_view line, char separator)
+{
+    std::vector<double> all;
+    line = trimmed(line);
+    while (true) {
+        const auto at = separator == ' ' ? line.find_first_of(blanks) : line.find(separator);
+        const auto value = number(line.substr(0, at), separator != ',');
+        if (!value) return {};
+        all.push_back(*value);
+        if (at == std::string_view::npos) return all;
+        line = trimmed(line.substr(at + 1));
+    }
+}
+
 std::optional<Numbers> read_pair(std::string_view line, char separator)
 {
-    line = trimmed(line);
-    const auto at = separator == ' ' ? line.find_first_of(blanks) : line.find(separator);
-    if (at == std::string_view::npos) return {};
-    const auto first = number(line.substr(0, at), separator != ',');
-    const auto second = number(line.substr(at + 1), separator != ',');
-    if (!first || !second) return {};
-    return Numbers{*first, *second};
+    const auto all = numbers(line, separator);
+    if (all.size() != 2) return {};
+    return Numbers{all[0], all[1]};
 }
 
 std::vector<std::string_view> lines_of(std::string_view text)
@@ -61,16 +74,49 @@ std::vector<std::string_view> lines_of(std::string_view text)
     return lines;
 }
 
-// Sets the separator if the line has two numbers by one. A comma is tried before blanks: `1000, 5` are two
-// whole numbers.
+// A comma comes before blanks: `1000, 5` are two whole numbers.
+constexpr std::array separators{';', ',', ' '};
+
+// Sets the separator if the line has two numbers by one.
 std::optional<Numbers> read_first_pair(std::string_view line, char& separator)
 {
-    for (const char candidate : {';', ',', ' '})
+    for (const char candidate : separators)
         if (const auto found = read_pair(line, candidate)) {
             separator = candidate;
             return found;
         }
     return {};
+}
+
+// What a line with another number of columns lacks; empty for any other text.
+std::string more_columns(std::string_view line)
+{
+    for (const char separator : separators) {
+        const auto count = numbers(line, separator).size();
+        if (count < 3) continue;
+        return fmt::format(
+            "two numbers, molecular weight and signal; the line has {} numbers{}", count,
+            separator == ',' ? ", and decimal commas need `;`, tabs or blanks between columns" : "");
+    }
+    return {};
+}
+
+std::string expected_columns(std::string_view line, char separator)
+{
+    if (auto more = more_columns(line); !more.empty()) return more;
+    return fmt::format("two numbers, molecular weight and signal, separated by {}",
+                       separator == ' ' ? "blanks" : fmt::format("`{}`", separator));
+}
+
+// Numbers of several columns are no notes.
+void refuse_without_pairs(std::string_view text, const std::string& file)
+{
+    std::size_t line_number = 0;
+    for (const auto line : lines_of(text)) {
+        ++line_number;
+        if (const auto expected = more_columns(line); !expected.empty())
+            refuse_line(file, line_number, line, expected);
+    }
 }
 
 }  // namespace
@@ -84,15 +130,17 @@ CurveColumns read_columns(std::string_view text, const std::string& file)
         ++line_number;
         if (trimmed(line).empty()) continue;
         const auto found = separator == 0 ? read_first_pair(line, separator) : read_pair(line, separator);
+        if (found && !(std::isfinite(found->first) && std::isfinite(found->second)))
+            refuse_line(file, line_number, line,
+                        "finite numbers that are 0 or have a size from 2.3e-308 to 1.7e308");
         if (found)
             columns.pairs.push_back({line_number, line, found->first, found->second});
         else if (columns.pairs.empty())
             columns.notes.emplace_back(line);
         else
-            refuse_line(file, line_number, line,
-                        fmt::format("two numbers, molecular weight and signal, separated by {}",
-                                    separator == ' ' ? "blanks" : fmt::format("`{}`", separator)));
+            refuse_line(file, line_number, line, expected_columns(line, separator));
     }
+    if (columns.pairs.empty()) refuse_without_pairs(text, file);
     return columns;
 }
 

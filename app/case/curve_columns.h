@@ -22,7 +22,8 @@ struct CurveColumns {
     std::vector<ColumnPair> pairs;   // with views of the text
 };
 
-// Throws std::runtime_error with file and line for a line after the first pair that has no two numbers.
+// Throws std::runtime_error with file and line for a line after the first pair that has no two numbers, for
+// numbers that are not finite, and for lines of more numbers in a file without pairs.
 CurveColumns read_columns(std::string_view text, const std::string& file);
 
 // Throws std::runtime_error with file, line, the text of the line and the expectation.

@@ -127,8 +127,10 @@ double signal_at(const MeasuredCurve& curve, double weight)
     const auto& m = curve.molecular_weight;
     if (weight < m.front() || weight > m.back())
         refuse(curve.file,
-               fmt::format("--gpc-baseline: {} g/mol is outside the curve; expected {} to {} g/mol", weight,
-                           m.front(), m.back()));
+               fmt::format("--gpc-baseline: {} g/mol is {:.6g} g/mol {} the curve; expected two molecular "
+                           "weights within its {} points, {} to {} g/mol",
+                           weight, weight < m.front() ? m.front() - weight : weight - m.back(),
+                           weight < m.front() ? "below" : "above", m.size(), m.front(), m.back()));
     const auto above = std::ranges::upper_bound(m.begin() + 1, m.end() - 1, weight);
     const auto k = static_cast<std::size_t>(above - m.begin());
     return std::lerp(curve.signal[k - 1], curve.signal[k], share(m[k - 1], weight, m[k]));
@@ -156,8 +158,8 @@ void keep_window(MeasuredCurve& curve, const WeightRange& window)
     const auto end = static_cast<std::size_t>(std::ranges::upper_bound(m, window.high) - m.begin());
     if (end < first + 2)
         refuse(curve.file, fmt::format("--gpc-window: {} of {} points are within {} to {} g/mol; expected at "
-                                       "least 2",
-                                       end - first, m.size(), window.low, window.high));
+                                       "least 2 of the points from {} to {} g/mol",
+                                       end - first, m.size(), window.low, window.high, m.front(), m.back()));
     keep(curve.molecular_weight, first, end);
     keep(curve.signal, first, end);
     keep(curve.lines, first, end);

@@ -42,7 +42,9 @@ void add_comparison(const Case& input, const EvaluationOptions& options, Results
 {
     if (!options.measured) return;
     auto& distribution = results.distributions[find_distribution(input, options.measured_distribution)];
-    distribution.measured = compare(*options.measured, composite_curve(distribution));
+    auto measured = *options.measured;
+    if (!measured.mark_houwink_exponent) measured.mark_houwink_exponent = distribution.exponent;
+    distribution.measured = compare(measured, composite_curve(distribution));
 }
 
 void summarize(const std::string& stream, Host& host)
@@ -97,11 +99,12 @@ ConversionResults evaluate_conversion(const Case& input, const std::string& stre
 {
     ConversionResults results;
     results.stream = stream;
+    results.warnings = input.warnings;
     LoadedCase loaded{input};
     if (!prepare(input, loaded, results)) return results;
     results.compositions = convert(stream, from, to, loaded.host());
     const auto found = std::ranges::find(input.streams, stream, [](const auto& s) { return s.name.id; });
-    results.warnings = contradictions(*found, input.settings, loaded.host());
+    append(contradictions(*found, input.settings, loaded.host()), results.warnings);
     return results;
 }
 

@@ -14,9 +14,9 @@ using Eigen::VectorXd;
 // Relative to the largest pivot of columns of length 1: below it columns depend on each other.
 constexpr double least_pivot = 1e-8;
 
-// τ and mass of one site by all parameters: ln(s) of each site, then the masses of all parts.
+// Parameters of one site by all parameters of the fit: ln(s) of each site, then the masses of all parts.
 struct Gradients {
-    VectorXd tau;
+    std::vector<VectorXd> rates;  // τ, and β where the model has combination
     VectorXd amount;
 };
 
@@ -57,18 +57,71 @@ Gradients gradients(const SiteModel& model, const RateSolution& solution, Index 
     const Index parts = model.parts();
     const double rate = std::exp(solution.log_rates(site));
     const double total = solution.masses.sum();
-    const double mass = solution.masses.segment(site * parts, parts).sum();
-    const double share = solution.masses(site * parts) / mass;
-    Gradients g{VectorXd::Zero(sites + solution.masses.size()),
-                VectorXd::Zero(sites + solution.masses.size())};
-    g.tau(site) = rate * share;
+    const VectorXd masses = solution.masses.segment(site * parts, parts);
+    const double mass = masses.sum();
+    const VectorXd zero = VectorXd::Zero(sites + solution.masses.size());
+    Gradients g{std::vector(static_cast<std::size_t>(parts), zero), zero};
     g.amount.tail(solution.masses.size()).setConstant(-mass / (total * total));
+    g.amount.segment(sites + site * parts, parts).array() += 1 / total;
     for (Index part = 0; part < parts; ++part) {
-        const Index at = sites + site * parts + part;
-        g.tau(at) = rate * ((part == 0 ? 1 : 0) - share) / mass;
-        g.amount(at) += 1 / total;
+        auto& of_rate = g.rates[static_cast<std::size_t>(part)];
+        const double share = masses(part) / mass;
+        of_rate(site) = rate * share;
+        of_rate.segment(sites + site * parts, parts).setConstant(-rate * share / mass);
+        of_rate(sites + site * parts + part) += rate / mass;
     }
     return g;
+}
+
+// The points as the fit sees them: its Jacobian, and the residual that it leaves.
+struct Fitted {
+    const SiteModel& model;
+    const RateSolution& solution;
+    VectorXd residual;
+    Eigen::ColPivHouseholderQR<MatrixXd> jacobian;
+    MatrixXd columns;
+};
+
+// A site with the same Mn and mass whose part g1 has another share; what its curve changes, less what all
+// other parameters compensate.
+VectorXd change(const Fitted& fitted, Index site, double share)
+{
+    const auto masses = fitted.solution.masses.segment(2 * site, 2);
+    const double mass = masses.sum();
+    const double stretch = (1 - masses(1) / mass / 2) / (1 - share / 2);
+    const VectorXd rates{
+        {fitted.solution.log_rates(site), fitted.solution.log_rates(site) + std::log(stretch)}};
+    const MatrixXd curves = site_parts(fitted.model, rates);
+    const VectorXd all = curves * VectorXd{{-masses(0), -masses(1), mass * (1 - share), mass * share}};
+    return all - fitted.columns * fitted.jacobian.solve(all);
+}
+
+// The share of g1 up to which the sum of squared residuals rises by no more than `rise`; from 0 up, or from 1
+// down. The derivatives say nothing here: near β = 0 those by s are a sum of the parts.
+double limiting_share(const Fitted& fitted, Index site, double rise)
+{
+    const auto is_allowed = [&](double share) {
+        const VectorXd d = change(fitted, site, share);
+        return d.squaredNorm() - 2 * fitted.residual.dot(d) <= rise;
+    };
+    double allowed = fitted.solution.masses(2 * site) > 0 ? 0 : 1;
+    double refused = 1 - allowed;
+    if (is_allowed(refused)) return refused;
+    for (int i = 0; i < 50; ++i) {
+        const double middle = 0.5 * (allowed + refused);
+        (is_allowed(middle) ? allowed : refused) = middle;
+    }
+    return allowed;
+}
+
+// The upper limit of the rate whose part has no mass.
+double upper_limit(const Fitted& fitted, Index site, Index part, double rise)
+{
+    const auto masses = fitted.solution.masses.segment(2 * site, 2);
+    const double share = limiting_share(fitted, site, rise);
+    const double rate =
+        std::exp(fitted.solution.log_rates(site)) * (1 - masses(1) / masses.sum() / 2) / (1 - share / 2);
+    return rate * (part == 0 ? 1 - share : share);
 }
 
 Estimate estimate(double value, double half_width)
@@ -78,25 +131,34 @@ Estimate estimate(double value, double half_width)
 
 }  // namespace
 
-SiteEstimates estimate_sites(const SiteModel& model, const RateSolution& solution)
+SiteEstimates estimate_sites(const SiteModel& model, const VectorXd& signal, const RateSolution& solution)
 {
     const auto columns = unknowns(solution);
-    const MatrixXd factor = inverse_factor(jacobian(model, solution)(Eigen::all, columns));
+    const MatrixXd j = jacobian(model, solution)(Eigen::all, columns);
+    const MatrixXd factor = inverse_factor(j);
     const auto freedom = static_cast<double>(model.chain_length.size() - std::ssize(columns));
     const double reach = student_limit(freedom) * std::sqrt(solution.squares / freedom);
     const Index parts = model.parts();
+    const Fitted fitted{model, solution, signal - site_parts(model, solution.log_rates) * solution.masses,
+                        j.colPivHouseholderQr(), j};
     SiteEstimates all;
     all.is_determined = factor.size() > 0;
     const auto half_width = [&](const VectorXd& gradient) {
         return all.is_determined ? reach * (factor.transpose() * gradient(columns)).norm() : 1.0;
     };
-    for (Index j = 0; j < solution.log_rates.size(); ++j) {
-        const auto g = gradients(model, solution, j);
-        const double rate = std::exp(solution.log_rates(j));
-        const auto masses = solution.masses.segment(j * parts, parts);
-        const double share = masses(0) / masses.sum();
-        all.tau.push_back(estimate(rate * share, half_width(g.tau)));
-        all.beta.push_back(parts == 1 ? 0.0 : rate * masses(1) / masses.sum());
+    for (Index site = 0; site < solution.log_rates.size(); ++site) {
+        const auto g = gradients(model, solution, site);
+        const double rate = std::exp(solution.log_rates(site));
+        const auto masses = solution.masses.segment(site * parts, parts);
+        const auto rate_of = [&](Index part) -> Estimate {
+            if (part >= parts) return {0, 0, 0};
+            if (masses(part) == 0 && all.is_determined)
+                return {0, 0, std::min(upper_limit(fitted, site, part, reach * reach), 1.0)};
+            return estimate(rate * masses(part) / masses.sum(),
+                            half_width(g.rates[static_cast<std::size_t>(part)]));
+        };
+        all.tau.push_back(rate_of(0));
+        all.beta.push_back(rate_of(1));
         all.amount.push_back(estimate(masses.sum() / solution.masses.sum(), half_width(g.amount)));
     }
     return all;

@@ -41,12 +41,13 @@ void check(const MeasuredCurve& curve, const FitOptions& options)
     if (!(*std::ranges::max_element(curve.signal) > 0))
         throw std::runtime_error{
             fmt::format("{}: the signal is 0 everywhere; expected more than 0", curve.file)};
-    // Limits need more points than parameters.
-    const std::size_t needed = options.most_sites * (options.free_beta ? 3 : 2) + 3;
+    const std::size_t parameters = options.most_sites * (options.free_beta ? 3 : 2);
+    const std::size_t needed = std::max(3 * options.most_sites, parameters + 3);
     if (curve.size() < needed)
-        throw std::runtime_error{fmt::format("{}: {} points; expected at least {} for {} sites{}", curve.file,
-                                             curve.size(), needed, options.most_sites,
-                                             options.free_beta ? " with a free beta" : "")};
+        throw std::runtime_error{
+            fmt::format("{}: {} points; expected at least {}: --sites {} needs 3 points for each site, and 3 "
+                        "more than its {} parameters",
+                        curve.file, curve.size(), needed, options.most_sites, parameters)};
 }
 
 // Without sites that have no mass, from short chains to long ones.
@@ -138,9 +139,10 @@ FittedSite site(const SiteEstimates& estimates, std::size_t j, double segment_we
     site.tau = estimates.tau[j];
     site.amount = estimates.amount[j];
     site.beta = estimates.beta[j];
-    const double rate = site.tau.value + site.beta;
-    site.pn = 1 / (site.tau.value + site.beta / 2);
-    site.pw = (2 * site.tau.value + 3 * site.beta) / (rate * rate);
+    const double tau = site.tau.value;
+    const double beta = site.beta.value;
+    site.pn = 1 / (tau + beta / 2);
+    site.pw = (2 * tau + 3 * beta) / ((tau + beta) * (tau + beta));
     site.mn = site.pn * segment_weight;
     site.mw = site.pw * segment_weight;
     return site;
@@ -153,7 +155,7 @@ std::vector<double> values(const VectorXd& column)
 
 void add_sites(const Problem& problem, const RateSolution& solution, FitResults& results)
 {
-    const auto estimates = estimate_sites(problem.model, solution);
+    const auto estimates = estimate_sites(problem.model, problem.signal, solution);
     if (!estimates.is_determined)
         results.warnings.emplace_back(
             "the curve does not determine all sites: their limits are 0 and 1; expected fewer sites");
@@ -180,6 +182,7 @@ FitResults fit(const MeasuredCurve& curve, double segment_weight, const FitOptio
     results.file = curve.file;
     results.notes = curve.notes;
     results.segment_weight = segment_weight;
+    results.has_free_beta = options.free_beta;
     results.molecular_weight = curve.molecular_weight;
     results.chain_length = {problem.model.chain_length.begin(), problem.model.chain_length.end()};
     results.residuals = residuals(problem, all);

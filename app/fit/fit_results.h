@@ -19,7 +19,7 @@ struct Estimate {
 struct FittedSite {
     Estimate tau;     // chains per segment ended by transfer and disproportionation
     Estimate amount;  // mass fraction
-    double beta = 0;  // chains per segment ended by combination
+    Estimate beta;    // chains per segment ended by combination
     double pn = 0;    // segments per chain
     double pw = 0;
     double mn = 0;               // g/mol
@@ -39,6 +39,7 @@ struct FitResults {
     std::string file;
     std::vector<std::string> notes;
     double segment_weight = 0;             // g/mol
+    bool has_free_beta = false;            // otherwise beta is 0
     std::vector<double> molecular_weight;  // g/mol
     std::vector<double> chain_length;      // segments
     std::vector<double> measured;          // dw/dlog10(M) in units that make the masses of the sites sum to 1

@@ -34,8 +34,8 @@ Table averages(const DistributionResults& results)
                 "Averages of the curves in closed form",
                 {{"curve", "Curve", ""},
                  {"amount", "Amount", ""},
-                 {"pn", "Pn", "1"},
-                 {"pw", "Pw", "1"},
+                 columns::pn,
+                 columns::pw,
                  {"pz", "Pz", "1"},
                  {"pz1", "Pz+1", "1"},
                  columns::pdi},
@@ -43,7 +43,7 @@ Table averages(const DistributionResults& results)
     const auto leading = 2U;
     if (results.segment_weight)
         table.columns.insert(table.columns.end(), {columns::mn, columns::mw, columns::mz, columns::mz1});
-    if (results.segment_weight && results.exponent) table.columns.push_back({"mv", "Mv", "g/mol"});
+    if (results.segment_weight && results.exponent) table.columns.push_back(columns::mv);
     for (const auto& curve : results.curves) {
         auto& row = table.rows.emplace_back(std::vector<Cell>{curve.name, curve.amount});
         append(curve.averages ? average_cells(*curve.averages, results)
@@ -59,9 +59,9 @@ Table quadrature(const DistributionResults& results)
                 "Trapezoids on the grid, their grid error, and the mass outside the grid",
                 {{"curve", "Curve", ""},
                  {"area", "Area", "1"},
-                 {"pn", "Pn", "1"},
+                 columns::pn,
                  {"pn_grid_error", "Grid error", "%"},
-                 {"pw", "Pw", "1"},
+                 columns::pw,
                  {"pw_grid_error", "Grid error", "%"},
                  columns::pdi,
                  {"below_grid", "Mass below", "1"},
@@ -86,10 +86,10 @@ Table checks(const DistributionResults& results)
     Table table{"distribution_checks",
                 "Curves by their parameters and by the moments of the stream",
                 {{"curve", "Curve", ""},
-                 {"pn", "Pn", "1"},
+                 columns::pn,
                  {"pn_expected", "by moments", "1"},
                  {"pn_difference", "relative difference", "1"},
-                 {"pw", "Pw", "1"},
+                 columns::pw,
                  {"pw_expected", "by moments", "1"},
                  {"pw_difference", "relative difference", "1"},
                  {"source", "by", ""}},
@@ -120,11 +120,10 @@ Table curves(const DistributionResults& results)
     return table;
 }
 
-void add_pair(const std::string& key, const std::string& heading, const std::string& unit, double measured,
-              double calculated, Table& table)
+void add_pair(const Column& of, double measured, double calculated, Table& table)
 {
-    table.columns.push_back({key + "_measured", heading + " measured", unit});
-    table.columns.push_back({key + "_calculated", "calculated", unit});
+    table.columns.push_back({of.key + "_measured", of.heading + " measured", of.unit});
+    table.columns.push_back({of.key + "_calculated", "calculated", of.unit});
     table.rows.front().emplace_back(measured);
     table.rows.front().emplace_back(calculated);
 }
@@ -140,12 +139,12 @@ Table fit(const MeasuredComparison& gpc)
                 {{gpc.file, static_cast<Int>(gpc.measured.size()), gpc.residual, gpc.largest_difference}}};
     const auto& measured = gpc.measured_averages;
     const auto& calculated = gpc.calculated_averages;
-    add_pair("mn", "Mn", "g/mol", measured.mn, calculated.mn, table);
-    add_pair("mw", "Mw", "g/mol", measured.mw, calculated.mw, table);
-    add_pair("mz", "Mz", "g/mol", measured.mz, calculated.mz, table);
-    add_pair("mz1", "Mz+1", "g/mol", measured.mz1, calculated.mz1, table);
-    add_pair("pdi", "Đ (Mw/Mn)", "1", measured.pdi, calculated.pdi, table);
-    if (measured.mv) add_pair("mv", "Mv", "g/mol", *measured.mv, *calculated.mv, table);
+    add_pair(columns::mn, measured.mn, calculated.mn, table);
+    add_pair(columns::mw, measured.mw, calculated.mw, table);
+    add_pair(columns::mz, measured.mz, calculated.mz, table);
+    add_pair(columns::mz1, measured.mz1, calculated.mz1, table);
+    add_pair(columns::pdi, measured.pdi, calculated.pdi, table);
+    if (measured.mv) add_pair(columns::mv, *measured.mv, *calculated.mv, table);
     return table;
 }
 

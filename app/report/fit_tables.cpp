@@ -14,29 +14,45 @@ std::string site_name(std::size_t j)
     return fmt::format("{}", j + 1);
 }
 
+// A column of values and two of their limits, below the column of the sites.
+void add_estimates(const Column& of, const FitResults& results, Estimate FittedSite::*estimate, Table& table)
+{
+    table.columns.insert(table.columns.end(),
+                         {of, {of.key + "_low", "from", of.unit}, {of.key + "_high", "to", of.unit}});
+    for (std::size_t j = 0; j < results.sites.size(); ++j) {
+        const auto& [value, low, high] = results.sites[j].*estimate;
+        table.rows[j].insert(table.rows[j].end(), {value, low, high});
+    }
+}
+
+void add_values(const Column& of, const FitResults& results, double (*value)(const FittedSite&), Table& table)
+{
+    table.columns.push_back(of);
+    for (std::size_t j = 0; j < results.sites.size(); ++j)
+        table.rows[j].emplace_back(value(results.sites[j]));
+}
+
+// A β that is fixed has no limits.
 Table sites(const FitResults& results)
 {
-    Table table{"fit_sites",
-                "Sites, with 95 % confidence limits",
-                {{"site", "Site", ""},
-                 {"tau", "τ", "1"},
-                 {"tau_low", "from", "1"},
-                 {"tau_high", "to", "1"},
-                 {"beta", "β", "1"},
-                 {"mass_fraction", "Mass fraction", "1"},
-                 {"mass_fraction_low", "from", "1"},
-                 {"mass_fraction_high", "to", "1"},
-                 {"pn", "Pn", "1"},
-                 {"pw", "Pw", "1"},
-                 columns::mn,
-                 columns::mw},
-                {}};
-    for (std::size_t j = 0; j < results.sites.size(); ++j) {
-        const auto& site = results.sites[j];
-        table.rows.push_back({site_name(j), site.tau.value, site.tau.low, site.tau.high, site.beta,
-                              site.amount.value, site.amount.low, site.amount.high, site.pn, site.pw, site.mn,
-                              site.mw});
-    }
+    const Column beta{"beta", "β", "1"};
+    Table table{"fit_sites", "Sites, with 95 % confidence limits within 0 to 1", {{"site", "Site", ""}}, {}};
+    for (std::size_t j = 0; j < results.sites.size(); ++j) table.rows.push_back({site_name(j)});
+    add_estimates({"tau", "τ", "1"}, results, &FittedSite::tau, table);
+    if (results.has_free_beta)
+        add_estimates(beta, results, &FittedSite::beta, table);
+    else
+        add_values(
+            beta, results, [](const FittedSite& site) { return site.beta.value; }, table);
+    add_estimates({"mass_fraction", "Mass fraction", "1"}, results, &FittedSite::amount, table);
+    add_values(
+        columns::pn, results, [](const FittedSite& site) { return site.pn; }, table);
+    add_values(
+        columns::pw, results, [](const FittedSite& site) { return site.pw; }, table);
+    add_values(
+        columns::mn, results, [](const FittedSite& site) { return site.mn; }, table);
+    add_values(
+        columns::mw, results, [](const FittedSite& site) { return site.mw; }, table);
     return table;
 }
 
@@ -57,14 +73,9 @@ Table averages(const FitResults& results)
 {
     Table table{"fit_averages",
                 "Averages between the first and the last point",
-                {{"curve", "Curve", ""},
-                 columns::mn,
-                 columns::mw,
-                 {"mz", "Mz", "g/mol"},
-                 {"mz1", "Mz+1", "g/mol"},
-                 {"pdi", "Đ (Mw/Mn)", "1"}},
+                {{"curve", "Curve", ""}, columns::mn, columns::mw, columns::mz, columns::mz1, columns::pdi},
                 {}};
-    if (results.measured_averages.mv) table.columns.push_back({"mv", "Mv", "g/mol"});
+    if (results.measured_averages.mv) table.columns.push_back(columns::mv);
     const auto add = [&](const char* curve, const MolecularWeightAverages& a) {
         auto& row =
             table.rows.emplace_back(std::vector<Cell>{std::string{curve}, a.mn, a.mw, a.mz, a.mz1, a.pdi});
@@ -116,9 +127,10 @@ std::string case_sites(const FitResults& results)
     std::string text = "sites = [\n";
     for (std::size_t j = 0; j < results.sites.size(); ++j) {
         const auto& site = results.sites[j];
-        const auto beta = site.beta > 0 ? fmt::format(", beta = {:.8g}", site.beta) : "";
+        const double beta = site.beta.value;
+        const auto beta_text = beta > 0 ? fmt::format(", beta = {:.8g}", beta) : "";
         text += fmt::format("    {{ name = \"{}\", tau = {:.8g}{}, amount = {:.8g} }},\n", site_name(j),
-                            site.tau.value, beta, site.amount.value);
+                            site.tau.value, beta_text, site.amount.value);
     }
     return text + "]";
 }

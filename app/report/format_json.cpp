@@ -75,7 +75,7 @@ JsonValue place_object(const SourcePosition& source, const std::string& file)
 
 JsonValue warning_object(const Diagnostic& warning, const std::string& file)
 {
-    auto object = place_object(warning.source, file);
+    auto object = place_object(warning.source, warning.file.empty() ? file : warning.file);
     object.set("key", warning.source.key);
     object.set("text", warning.text);
     return object;

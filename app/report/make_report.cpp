@@ -98,15 +98,15 @@ Report make_report(const Case& input, const Results& results)
     return report;
 }
 
-Report make_fit_report(const std::string& title, const FitResults& results)
+Report make_fit_report(const Case& input, const FitResults& results)
 {
-    Report report{title, results.file, {}, {}, {}, {fit_section(results)}};
+    Report report{input.title, results.file, {}, {}, {}, {fit_section(results)}};
     add_not_finite({}, report);
-    for (const auto& warning : results.warnings) {
-        auto& found = report.diagnostics.emplace_back();
-        found.text = warning;
-        found.severity = Severity::warning;
-    }
+    append(input.warnings, report);
+    for (auto& warning : report.diagnostics)
+        if (warning.severity == Severity::warning) warning.file = input.file;
+    for (const auto& warning : results.warnings)
+        report.diagnostics.push_back({no_position(), warning, Severity::warning});
     return report;
 }
 
@@ -114,6 +114,7 @@ Report make_input_report(const Case& input, const InputResults& results)
 {
     auto report = start(input, results.messages);
     if (results.messages.empty()) report.input = input_tables(input, results);
+    append(input.warnings, report);
     return report;
 }
 

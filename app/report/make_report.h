@@ -11,8 +11,8 @@ namespace app {
 // Results that are not finite become errors of the report.
 Report make_report(const Case& input, const Results& results);
 
-// The sites of a measured curve; diagnostics name the file of the curve.
-Report make_fit_report(const std::string& title, const FitResults& results);
+// The sites of a measured curve; the report and the warnings of the fit name the file of the curve.
+Report make_fit_report(const Case& input, const FitResults& results);
 
 // The polymer paragraph as checked; only the messages when there is one.
 Report make_input_report(const Case& input, const InputResults& results);

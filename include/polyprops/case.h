@@ -84,9 +84,9 @@ void polyprops_case_free(polyprops_case* handle);
 // POLYPROPS_OK if the case currently has no errors.
 int polyprops_case_status(const polyprops_case* handle);
 
-// Current errors of the case, in the order of the file, then the failure of the last get, set or compare: a
-// key that was not found, with a suggestion, or a curve that cannot be read. An entry is valid until the next
-// call of one of these three.
+// Current errors of the case, in the order of the file, then the failure of the last get, set, compare or
+// measured_option: a key that was not found, with a suggestion, a value that is not valid, or a curve that
+// cannot be read. An entry is valid until the next call of one of these four.
 size_t polyprops_case_diagnostic_count(const polyprops_case* handle);
 int polyprops_case_diagnostic(const polyprops_case* handle, size_t index, polyprops_diagnostic* diagnostic);
 
@@ -104,6 +104,20 @@ int polyprops_case_set(polyprops_case* handle, const char* key, double value);
 // name, NULL or "" for the only one. A NULL `path` removes the comparison. POLYPROPS_CASE_ERROR: the curve
 // cannot be read or the case has no such distribution; an earlier comparison is kept.
 int polyprops_case_compare(polyprops_case* handle, const char* path, const char* distribution);
+
+// How every later polyprops_case_compare reads its file; an earlier comparison is kept as it was. A NULL
+// `key` restores all defaults. Keys and values are those of the program's options, --gpc-window for "window":
+//
+//   "column"       "m" or "log10m"        content of the first column; the default is by heading and values
+//   "baseline"     "800:2e6"              line through the signal at two molecular weights, g/mol; default
+//   none "window"       "1000:1e6"             molecular weights that are kept, g/mol; default all "negative"
+//   "refuse" or "cut"      a signal below zero; the default is "refuse" "calibration"  "1.4e-4,0.7:4e-4,0.73"
+//   K1,a1:K2,a2 of standards and polymer; default none "exponent"     "0.7"                  Mark-Houwink
+//   exponent for Mv; the default is that of the distribution
+//
+// POLYPROPS_NOT_FOUND: there is no such key. POLYPROPS_CASE_ERROR: the value is not valid. Both change
+// nothing.
+int polyprops_case_measured_option(polyprops_case* handle, const char* key, const char* value);
 
 // ---- runs ----
 

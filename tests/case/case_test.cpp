@@ -189,6 +189,7 @@ TEST(Case, AnswersForAHandleThatIsNull)
         polyprops_case_get(nullptr, "a", &value),
         polyprops_case_set(nullptr, "a", 1),
         polyprops_case_compare(nullptr, "a", "b"),
+        polyprops_case_measured_option(nullptr, "window", "1:2"),
         polyprops_run_status(nullptr),
         polyprops_run_diagnostic(nullptr, 0, &d),
         polyprops_run_number(nullptr, "a", &value),

@@ -135,6 +135,50 @@ TEST(Run, ComparesWithAMeasuredCurveOrSaysWhyItCannot)
     }
 }
 
+TEST(Run, ReadsMeasuredCurvesAsItsOptionsSay)
+{
+    const auto path = (support::scratch() / "logarithms.csv").string();
+    std::ofstream{path} << "2;-1\n3;1\n5;3\n6;0,5\n";
+    const auto input = example("ziegler-natta-5-site");
+    const auto option = [&](const char* key, const char* value) {
+        return polyprops_case_measured_option(input.get(), key, value);
+    };
+    const auto compare = [&] { return polyprops_case_compare(input.get(), path.c_str(), nullptr); };
+    const struct {
+        const char* key;
+        const char* value;
+        int status;
+        const char* line;
+    } rows[] = {
+        {"windows", "1:2", POLYPROPS_NOT_FOUND,
+         ".toml:0:0 [windows] 0 there is no option \"windows\"; did you mean \"window\"?"},
+        {"window", "2:1", POLYPROPS_CASE_ERROR,
+         ".toml:0:0 [window] 0 window: \"2:1\"; expected two molecular weights in g/mol, the lower first"},
+        {"exponent", nullptr, POLYPROPS_CASE_ERROR,
+         ".toml:0:0 [exponent] 0 exponent: \"\"; expected a number greater than 0, 2 at most"},
+        {"column", "log10m", POLYPROPS_OK, nullptr},
+        {"window", "500:1e6", POLYPROPS_OK, nullptr},
+        {"exponent", "0.7", POLYPROPS_OK, nullptr},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.value ? row.value : "NULL");
+        EXPECT_EQ(option(row.key, row.value), row.status);
+        const auto seen = diagnostics(input);
+        ASSERT_EQ(seen.size(), row.line ? 1u : 0u);
+        if (row.line) {
+            EXPECT_TRUE(seen[0].ends_with(row.line)) << seen[0];
+        }
+    }
+    EXPECT_EQ(compare(), POLYPROPS_OK);
+    const auto compared = run(input);
+    EXPECT_EQ(array(compared, "distributions.PE.gpc_curve.molecular_weight").rows, 3u);
+    EXPECT_GT(number(compared, "distributions.PE.gpc_comparison." + path + ".mv_measured"), 1000);
+    EXPECT_EQ(option(nullptr, nullptr), POLYPROPS_OK);
+    EXPECT_EQ(compare(), POLYPROPS_CASE_ERROR);
+    EXPECT_NE(diagnostics(input)[0].find("--gpc-column m or --gpc-column log10m"), std::string::npos);
+    EXPECT_EQ(text(run(input), POLYPROPS_JSON), text(compared, POLYPROPS_JSON));
+}
+
 TEST(Run, OutlivesTheCaseThatItCameFrom)
 {
     const char* mw = "streams.BLEND.chain_averages.PS.mw";

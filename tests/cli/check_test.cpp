@@ -18,12 +18,20 @@ std::string shortened(std::string text)
     return text;
 }
 
+Outcome check(const std::filesystem::path& file, Format format)
+{
+    const auto command = [](const auto& path, Format form, std::FILE* out, std::FILE* errors) {
+        return cli::check(path, form, out, errors);
+    };
+    return support::capture(command, file, format);
+}
+
 TEST(Check, BadInputIsAnsweredWithEveryMessageOnce)
 {
     std::string seen;
     for (const char* file : {"bad-input/no-sentences.toml", "bad-input/no-polymer.toml",
                              "bad-input/no-segment.toml", "bad-input.toml"}) {
-        const auto [status, out, errors] = support::capture(cli::check, examples / file, Format::text);
+        const auto [status, out, errors] = check(examples / file, Format::text);
         EXPECT_EQ(status, cli::exit_case_error) << file;
         EXPECT_EQ(out, "") << file;
         seen += shortened(errors);
@@ -36,7 +44,7 @@ TEST(Check, HasNothingToSayOfTheOtherExamples)
     for (const auto& file : std::filesystem::directory_iterator{examples}) {
         if (file.path().extension() != ".toml" || file.path().stem() == "bad-input") continue;
         SCOPED_TRACE(file.path());
-        const auto [status, out, errors] = support::capture(cli::check, file.path(), Format::text);
+        const auto [status, out, errors] = check(file.path(), Format::text);
         EXPECT_EQ(status, cli::exit_success);
         EXPECT_EQ(errors, "");
         EXPECT_EQ(out.find("\nPolymers\n") == out.npos, file.path().stem() == "interaction-parameters")
@@ -84,7 +92,7 @@ attributes.CAT = { CPSFLOW = [1, 2] }
 TEST(Check, ShowsWhatWasBuiltInEveryForm)
 {
     const File file{catalyzed};
-    const auto [status, out, errors] = support::capture(cli::check, file.path, Format::json);
+    const auto [status, out, errors] = check(file.path, Format::json);
     ASSERT_EQ(status, cli::exit_success) << errors;
     auto input = Json::parse(out)["input"];
     EXPECT_EQ(input["attribute_layout"][6], Json::parse(R"({"group": 7, "start": 19, "length": 3})"));
@@ -109,14 +117,14 @@ TEST(Check, ShowsWhatWasBuiltInEveryForm)
             {"component": "CAT", "attribute": "CVSFLOW", "element": 1, "first": 2.0, "second": 0.0},
             {"component": "CAT", "attribute": "CVSFLOW", "element": 2, "first": 2.0, "second": 0.0}]})"));
 
-    const auto text = support::capture(cli::check, file.path, Format::text).out;
+    const auto text = check(file.path, Format::text).out;
     EXPECT_NE(text.find("Oligomers by their segments per molecule\n"
                         "  Component  Segment  Count\n"
                         "  O          B-E          2\n"
                         "  O          A-R        1.5\n"),
               std::string::npos)
         << text;
-    const auto csv = support::capture(cli::check, file.path, Format::csv).out;
+    const auto csv = check(file.path, Format::csv).out;
     EXPECT_EQ(csv.substr(0, csv.find('\n')), "table,entry,component,segment,attribute,quantity,value,unit");
     for (const char* line : {"\noligomers,2,O,A-R,,count,1.5,\n", "\nattributes,2,CAT,,CVSFLOW,values,2,\n",
                              "\ndistributions,1,P,,,integer_3,6,\n"})

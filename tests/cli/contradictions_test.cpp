@@ -1,5 +1,9 @@
+#include <functional>
+
 #include "app/evaluation/result_arrays.h"
+#include "cli/check_command.h"
 #include "cli/convert_command.h"
+#include "cli/fit_command.h"
 #include "cli/program.h"
 
 namespace {
@@ -299,6 +303,62 @@ TEST(Warnings, AreInEveryFormAndCountWhenAskedFor)
     const auto converted = support::capture(convert, file.path, Format::text);
     EXPECT_EQ(converted.status, cli::exit_case_error);
     EXPECT_EQ(converted.errors, errors);
+}
+
+// A warning of the reader, about chains and a moment given as well.
+TEST(Warnings, OfTheCaseFileAreGivenByEveryCommand)
+{
+    const File file{R"([components]
+A-R = { class = "segment", molecular_weight = 100 }
+P = { class = "polymer", molecular_weight = 100 }
+[polymers]
+segments = [{ id = "A-R", type = "repeat" }]
+polymers = ["P"]
+attributes = [{ component = "P", names = ["ZMOM", "FMOM", "SMOM", "SFLOW"] }]
+[streams.S]
+chains.P = { mass = 1000, mn = 10000, dispersity = 2 }
+attributes.P.SMOM = 2000.1
+)"};
+    const File measured{"M S\n1e3 1\n2e3 3\n4e3 6\n8e3 5\n2e4 1\n", "measured"};
+    cli::FitCommandOptions fit;
+    fit.file = file.path;
+    fit.gpc = measured.path;
+    fit.segment_weight = 100;
+    const struct {
+        const char* command;
+        std::function<int(cli::Strictness, std::FILE*, std::FILE*)> start;
+    } rows[] = {
+        {"check", [&](auto strictness, auto* out,
+                      auto* errors) { return cli::check(file.path, Format::json, out, errors, strictness); }},
+        {"convert",
+         [&](auto strictness, auto* out, auto* errors) {
+             return cli::convert(file.path, {"S", app::Basis::apparent, app::Basis::true_chains},
+                                 Format::json, out, errors, strictness);
+         }},
+        {"fit",
+         [&](auto strictness, auto* out, auto* errors) {
+             fit.format = Format::json;
+             fit.strictness = strictness;
+             return cli::fit(fit, out, errors);
+         }},
+    };
+    const std::string text =
+        "streams.S.attributes.P.SMOM is 2000.1, but 2000 follows from streams.S.chains.P: a difference of "
+        "0.005 %; the given value is used";
+    for (const auto& row : rows)
+        for (const auto strictness : {cli::Strictness::normal, cli::Strictness::strict}) {
+            SCOPED_TRACE(row.command);
+            const auto command = [&](const auto&, Format, std::FILE* out, std::FILE* errors) {
+                return row.start(strictness, out, errors);
+            };
+            const auto seen = support::capture(command, file.path, Format::json);
+            EXPECT_EQ(seen.status, strictness == cli::Strictness::strict ? cli::exit_case_error : 0);
+            EXPECT_EQ(seen.errors, file.path.string() + ":10:14: " + text + "\n");
+            const auto warnings = Json::parse(seen.out)["warnings"];
+            ASSERT_EQ(warnings.size(), 1u);
+            EXPECT_EQ(warnings[0]["file"], file.path.string());
+            EXPECT_EQ(warnings[0]["text"], text);
+        }
 }
 
 TEST(Examples, HaveNoWarnings)

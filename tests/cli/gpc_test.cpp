@@ -67,6 +67,23 @@ TEST(MeasuredCurve, ResidualComparesCurvesOfAreaOne)
     EXPECT_DOUBLE_EQ(c.measured_averages.mw, 0.5 * (0.5 * 10000 + 1.5 * 100000));
 }
 
+TEST(MeasuredCurve, TakesTheExponentOfTheDistributionUnlessAnotherIsGiven)
+{
+    const File case_file{with(one_site, "points", "mark_houwink_exponent = 0.7\npoints")};
+    const File measured{"M S\n1000 1\n20000 3\n90000 1\n", "measured"};
+    const auto mv = [&](std::optional<double> exponent) {
+        cli::RunOptions options;
+        options.gpc = measured.path;
+        options.measured.mark_houwink_exponent = exponent;
+        const auto seen = run(options, case_file.path, Format::json);
+        const auto section = Json::parse(seen.out)["distributions"][0];
+        return section["gpc_comparison"][0].value("mv_measured", 0.0);
+    };
+    EXPECT_GT(mv({}), 0);
+    EXPECT_EQ(mv({}), mv(0.7));
+    EXPECT_NE(mv({}), mv(0.8));
+}
+
 TEST(MeasuredCurve, SaysWhatIsWrongWithItAndWhatACaseLacksForIt)
 {
     const auto* const second =
@@ -76,8 +93,7 @@ TEST(MeasuredCurve, SaysWhatIsWrongWithItAndWhatACaseLacksForIt)
         std::string text, measured, distribution, expected;
     } cases[] = {
         {one_site, "M,S\n1,2\n3;4\n", "", "/measured:3: \"3;4\"" + two_numbers},
-        {one_site, "1,2\n3,4,5\n", "", "/measured:2: \"3,4,5\"" + two_numbers},
-        {one_site, "1,2\n3,nan\n", "", "/measured:2: \"3,nan\"" + two_numbers},
+        {one_site, "1,2\n3,nan\n", "", "/measured:2: \"3,nan\"; expected finite numbers"},
         {one_site, "0 2\n3 4\n", "", "/measured:1: \"0 2\"; expected a molecular weight greater than 0\n"},
         {one_site, "M S\n3 4\n", "",
          "/measured: 1 line with two numbers; expected at least 2: molecular weight and signal\n"},

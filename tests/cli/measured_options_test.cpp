@@ -13,9 +13,10 @@ using namespace cli_test;
 app::MeasuredCurveOptions options(const std::string& text)
 {
     CLI::App program;
+    std::string file;
     app::MeasuredCurveOptions options;
-    cli::add_measured_options(program, options);
-    program.parse(text);
+    cli::add_measured_options(program, program.add_option("--gpc", file), options);
+    program.parse("--gpc m.txt " + text);
     return options;
 }
 
@@ -82,9 +83,22 @@ TEST(MeasuredCurve, NamesTheOptionOrLineThatIsWrong)
         {"M S\n10 1\n20 -0.5\n", "", "m.txt:3: the signal is -0.5; expected 0 or more"},
         {"M S\n100 1\n10 2\n1 1\n", "--gpc-baseline 10:100", "m.txt:4: the signal above the baseline is -2"},
         {"M S\n10 1\n20 2\n", "--gpc-baseline 5:20",
-         "m.txt: --gpc-baseline: 5 g/mol is outside the curve; expected 10 to 20 g/mol"},
+         "m.txt: --gpc-baseline: 5 g/mol is 5 g/mol below the curve; expected two molecular weights within "
+         "its 2 points, 10 to 20 g/mol"},
+        {"M S\n10 1\n20 2\n", "--gpc-baseline 10:20.5",
+         "m.txt: --gpc-baseline: 20.5 g/mol is 0.5 g/mol above the curve"},
         {"M S\n10 1\n20 2\n", "--gpc-window 15:100",
-         "m.txt: --gpc-window: 1 of 2 points are within 15 to 100 g/mol; expected at least 2"},
+         "m.txt: --gpc-window: 1 of 2 points are within 15 to 100 g/mol; expected at least 2 of the points "
+         "from 10 to 20 g/mol"},
+        {"time M S\n5 1000 1\n6 2000 3\n", "",
+         "m.txt:2: \"5 1000 1\"; expected two numbers, molecular weight and signal; the line has 3 numbers"},
+        {"M S\n1000 1\n2000;3;4\n", "", "m.txt:3: \"2000;3;4\"; expected two numbers"},
+        {"M,S\n1000,5,0,25\n2000,5,0,75\n", "",
+         "m.txt:2: \"1000,5,0,25\"; expected two numbers, molecular weight and signal; the line has 4 "
+         "numbers, and decimal commas need `;`, tabs or blanks between columns"},
+        {"M S\n1e999 1\n2000 1\n", "",
+         "m.txt:2: \"1e999 1\"; expected finite numbers that are 0 or have a size from 2.3e-308 to 1.7e308"},
+        {"M S\n1000 1e-400\n", "", "m.txt:2: \"1000 1e-400\"; expected finite numbers"},
         {"M;S\n10;1\n20,2\n", "",
          "m.txt:3: \"20,2\"; expected two numbers, molecular weight and signal, separated by `;`"},
         {"", "--gpc-window 20:10",
@@ -93,6 +107,8 @@ TEST(MeasuredCurve, NamesTheOptionOrLineThatIsWrong)
         {"", "--gpc-baseline 10:20:30", "--gpc-baseline: \"10:20:30\"; expected two molecular weights"},
         {"", "--gpc-calibration 1,0.7", "--gpc-calibration: \"1,0.7\"; expected K and a of the standards"},
         {"", "--gpc-calibration 0,0.7:1,0.7", "--gpc-calibration: \"0,0.7:1,0.7\"; expected K and a"},
+        {"", "--gpc-column M", "--gpc-column: \"M\"; expected m or log10m"},
+        {"", "--gpc-negative no", "--gpc-negative: \"no\"; expected refuse or cut"},
         {"", "--gpc-exponent 0", "--gpc-exponent: \"0\"; expected a number greater than 0, 2 at most"},
     };
     for (const auto& c : cases) {
@@ -103,6 +119,24 @@ TEST(MeasuredCurve, NamesTheOptionOrLineThatIsWrong)
         } catch (const std::exception& error) {
             EXPECT_EQ(std::string{error.what()}.find(c.expected), 0u) << error.what();
         }
+    }
+}
+
+TEST(MeasuredCurve, OptionsAreAnErrorOfUsageWithoutACurve)
+{
+    for (const std::string option :
+         {"--gpc-column m", "--gpc-negative cut", "--gpc-baseline 1:2", "--gpc-window 1:2",
+          "--gpc-calibration 1,0.7:1,0.7", "--gpc-exponent 0.7"}) {
+        CLI::App program;
+        int status = -1;
+        cli::add_run_command(program, status);
+        try {
+            program.parse("run absent.toml " + option);
+            ADD_FAILURE() << option << " is accepted";
+        } catch (const CLI::ParseError& error) {
+            EXPECT_EQ(error.what(), option.substr(0, option.find(' ')) + " requires --gpc");
+        }
+        EXPECT_EQ(status, -1);
     }
 }
 

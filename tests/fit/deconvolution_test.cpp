@@ -2,6 +2,7 @@
 
 #include <Eigen/Dense>
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <stdexcept>
@@ -92,7 +93,7 @@ TEST(Deconvolution, RecoversKnownSites)
         for (std::size_t j = 0; j < n; ++j) {
             const auto& [tau, beta, amount] = c.sites[j];
             EXPECT_NEAR(r.sites[j].tau.value, tau, 1e-4 * tau);
-            EXPECT_NEAR(r.sites[j].beta, beta, 1e-4 * tau);
+            EXPECT_NEAR(r.sites[j].beta.value, beta, 1e-4 * tau);
             EXPECT_NEAR(r.sites[j].amount.value, amount, 1e-4 * amount);
             EXPECT_NEAR(r.sites[j].mn, 100 / (tau + beta / 2), 0.01 / tau);
             EXPECT_NEAR(r.sites[j].pw, (2 * tau + 3 * beta) / std::pow(tau + beta, 2), 3e-4 / tau);
@@ -110,10 +111,95 @@ TEST(Deconvolution, WarnsOfSitesThatGainNothing)
     ASSERT_EQ(range.warnings.size(), 1u);
     EXPECT_EQ(range.warnings[0].find("--sites 2: "), 0u) << range.warnings[0];
     EXPECT_EQ(range.residuals.size(), 3u);
-    EXPECT_THROW(app::fit(curve_of({{0.001, 0, 1}}, 6, 10, 1e5), 100, {2, 2, false}), std::runtime_error);
-    auto dark = one;
+}
+
+TEST(Deconvolution, RefusesCurvesThatSayTooLittle)
+{
+    auto dark = curve_of({{0.001, 0, 1}}, 100, 10, 1e5);
     dark.signal.assign(dark.size(), 0);
-    EXPECT_THROW(app::fit(dark, 100, {1, 1, false}), std::runtime_error);
+    const struct {
+        app::MeasuredCurve curve;
+        app::FitOptions options;
+        const char* expected;
+    } cases[] = {
+        {dark, {1, 1, false}, ": the signal is 0 everywhere; expected more than 0"},
+        {curve_of({{0.001, 0, 1}}, 6, 10, 1e5),
+         {1, 2, false},
+         ": 6 points; expected at least 7: --sites 2 needs 3 points for each site, and 3 more than its 4 "
+         "parameters"},
+        {curve_of({{0.001, 0, 1}}, 14, 10, 1e5), {5, 5, false}, ": 14 points; expected at least 15: "},
+        {curve_of({{0.001, 0, 1}}, 8, 10, 1e5), {2, 2, true}, ": 8 points; expected at least 9: "},
+    };
+    for (const auto& c : cases) {
+        try {
+            app::fit(c.curve, 100, c.options);
+            ADD_FAILURE() << "accepted; expected " << c.expected;
+        } catch (const std::runtime_error& error) {
+            EXPECT_EQ(std::string{error.what()}.find(c.expected), 0u) << error.what();
+        }
+    }
+}
+
+// The least sum of squared residuals of one site with this share of g1, over any s and mass.
+double least_squares(const Eigen::VectorXd& lengths, const Eigen::VectorXd& signal, double share)
+{
+    double least = signal.squaredNorm();
+    for (double log_rate = std::log(1e-4); log_rate < std::log(1e-2); log_rate += 1e-4) {
+        const Eigen::MatrixXd parts = app::site_parts({lengths, true}, Eigen::VectorXd{{log_rate}});
+        const Eigen::VectorXd curve = (1 - share) * parts.col(0) + share * parts.col(1);
+        const double mass = curve.dot(signal) / curve.squaredNorm();
+        least = std::min(least, (signal - mass * curve).squaredNorm());
+    }
+    return least;
+}
+
+// Two near sites are broader than any one site; combination narrows a site.
+TEST(Deconvolution, LimitsABetaOfZeroByTheSumOfSquares)
+{
+    const auto curve = curve_of({{0.0014, 0, 0.5}, {0.0018, 0, 0.5}}, 40, 10, 1e5);
+    const auto r = app::fit(curve, 100, {1, 1, true});
+    const auto [beta, low, high] = r.sites[0].beta;
+    EXPECT_EQ(beta, 0);
+    EXPECT_EQ(low, 0);
+    EXPECT_GT(high, 0);
+    const Eigen::VectorXd lengths = Eigen::Map<const Eigen::VectorXd>{r.chain_length.data(), 40};
+    const Eigen::VectorXd signal = Eigen::Map<const Eigen::VectorXd>{curve.signal.data(), 40};
+    const double rate = r.sites[0].tau.value;
+    // The rate of that share at the same Mn: β = s·b and τ = s·(1 − b/2).
+    const double share = high / (rate + high / 2);
+    const double at_zero = least_squares(lengths, signal, 0);
+    const double allowed = std::pow(app::student_limit(38), 2) * at_zero / 38;
+    EXPECT_NEAR(least_squares(lengths, signal, share) - at_zero, allowed, 0.05 * allowed);
+}
+
+// The error is 1 % of each signal at most.
+TEST(Deconvolution, GivesLimitsOfBeta)
+{
+    auto curve = curve_of({{0.004, 0.004, 0.4}, {0.0005, 0, 0.6}}, 200, 10, 1e5);
+    for (double k = 1; double& signal : curve.signal) {
+        signal *= 1 + 0.01 * std::sin(37 * k * k);
+        ++k;
+    }
+    const auto r = app::fit(curve, 100, {2, 2, true});
+    ASSERT_EQ(r.sites.size(), 2u);
+    const auto [beta, low, high] = r.sites[0].beta;
+    EXPECT_GT(low, 0.001);
+    EXPECT_LT(low, 0.004);
+    EXPECT_LT(beta, high);
+    EXPECT_GT(high, 0.004);
+    EXPECT_LT(high, 0.006);
+    // Two sites of the same s cannot be told apart.
+    const Eigen::VectorXd lengths = Eigen::VectorXd::LinSpaced(50, 100, 5000);
+    const app::SiteModel model{lengths, true};
+    const Eigen::VectorXd same{{std::log(0.001), std::log(0.001)}};
+    const Eigen::VectorXd masses{{0.3, 0.2, 0.3, 0.2}};
+    const auto blind = app::estimate_sites(model, Eigen::VectorXd::Ones(50), {same, masses, 1});
+    EXPECT_FALSE(blind.is_determined);
+    for (const auto& [value, low_limit, high_limit] : blind.beta) {
+        EXPECT_DOUBLE_EQ(value, 0.0004);
+        EXPECT_EQ(low_limit, 0);
+        EXPECT_EQ(high_limit, 1);
+    }
 }
 
 // Two-sided 95 % points of Student's distribution from tables.
@@ -166,9 +252,16 @@ TEST(FitCommand, PrintsTheSitesOfTheExample)
     const auto file = examples / "gpc-deconvolution.toml";
     const auto seen = fit(options, file, Format::json);
     ASSERT_EQ(seen.status, 0) << seen.errors;
-    EXPECT_NE(seen.errors.find("curve.csv:1:1: --sites 4: site 4 gains nothing"), std::string::npos)
+    EXPECT_NE(seen.errors.find("curve.csv: --sites 4: site 4 gains nothing"), std::string::npos)
         << seen.errors;
-    const auto section = Json::parse(seen.out)["fits"][0];
+    const auto json = Json::parse(seen.out);
+    ASSERT_EQ(json["warnings"].size(), 1u);
+    EXPECT_EQ(json["warnings"][0]["file"], options.gpc.string());
+    EXPECT_EQ(seen.errors,
+              options.gpc.string() + ": " + json["warnings"][0]["text"].get<std::string>() + "\n");
+    options.strictness = cli::Strictness::strict;
+    EXPECT_EQ(fit(options, file, Format::json).status, cli::exit_case_error);
+    const auto section = json["fits"][0];
     const auto& sites = section["fit_sites"];
     ASSERT_EQ(sites.size(), 3u);
     const double tau[] = {0.008, 0.0015, 0.0003};
@@ -180,6 +273,44 @@ TEST(FitCommand, PrintsTheSitesOfTheExample)
     EXPECT_NE(app::file_contents(file).find(section["sites"].get<std::string>()), std::string::npos);
     EXPECT_NE(fit(options, file, Format::text).out.find(section["sites"].get<std::string>()),
               std::string::npos);
+}
+
+TEST(FitCommand, TakesWhatTheCaseSaysAndNamesWhatItLacks)
+{
+    const std::string components = "[components]\nP = { molecular_weight = 100 }\n";
+    const std::string distribution =
+        "[distributions.D]\npoints = 9\nlongest_chain = 99\nmark_houwink_exponent = 0.7\n"
+        "segment_weight = 100\nsites = [{ tau = 0.01, amount = 1 }]\n";
+    const std::string curve = "M S\n1e3 1\n2e3 3\n4e3 6\n8e3 5\n2e4 1\n";
+    const struct {
+        std::string text;
+        std::optional<double> segment_weight;
+        const char* name;
+        const char* expected;  // of the errors; empty: has Mv
+    } cases[] = {
+        {components + distribution, {}, "", ""},
+        {components + distribution, 100, "", ""},
+        {components + "[streams.S]\nflows = { P = 1 }\n",
+         {},
+         "",
+         "has no distribution to take the segment weight from; expected the option --segment-weight\n"},
+        {components + distribution, 100, "E", "has no distribution \"E\"; expected one of D\n"},
+    };
+    const File measured{curve, "measured"};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.expected);
+        const File file{c.text};
+        cli::FitCommandOptions options;
+        options.gpc = measured.path;
+        options.segment_weight = c.segment_weight;
+        options.distribution = c.name;
+        const auto seen = fit(options, file.path, Format::json);
+        const bool is_sound = *c.expected == 0;
+        EXPECT_EQ(seen.status, is_sound ? cli::exit_success : cli::exit_case_error);
+        EXPECT_NE(seen.errors.find(c.expected), std::string::npos) << seen.errors;
+        const bool has_mv = is_sound && Json::parse(seen.out)["fits"][0]["fit_averages"][0].contains("mv");
+        EXPECT_EQ(has_mv, is_sound);
+    }
 }
 
 }  // namespace

@@ -22,6 +22,21 @@ function line(label, points, options) {
     };
 }
 
+// Points without a line; the legend shows them as a row of dots.
+function dots(label, points) {
+    return line(label, points, {
+        showLine: false,
+        pointRadius: 2,
+        pointBorderWidth: 0,
+        pointBackgroundColor: () => colour("--quiet"),
+        borderColor: () => colour("--quiet"),
+        backgroundColor: "transparent",
+        borderWidth: 4,
+        borderDash: [0, 12.5],
+        borderCapStyle: "round",
+    });
+}
+
 // Upright dashed lines with a name at the top, at the averages of the composite.
 const marks = {
     id: "marks",
@@ -39,13 +54,15 @@ const marks = {
             ctx.lineTo(x, chartArea.bottom);
             ctx.stroke();
             const text = `${name} ${shown(value)}`;
+            const width = ctx.measureText(text).width + 6;
+            const left = x + 2 + width > chartArea.right ? x - 2 - width : x + 2;
             const top = chartArea.top + 4 + 18 * row;
             ctx.globalAlpha = 0.7;
             ctx.fillStyle = colour("--paper");
-            ctx.fillRect(x + 2, top, ctx.measureText(text).width + 6, 16);
+            ctx.fillRect(left, top, width, 16);
             ctx.globalAlpha = 1;
             ctx.fillStyle = colour("--ink");
-            ctx.fillText(text, x + 5, top + 12);
+            ctx.fillText(text, left + 3, top + 12);
         }
         ctx.restore();
     },
@@ -58,10 +75,12 @@ const axis = (text, options) => ({
     ...options,
 });
 
-// Powers of ten alone.
+// Powers of ten alone, short enough for a narrow page.
+const superscript = (digits) => digits.replace(/./g, (c) => "⁰¹²³⁴⁵⁶⁷⁸⁹"[c] ?? "⁻");
 const decades = (value) => {
     const power = Math.log10(value);
-    return Math.abs(power - Math.round(power)) < 1e-9 ? Number(value).toLocaleString("en") : null;
+    const whole = Math.round(power);
+    return Math.abs(power - whole) < 1e-9 ? `10${superscript(String(whole))}` : null;
 };
 
 function chart(canvas, datasets, scales, marked, pointerTitle) {
@@ -119,8 +138,7 @@ function distributionForm(canvas, distribution, form) {
             ? { borderColor: () => colour("--ink"), borderWidth: 2.5 }
             : { borderColor: palette[(i - 1) % palette.length], backgroundColor: palette[(i - 1) % palette.length] }));
     if (distribution.gpc_curve)
-        datasets.push(line("measured", distribution.gpc_curve.map((row) => ({ x: row[form.x], y: row[form.measured] })),
-            { showLine: false, pointRadius: 2, borderColor: colour("--accent"), backgroundColor: colour("--accent") }));
+        datasets.push(dots("measured", distribution.gpc_curve.map((row) => ({ x: row[form.x], y: row[form.measured] }))));
     datasets.push(line("cumulative", curve("cumulative"),
         { yAxisID: "cumulative", borderColor: () => colour("--quiet"), borderDash: [2, 3] }));
 
@@ -165,13 +183,12 @@ function fitChart(canvas, fit) {
     const datasets = fit.fit_sites.map((row, i) => line(`site ${row.site}`, curve(`site_${row.site}`),
         { borderColor: palette[i % palette.length], backgroundColor: palette[i % palette.length] }));
     datasets.unshift(line("sum of the sites", curve("fitted"), { borderColor: () => colour("--ink"), borderWidth: 2.5 }));
-    datasets.push(line("measured", curve("measured"),
-        { showLine: false, pointRadius: 2, borderColor: colour("--accent"), backgroundColor: colour("--accent") }));
+    datasets.push(dots("measured", curve("measured")));
     const scales = {
         x: axis("Molecular weight, g/mol", { type: "logarithmic", min: rows[0].molecular_weight,
             max: rows[rows.length - 1].molecular_weight, ticks: { color: () => colour("--quiet"), callback: decades,
                 maxRotation: 0, autoSkip: false } }),
-        y: axis("dw/dlog10(M)", { beginAtZero: true }),
+        y: axis("dw/dlog10 M", { beginAtZero: true }),
     };
     const average = fit.fit_averages.find((row) => row.curve === "fitted");
     const marked = ["mn", "mw"].map((key, row) => ({ name: key === "mn" ? "Mn" : "Mw", value: average[key], row }));
