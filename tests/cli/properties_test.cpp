@@ -9,7 +9,7 @@ const std::string good = R"([components]
 A-R = { class = "segment", molecular_weight = 100 }
 B-R = { class = "segment", molecular_weight = 50 }
 W = { molecular_weight = 18 }
-P = { class = "polymer", molecular_weight = 350 }
+P = { class = "polymer", molecular_weight = 350, pdi = 2 }
 O = { class = "oligomer", molecular_weight = 100 }
 [polymers]
 segments = [{ id = "A-R", type = "repeat" }, { id = "B-R", type = "repeat" }]
