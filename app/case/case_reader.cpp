@@ -61,6 +61,10 @@ Component read_component(const std::string& id, TableReader table)
     component.name = table.text("name").value_or(id);
     component.dpn = read_placed_number(table, "dpn", Range::not_negative, component.dpn_source);
     component.pdi = read_placed_number(table, "pdi", Range::positive, component.pdi_source);
+    if (component.pdi && *component.pdi < 1)
+        table.diagnostics().add(component.pdi_source,
+                                fmt::format("{} is {}; expected 1 or greater, since Mw is at least Mn",
+                                            component.pdi_source.key, *component.pdi));
     component.cry = table.number("cry", Range::not_negative);
     component.mark_houwink_exponent = read_mark_houwink_exponent(table);
     table.finish();

@@ -14,9 +14,10 @@ namespace app {
 
 namespace {
 
-// Numbers within the first two may be either; a logarithm beyond the third is a mistake.
-constexpr double least_log10 = 1;
-constexpr double largest_log10 = 8;
+// A column that ends below the first may hold logarithms to base 10 or e, below the second even under a
+// heading of molecular weights; a logarithm beyond the third is a mistake.
+constexpr double least_evident_weight = 100;  // g/mol
+constexpr double least_headed_weight = 10;    // g/mol
 constexpr double largest_exponent = 15;
 
 [[noreturn]] void refuse(const std::string& file, const std::string& why)
@@ -53,19 +54,18 @@ bool names_molecular_weight(const std::string& note)
 
 WeightColumn evident_column(const CurveColumns& columns, const std::string& file)
 {
-    bool is_weight = false;
+    bool is_headed = false;
     for (const auto& note : columns.notes) {
         const auto text = lower_case(note);
         if (names_logarithm(text)) return WeightColumn::log10m;
-        is_weight = is_weight || names_molecular_weight(text);
+        is_headed = is_headed || names_molecular_weight(text);
     }
-    const auto may_be_logarithm = [](const ColumnPair& pair) {
-        return pair.first >= least_log10 && pair.first <= largest_log10;
-    };
-    if (is_weight || !std::ranges::all_of(columns.pairs, may_be_logarithm)) return WeightColumn::m;
-    refuse(file, fmt::format("the first column is within {} to {} and no heading says whether it holds M or "
-                             "log10(M); expected the option --gpc-column m or --gpc-column log10m",
-                             least_log10, largest_log10));
+    const auto [least, largest] = std::ranges::minmax(columns.pairs, {}, &ColumnPair::first);
+    if (largest.first >= (is_headed ? least_headed_weight : least_evident_weight)) return WeightColumn::m;
+    refuse(file,
+           fmt::format("the first column goes from {} to {}, small for M in g/mol, and no heading names "
+                       "log10(M); expected the option --gpc-column m or --gpc-column log10m",
+                       least.first, largest.first));
 }
 
 double molecular_weight(const ColumnPair& pair, WeightColumn column, const std::string& file)

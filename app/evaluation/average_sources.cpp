@@ -1,5 +1,7 @@
 #include "app/evaluation/average_sources.h"
 
+#include <fmt/format.h>
+
 namespace app {
 
 namespace {
@@ -23,11 +25,28 @@ bool has_usable_moments(const GivenPolymer& polymer, const std::vector<GivenSegm
            mass >= settings.zero_bound && polymer.sum("SFLOW") >= settings.zero_bound;
 }
 
-const char* length(const GivenPolymer& polymer, bool takes_parameter)
+double sum_or_zero(const GivenPolymer& polymer, std::string_view attribute)
+{
+    return polymer.gives(attribute) ? polymer.sum(attribute) : 0;
+}
+
+std::string length(const GivenPolymer& polymer, bool takes_parameter, const Settings& settings)
 {
     if (takes_parameter) return "the dpn parameter";
     if (polymer.carries("DPN")) return "DPN";
-    return polymer.carries("FMOM") ? "FMOM and ZMOM" : "SFLOW and ZMOM";
+    const std::string segments = polymer.carries("FMOM") ? "FMOM" : "SFLOW";
+    if (!polymer.carries("ZMOM")) return segments + " and the end segments in SFLOW";
+    for (const auto& name : {segments, std::string{"ZMOM"}})
+        if (!(sum_or_zero(polymer, name) > settings.zero_bound))
+            return fmt::format("the least length, one segment, since {} is 0", name);
+    return segments + " and ZMOM";
+}
+
+std::string segment_weight(const GivenPolymer& polymer, bool takes_attribute, const Settings& settings)
+{
+    if (takes_attribute) return "MWSEG";
+    const char* fractions = polymer.carries("SFRAC") ? "SFRAC" : "SFLOW";
+    return sum_or_zero(polymer, fractions) > settings.zero_bound ? fractions : "equal shares of the segments";
 }
 
 }  // namespace
@@ -39,10 +58,10 @@ AverageSources average_sources(const Settings& settings, const GivenPolymer& pol
                            settings.pdi_from_parameters || !has_usable_moments(polymer, segments, settings),
                            is_usable(polymer, "MWSEG", settings),
                            {},
-                           polymer.carries("SFRAC") ? "SFRAC" : "SFLOW",
+                           {},
                            "ZMOM, SMOM and SFLOW"};
-    sources.length = length(polymer, sources.takes_dpn_parameter);
-    if (sources.takes_segment_weight) sources.mean_segment_weight = "MWSEG";
+    sources.length = length(polymer, sources.takes_dpn_parameter, settings);
+    sources.mean_segment_weight = segment_weight(polymer, sources.takes_segment_weight, settings);
     if (sources.takes_pdi_parameter) sources.dispersity = "the pdi parameter";
     return sources;
 }

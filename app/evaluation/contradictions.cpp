@@ -128,10 +128,20 @@ private:
         const auto factor = smaller > 0 ? fmt::format(", a factor of {:.4g}",
                                                       std::max(by_flow.value, by_segments.value) / smaller)
                                         : std::string{};
-        expect_equal(polymer_.flow().component.source, by_flow, by_segments,
-                     fmt::format("{}; compositions use the flow, averages the moments; check {}, "
-                                 "components.{}.molecular_weight and the scale of {}",
-                                 factor, polymer_.flow_key(), polymer_.id(), fmt::join(scaled(), ", ")));
+        expect_equal(
+            polymer_.flow().component.source, by_flow, by_segments,
+            fmt::format("{}; compositions use the flow, averages the moments; check {} and the scale "
+                        "of {}",
+                        factor, flow_keys(), fmt::join(scaled(), ", ")));
+    }
+
+    // The molecular weight turns a mole flow into the mass that is compared, but a mass flow only there and
+    // back.
+    std::string flow_keys() const
+    {
+        const auto& key = polymer_.flow_key();
+        const bool is_mole_flow = key == fmt::format("streams.{}.flows.{}", polymer_.stream(), polymer_.id());
+        return is_mole_flow ? fmt::format("{}, components.{}.molecular_weight", key, polymer_.id()) : key;
     }
 
     // Attributes that have the scale of the flow.
@@ -146,15 +156,16 @@ private:
     void compare_moments()
     {
         if (gives({"FMOM", "SFLOW"}))
-            expect_equal("FMOM", {"the sum of SFLOW", polymer_.sum("SFLOW"), mole_flow},
-                         fmt::format("{}; compositions and Mw/Mn use SFLOW", mn_use()));
+            expect_equal(
+                "FMOM", {"the sum of SFLOW", polymer_.sum("SFLOW"), mole_flow},
+                fmt::format("{}, Mw/Mn from {}; reactors use SFLOW", length_use(), sources_.dispersity));
         const auto* first = gives({"FMOM"}) ? "FMOM" : "SFLOW";
         if (!gives({first})) return;
         const double f = polymer_.sum(first);
         const std::string name = gives({"FMOM"}) ? "FMOM" : "the sum of SFLOW";
-        if (gives({"ZMOM", "SMOM"}))
-            expect_not_below("SMOM", "", {"ZMOM times SMOM", polymer_.value("ZMOM") * polymer_.value("SMOM")},
-                             {"the square of " + name, f * f}, "Mw/Mn", "; Mw uses " + sources_.dispersity);
+        if (gives({"ZMOM"}) && polymer_.value("ZMOM") == 0 && f > 0)
+            expect_equal("ZMOM", {name, f, mole_flow}, ": no chains are counted" + length_use());
+        if (gives({"ZMOM", "SMOM"})) compare_second_moment(name, f);
         if (gives({"SMOM", "TMOM"})) {
             const double s = polymer_.value("SMOM");
             expect_not_below("TMOM", "", {name + " times TMOM", f * polymer_.value("TMOM")},
@@ -162,7 +173,20 @@ private:
         }
     }
 
-    std::string mn_use() const { return "; Mn uses " + sources_.length; }
+    // Results take the segments from SFLOW, which may differ from FMOM.
+    void compare_second_moment(const std::string& first, double f)
+    {
+        const Quantity product{"ZMOM times SMOM", polymer_.value("ZMOM") * polymer_.value("SMOM")};
+        const auto use = "; Mw/Mn comes from " + sources_.dispersity;
+        const double sum = gives({"SFLOW"}) ? polymer_.sum("SFLOW") : f;
+        if (sum > f)
+            expect_not_below("SMOM", "", product, {"the square of the sum of SFLOW", sum * sum}, "Mw/Mn",
+                             use);
+        else
+            expect_not_below("SMOM", "", product, {"the square of " + first, f * f}, "Mw/Mn", use);
+    }
+
+    std::string length_use() const { return "; DPN comes from " + sources_.length; }
 
     void expect_not_below(std::string_view attribute, const std::string& element, const Quantity& product,
                           const Quantity& square, const char* ratio, const std::string& use)
@@ -183,7 +207,7 @@ private:
         if (!gives({"SSFLOW"})) {
             if (gives({"FMOM", "SFMOM"}))
                 expect_equal("FMOM", {"the sum of SFMOM", polymer_.sum("SFMOM"), mole_flow},
-                             "; results use FMOM, none uses SFMOM");
+                             length_use() + ", nothing from SFMOM");
             return;
         }
         const auto& by_site = polymer_.elements("SSFLOW");
@@ -203,7 +227,8 @@ private:
 
     static std::string site_use(std::string_view whole, std::string_view by_site)
     {
-        return fmt::format("; results of the polymer use {}, those of site types {}", whole, by_site);
+        return fmt::format("; averages of the stream use {}, site types and the reactors with site types {}",
+                           whole, by_site);
     }
 
     void compare_site_moments(const std::vector<double>& segment_flows)
@@ -213,7 +238,7 @@ private:
                 "SSMOM", fmt::format("[{}]", t + 1),
                 {"SZMOM times SSMOM", polymer_.elements("SZMOM")[t] * polymer_.elements("SSMOM")[t]},
                 {"the square of the sum of SSFLOW of this site type", segment_flows[t] * segment_flows[t]},
-                "Mw/Mn", "; results of the site type use these three");
+                "Mw/Mn", "; results of the site type use these values");
     }
 
     // One end of each chain may be no segment, such as a hydrogen end.
@@ -231,22 +256,23 @@ private:
         }
         const double chains = polymer_.value("ZMOM");
         if (ends > 0 && branches == 0 && !agree(ends, chains))
-            expect_equal(
-                polymer_.source("SFLOW"), {polymer_.key("SFLOW") + ": flow of end segments", ends, mole_flow},
-                {"twice ZMOM", 2 * chains, mole_flow}, ", and linear chains have two ends each" + mn_use());
+            expect_equal(polymer_.source("SFLOW"),
+                         {polymer_.key("SFLOW") + ": flow of end segments", ends, mole_flow},
+                         {"twice ZMOM", 2 * chains, mole_flow},
+                         ", and linear chains have two ends each" + length_use());
     }
 
     void compare_averages()
     {
         const auto* first = gives({"FMOM"}) ? "FMOM" : "SFLOW";
-        if (gives({"DPN", "ZMOM", first}) && polymer_.value("ZMOM") > 0)
+        if (gives({"DPN", "ZMOM", first}) && polymer_.value("ZMOM") > 0 && !sources_.takes_dpn_parameter)
             expect_equal("DPN",
                          {fmt::format("{} over ZMOM", gives({"FMOM"}) ? "FMOM" : "the sum of SFLOW"),
                           polymer_.sum(first) / polymer_.value("ZMOM")},
-                         mn_use(), "");
+                         length_use() + "; reactors use the moments", "");
         if (!gives({"SFLOW"}) || !(polymer_.sum("SFLOW") > 0)) return;
         const auto& flows = polymer_.elements("SFLOW");
-        if (gives({"MWSEG"}))
+        if (gives({"MWSEG"}) && sources_.takes_segment_weight)
             expect_equal(
                 "MWSEG",
                 {"the mean segment weight of SFLOW", mass(flows, segments_) / polymer_.sum("SFLOW"), "g/mol"},
@@ -254,11 +280,14 @@ private:
         if (gives({"SFRAC"}))
             expect_all_equal(
                 "SFRAC", polymer_.elements("SFRAC"), fractions(flows), "its share of SFLOW", "",
-                [&](std::size_t s) { return of_segment(s); },
-                weight_use() + ", mole fractions of segments SFRAC, mass fractions SFLOW");
+                [&](std::size_t s) { return of_segment(s); }, weight_use());
     }
 
-    std::string weight_use() const { return "; molecular weights use " + sources_.mean_segment_weight; }
+    std::string weight_use() const
+    {
+        return fmt::format("; molecular weights of the stream use {}, reactors SFLOW",
+                           sources_.mean_segment_weight);
+    }
 
     const GivenPolymer& polymer_;
     const Segments& segments_;
@@ -276,6 +305,28 @@ std::vector<Diagnostic> contradictions(const Stream& stream, const Settings& set
     const auto segments = given_segments(host, minihost::read_polymer_input(host));
     for (const auto& polymer : polymers)
         PolymerComparisons{polymer, segments, average_sources(settings, polymer, segments), found}.compare();
+    return found;
+}
+
+std::vector<Diagnostic> oligomer_contradictions(const Case& input)
+{
+    std::vector<Diagnostic> found;
+    for (const auto& component : input.components) {
+        if (component.component_class != ComponentClass::oligomer || !component.dpn || !input.paragraph)
+            continue;
+        double segments = 0;
+        for (const auto& part : input.paragraph->oligomers)
+            if (part.oligomer.id == component.id) segments += part.count;
+        const Quantity given{component.dpn_source.key, *component.dpn};
+        const Quantity made_of{
+            fmt::format("the number of segments of {} in polymers.oligomers", component.id), segments};
+        // A parameter of 1 counts as not given.
+        if (segments == 0 || *component.dpn == 1 || agree(given.value, made_of.value)) continue;
+        found.push_back({component.dpn_source,
+                         fmt::format("{}, but {}; {}; DPN comes from dpn, compositions from the segments",
+                                     shown(given), shown(made_of), difference(given, made_of)),
+                         Severity::warning});
+    }
     return found;
 }
 

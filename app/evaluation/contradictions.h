@@ -12,4 +12,7 @@ namespace app {
 // results use.
 std::vector<Diagnostic> contradictions(const Stream& stream, const Settings& settings, minihost::Host& host);
 
+// The length and the weight of an oligomer's molecule by its parameters and by its segments.
+std::vector<Diagnostic> oligomer_contradictions(const Case& input);
+
 }  // namespace app

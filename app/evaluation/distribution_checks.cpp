@@ -5,12 +5,15 @@
 #include <algorithm>
 #include <cmath>
 
+#include "app/evaluation/comparison.h"
+
 namespace app {
 
 namespace {
 
 constexpr double moment_tolerance = 1e-6;   // relative
 constexpr double outside_tolerance = 0.01;  // mass fraction
+constexpr double area_tolerance = 0.1;      // mass fraction
 constexpr double short_chain_tau = 0.01;    // chains of 100 segments
 
 // A stream without polymer, or without second moments, says nothing; nor does a site that makes nothing.
@@ -63,6 +66,7 @@ void warn_of_grid(const Distribution& distribution, const DistributionResults& r
 
 struct ShortChains {
     double tau = short_chain_tau;
+    double beta = 0;
     const PlacedName* site = nullptr;
 };
 
@@ -74,21 +78,41 @@ ShortChains shortest_chains(const Distribution& distribution)
         for (const auto& increment : section.increments)
             for (std::size_t j = 0; j < std::min(increment.size(), section.sites.size()); ++j)
                 if (increment[j].amount > 0 && increment[j].tau > found.tau)
-                    found = {increment[j].tau, &section.sites[j]};
+                    found = {increment[j].tau, increment[j].beta, &section.sites[j]};
     return found;
 }
 
-void warn_of_short_chains(const Distribution& distribution, std::vector<Diagnostic>& warnings)
+// The grid's trapezoids find the mass that it reaches, unless a curve is narrower than its steps.
+void warn_of_coarse_grid(const Distribution& distribution, const DistributionResults& results,
+                         const Curve& curve, std::vector<Diagnostic>& warnings)
 {
-    const auto [tau, site] = shortest_chains(distribution);
-    if (!site) return;
+    if (!curve.averages || !curve.on_grid) return;
+    const double share = curve.amount / results.composite().amount;
+    const double expected = share * (1 - curve.averages->below_grid - curve.averages->above_grid);
+    const double error = std::abs(curve.on_grid->area - expected) / share;
+    if (!(error > area_tolerance)) return;
     warnings.push_back(warning(
-        site->source,
-        fmt::format(
-            "distributions.{}: tau of site {} is {:g}, greater than {:g}; averages take the chain length "
-            "as continuous, with Pn = 1/tau = {:.6g} for beta = 0; whole chain lengths give "
-            "Pn = 1 + 1/tau = {:.6g}",
-            distribution.name.id, site->id, tau, short_chain_tau, 1 / tau, 1 + 1 / tau)));
+        distribution.name.source,
+        fmt::format("distributions.{}: {} has an area of {:.6g} on the grid, but {:.6g} in closed form; they "
+                    "differ by {:.4g} % of its mass, more than {:g} %: the curve is narrower than the steps "
+                    "of the grid; expected more points or a smaller longest_chain",
+                    results.name, curve.name, curve.on_grid->area, expected, 100 * error,
+                    100 * area_tolerance)));
+}
+
+void warn_of_segment_weight(const Distribution& distribution, double stream_weight,
+                            std::vector<Diagnostic>& warnings)
+{
+    if (!distribution.segment_weight || !(stream_weight > 0)) return;
+    const Quantity own{fmt::format("distributions.{}.segment_weight", distribution.name.id),
+                       *distribution.segment_weight, "g/mol"};
+    const Quantity other{
+        fmt::format("the mean segment weight of the polymer of stream {}", distribution.stream->id),
+        stream_weight, "g/mol"};
+    if (agree(own.value, other.value)) return;
+    warnings.push_back(warning(distribution.stream->source,
+                               fmt::format("{}, but {}; {}; the distribution uses its segment_weight",
+                                           shown(own), shown(other), difference(own, other))));
 }
 
 }  // namespace
@@ -118,13 +142,28 @@ std::vector<CurveCheck> curve_checks(const Distribution& distribution, const Dis
     return checks;
 }
 
+// Growing chains have 1 + 1/(tau + beta) segments when they end, as whole numbers; tau + beta/2 chains form
+// per segment.
+std::vector<std::string> distribution_notes(const Distribution& distribution)
+{
+    const auto [tau, beta, site] = shortest_chains(distribution);
+    if (!site) return {};
+    const double chains = tau + beta / 2;
+    return {fmt::format(
+        "tau of site {} is {:g}, greater than {:g}: averages take the chain length as continuous, Pn = "
+        "1/(tau + beta/2) = {:.6g}; whole chain lengths give Pn = (1 + tau + beta)/(tau + beta/2) = "
+        "{:.6g}, which is 1 + 1/tau for beta = 0",
+        site->id, tau, short_chain_tau, 1 / chains, (1 + tau + beta) / chains)};
+}
+
 std::vector<Diagnostic> distribution_warnings(const Distribution& distribution,
-                                              const DistributionResults& results)
+                                              const DistributionResults& results, double stream_weight)
 {
     std::vector<Diagnostic> warnings;
+    warn_of_segment_weight(distribution, stream_weight, warnings);
     for (const auto& check : results.checks) warn_of_moments(distribution, check, warnings);
     for (const auto& curve : results.curves) warn_of_grid(distribution, results, curve, warnings);
-    warn_of_short_chains(distribution, warnings);
+    for (const auto& curve : results.curves) warn_of_coarse_grid(distribution, results, curve, warnings);
     if (distribution.mark_houwink_exponent && !results.segment_weight)
         warnings.push_back(warning(
             distribution.name.source,

@@ -14,9 +14,12 @@ std::string site_curve_name(const DistributionSection& section, std::size_t site
 std::vector<CurveCheck> curve_checks(const Distribution& distribution, const DistributionResults& results,
                                      const routines::StreamMoments& moments);
 
-// Moments that contradict the sites, mass outside the grid, chains so short that their lengths are not
-// continuous, an exponent without use.
+// Chains so short that their lengths are not continuous.
+std::vector<std::string> distribution_notes(const Distribution& distribution);
+
+// Moments or a segment weight that contradict the stream, of which `stream_weight` is the mean segment weight
+// in g/mol, 0 without polymer; mass outside the grid, a grid too coarse, an exponent without use.
 std::vector<Diagnostic> distribution_warnings(const Distribution& distribution,
-                                              const DistributionResults& results);
+                                              const DistributionResults& results, double stream_weight);
 
 }  // namespace app

@@ -86,6 +86,7 @@ struct DistributionResults {
     std::vector<CurveCheck> checks;
     std::optional<MeasuredComparison> measured;
     std::vector<std::vector<double>> parts;  // of the composite, each of area 1
+    std::vector<std::string> notes;          // about results that are as they should be
     std::vector<Diagnostic> warnings;
 
     const Curve& composite() const { return curves.front(); }

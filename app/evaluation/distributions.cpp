@@ -192,7 +192,9 @@ DistributionResults evaluate(const Distribution& distribution, Host& host)
             results.molecular_weights.push_back(x * *results.segment_weight);
     add_grid_averages(results);
     if (polymer) results.checks = curve_checks(distribution, results, polymer->moments);
-    for (auto& warning : distribution_warnings(distribution, results))
+    results.notes = distribution_notes(distribution);
+    const double stream_weight = polymer ? polymer->mean_segment_weight : 0;
+    for (auto& warning : distribution_warnings(distribution, results, stream_weight))
         results.warnings.push_back(std::move(warning));
     return results;
 }

@@ -44,6 +44,9 @@ void add_comparison(const Case& input, const EvaluationOptions& options, Results
     auto& distribution = results.distributions[find_distribution(input, options.measured_distribution)];
     auto measured = *options.measured;
     if (!measured.mark_houwink_exponent) measured.mark_houwink_exponent = distribution.exponent;
+    for (auto& text : cut_ends(*options.measured))
+        distribution.warnings.push_back(
+            {no_position(), std::move(text), Severity::warning, options.measured->file});
     distribution.measured = compare(measured, composite_curve(distribution));
 }
 
@@ -71,6 +74,7 @@ void add_warnings(const Case& input, Host& host, Results& results)
 {
     for (const auto& stream : input.streams)
         append(contradictions(stream, input.settings, host), results.warnings);
+    append(oligomer_contradictions(input), results.warnings);
     append(unused_values(input, results.streams, host), results.warnings);
     std::ranges::stable_sort(results.warnings, {}, &Diagnostic::source);
     for (const auto& distribution : results.distributions) append(distribution.warnings, results.warnings);

@@ -87,12 +87,14 @@ const SourcePosition& GivenPolymer::source(std::string_view attribute) const
 
 std::string GivenPolymer::key(std::string_view attribute) const
 {
+    if (gives(attribute) && !states(attribute))
+        return fmt::format("{}: {}", source(attribute).key, attribute);
     return fmt::format("streams.{}.attributes.{}.{}", stream_, id(), attribute);
 }
 
 std::string GivenPolymer::flow_key() const
 {
-    return fmt::format("streams.{}.flows.{}", stream_, id());
+    return flow_.component.source.key;
 }
 
 std::vector<GivenPolymer> given_polymers(const Stream& stream, minihost::Host& host)

@@ -40,7 +40,8 @@ public:
     double sum(std::string_view attribute) const;
     const SourcePosition& source(std::string_view attribute) const;
 
-    // The key of an attribute, and that of the flow.
+    // The keys in the file of an attribute and of the flow, those of `chains` or `mix` when they follow from
+    // it.
     std::string key(std::string_view attribute) const;
     std::string flow_key() const;
 

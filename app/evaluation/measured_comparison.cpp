@@ -79,6 +79,21 @@ MolecularWeightAverages averages_over_log10(const Values& m, const Values& curve
     return averages;
 }
 
+std::vector<std::string> cut_ends(const MeasuredCurve& curve)
+{
+    constexpr double tolerance = 0.1;
+    std::vector<std::string> warnings;
+    const double largest = std::ranges::max(curve.signal);
+    for (const std::size_t k : {std::size_t{0}, curve.size() - 1})
+        if (curve.signal[k] > tolerance * largest)
+            warnings.push_back(
+                fmt::format("the curve is cut off at {:.6g} g/mol, where the signal is {:.3g} % of its "
+                            "largest value; expected at "
+                            "most {:g} %: averages leave out the chains beyond",
+                            curve.molecular_weight[k], 100 * curve.signal[k] / largest, 100 * tolerance));
+    return warnings;
+}
+
 MeasuredComparison compare(const MeasuredCurve& measured, const CompositeCurve& composite)
 {
     MeasuredComparison c;

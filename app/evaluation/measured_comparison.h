@@ -51,6 +51,9 @@ struct CompositeCurve {
 };
 
 // Throws std::runtime_error when the composite has nothing in the measured range.
+// A warning for each end of the curve at which the signal is more than 10 % of its largest value.
+std::vector<std::string> cut_ends(const MeasuredCurve& curve);
+
 MeasuredComparison compare(const MeasuredCurve& measured, const CompositeCurve& composite);
 
 }  // namespace app

@@ -162,7 +162,7 @@ private:
     void name_z_averages()
     {
         if (!given_.gives_all({"SMOM", "TMOM"}) || !(given_.value("SMOM") > 0)) {
-            for (const auto* attribute : {"DPZ", "MWZ"})
+            for (const auto* attribute : {"DPZ", "MWZ", "TMOM"})
                 unused(attribute,
                        fmt::format("Mz comes from TMOM and SMOM, which {} does not give", given_.id()));
             return;
@@ -297,12 +297,22 @@ void name_values_without_polymer(const Case& input, const Stream& stream, Warnin
     }
 }
 
+// Parameters of a component that is no part of any result by chains.
+void name_idle_parameters(const Component& component, Warnings& warnings)
+{
+    const auto why =
+        component.id +
+        (component.component_class == ComponentClass::segment ? " is a segment" : " flows in no stream");
+    if (component.dpn) warnings.without_effect(component.dpn_source, component.dpn_source.key, why);
+    if (component.pdi) warnings.without_effect(component.pdi_source, component.pdi_source.key, why);
+}
+
 // A parameter that any of the polymer's streams takes is used.
 void name_parameters(const Component& component, const std::vector<Polymer>& polymers, Warnings& warnings)
 {
     const auto is_of_component = [&](const Polymer& p) { return p.given.id() == component.id; };
     const auto first = std::ranges::find_if(polymers, is_of_component);
-    if (first == polymers.end()) return;
+    if (first == polymers.end()) return name_idle_parameters(component, warnings);
     const auto is_taken = [&](bool AverageSources::*takes) {
         return std::ranges::any_of(polymers,
                                    [&](const Polymer& p) { return is_of_component(p) && p.sources.*takes; });
@@ -365,9 +375,12 @@ std::vector<Diagnostic> unused_values(const Case& input, const std::vector<Strea
     const bool has_site_results = site_types(host) > 0;
     for (const auto& polymer : polymers)
         UnusedAttributes{polymer, segments, has_site_results, warnings}.name(input);
-    for (const auto& component : input.components)
+    for (const auto& component : input.components) {
         if (component.component_class == ComponentClass::polymer)
             name_parameters(component, polymers, warnings);
+        else if (component.component_class == ComponentClass::segment)
+            name_idle_parameters(component, warnings);
+    }
     return warnings.take();
 }
 

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <stdexcept>
 
+#include "app/evaluation/distribution_averages.h"
 #include "app/fit/confidence.h"
 #include "app/fit/rate_search.h"
 
@@ -133,18 +134,17 @@ void add_warnings(const FitOptions& options, std::size_t chosen, FitResults& res
     }
 }
 
-FittedSite site(const SiteEstimates& estimates, std::size_t j, double segment_weight)
+FittedSite site(const SiteEstimates& estimates, std::size_t j, const MeasuredCurve& curve,
+                double segment_weight)
 {
     FittedSite site;
     site.tau = estimates.tau[j];
     site.amount = estimates.amount[j];
     site.beta = estimates.beta[j];
-    const double tau = site.tau.value;
-    const double beta = site.beta.value;
-    site.pn = 1 / (tau + beta / 2);
-    site.pw = (2 * tau + 3 * beta) / ((tau + beta) * (tau + beta));
-    site.mn = site.pn * segment_weight;
-    site.mw = site.pw * segment_weight;
+    const auto exponent = curve.mark_houwink_exponent;
+    MassWeightedMeans means;
+    means.add(1, site_means({site.tau.value, site.beta.value, 1}, {}, exponent));
+    site.averages = closed_averages(means, segment_weight, exponent).value_or(DistributionAverages{});
     return site;
 }
 
@@ -153,7 +153,8 @@ std::vector<double> values(const VectorXd& column)
     return {column.begin(), column.end()};
 }
 
-void add_sites(const Problem& problem, const RateSolution& solution, FitResults& results)
+void add_sites(const Problem& problem, const RateSolution& solution, const MeasuredCurve& curve,
+               FitResults& results)
 {
     const auto estimates = estimate_sites(problem.model, problem.signal, solution);
     if (!estimates.is_determined)
@@ -163,7 +164,7 @@ void add_sites(const Problem& problem, const RateSolution& solution, FitResults&
     const Eigen::MatrixXd curves = site_parts(problem.model, solution.log_rates);
     const VectorXd shares = solution.masses / solution.masses.sum();
     for (Index j = 0; j < solution.log_rates.size(); ++j) {
-        results.sites.push_back(site(estimates, static_cast<std::size_t>(j), results.segment_weight));
+        results.sites.push_back(site(estimates, static_cast<std::size_t>(j), curve, results.segment_weight));
         results.sites.back().values =
             values(curves.middleCols(j * parts, parts) * shares.segment(j * parts, parts));
     }
@@ -188,8 +189,9 @@ FitResults fit(const MeasuredCurve& curve, double segment_weight, const FitOptio
     results.residuals = residuals(problem, all);
     const auto chosen = choice(results.residuals, options);
     results.residual = results.residuals[chosen].residual;
+    results.warnings = cut_ends(curve);
     add_warnings(options, chosen, results);
-    add_sites(problem, with_mass(all[chosen], problem.model.parts()), results);
+    add_sites(problem, with_mass(all[chosen], problem.model.parts()), curve, results);
     const auto exponent = curve.mark_houwink_exponent;
     results.measured_averages = averages_over_log10(curve.molecular_weight, results.measured, exponent);
     results.fitted_averages = averages_over_log10(curve.molecular_weight, results.fitted, exponent);

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "app/evaluation/distribution_results.h"
 #include "app/evaluation/measured_comparison.h"
 
 namespace app {
@@ -20,10 +21,7 @@ struct FittedSite {
     Estimate tau;     // chains per segment ended by transfer and disproportionation
     Estimate amount;  // mass fraction
     Estimate beta;    // chains per segment ended by combination
-    double pn = 0;    // segments per chain
-    double pw = 0;
-    double mn = 0;               // g/mol
-    double mw = 0;               // g/mol
+    DistributionAverages averages;
     std::vector<double> values;  // dw/dlog10(M) by point
 };
 

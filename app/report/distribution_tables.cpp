@@ -174,6 +174,8 @@ Section distribution_section(const DistributionResults& results)
                     "Distribution " + results.name,
                     {{"form", results.is_gpc ? "gpc" : "weight-fraction"}},
                     {averages(results), quadrature(results), checks(results), curves(results)}};
+    if (!results.notes.empty())
+        section.facts.emplace_back("notes", fmt::format("{}", fmt::join(results.notes, "\n")));
     if (const auto& measured = results.measured) {
         section.facts.emplace_back("gpc_notes", fmt::format("{}", fmt::join(measured->notes, "\n")));
         section.tables.insert(section.tables.end() - 1, fit(*measured));

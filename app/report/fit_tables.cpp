@@ -46,13 +46,20 @@ Table sites(const FitResults& results)
             beta, results, [](const FittedSite& site) { return site.beta.value; }, table);
     add_estimates({"mass_fraction", "Mass fraction", "1"}, results, &FittedSite::amount, table);
     add_values(
-        columns::pn, results, [](const FittedSite& site) { return site.pn; }, table);
+        columns::pn, results, [](const FittedSite& site) { return site.averages.pn; }, table);
     add_values(
-        columns::pw, results, [](const FittedSite& site) { return site.pw; }, table);
+        columns::pw, results, [](const FittedSite& site) { return site.averages.pw; }, table);
     add_values(
-        columns::mn, results, [](const FittedSite& site) { return site.mn; }, table);
+        columns::mn, results, [](const FittedSite& site) { return site.averages.mn; }, table);
     add_values(
-        columns::mw, results, [](const FittedSite& site) { return site.mw; }, table);
+        columns::mw, results, [](const FittedSite& site) { return site.averages.mw; }, table);
+    add_values(
+        columns::mz, results, [](const FittedSite& site) { return site.averages.mz; }, table);
+    add_values(
+        columns::pdi, results, [](const FittedSite& site) { return site.averages.pdi; }, table);
+    if (results.measured_averages.mv)
+        add_values(
+            columns::mv, results, [](const FittedSite& site) { return site.averages.mv.value_or(0); }, table);
     return table;
 }
 

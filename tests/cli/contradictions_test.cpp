@@ -69,24 +69,24 @@ TEST(Contradictions, AreNamedWithBothValuesAndTheirDifference)
     const std::string p = "streams.S.attributes.P.";
     const std::string site_2 =
         "SZMOM times SSMOM is 36.6, but the square of the sum of SSFLOW of this site type is 43.56; they "
-        "differ by "
-        "16 % of the larger: Mw/Mn would be 0.84022, below 1; results of the site type use these three";
+        "differ by 16 % of the larger: Mw/Mn would be 0.84022, below 1; results of the site type use these "
+        "values";
     expect_each({
         {{}, {}},
         {{{"{ P = 10 }", "{ P = 5 }"}},
          {"c.toml:11:11: streams.S.flows.P: flow times molecular weight is 500 kg/h, but SFLOW times segment "
           "weights is 1000 kg/h; they differ by 50 % of the larger, a factor of 2; compositions use the "
-          "flow, averages the moments; check streams.S.flows.P, "
-          "components.P.molecular_weight and the scale of SFLOW, ZMOM, FMOM, SMOM, TMOM"}},
+          "flow, averages the moments; check streams.S.flows.P, components.P.molecular_weight and the scale "
+          "of SFLOW, ZMOM, FMOM, SMOM, TMOM"}},
         {{{"FMOM = 10.5", "FMOM = 10.501"}}, {}},  // 0.0095 %
         {{{"FMOM = 10.5", "FMOM = 10.502"}},
          {"c.toml:14:1: " + p +
-          "FMOM is 10.502 kmol/h, but the sum of SFLOW is 10.5 kmol/h; they differ by 0.019 % of the "
-          "larger; Mn uses FMOM and ZMOM; compositions and Mw/Mn use SFLOW"}},
+          "FMOM is 10.502 kmol/h, but the sum of SFLOW is 10.5 kmol/h; they differ by 0.019 % of the larger; "
+          "DPN comes from FMOM and ZMOM, Mw/Mn from ZMOM, SMOM and SFLOW; reactors use SFLOW"}},
         {{{"SMOM = 441", "SMOM = 200"}, {"[141, 300]", "[78, 122]"}},
          {"c.toml:15:1: " + p +
               "SMOM: ZMOM times SMOM is 100, but the square of FMOM is 110.25; they differ by 9.3 % of the "
-              "larger: Mw/Mn would be 0.907029, below 1; Mw uses ZMOM, SMOM and SFLOW",
+              "larger: Mw/Mn would be 0.907029, below 1; Mw/Mn comes from ZMOM, SMOM and SFLOW",
           "c.toml:20:1: " + p + "SSMOM[2]: " + site_2}},
         {{{"\"FMOM\", ", ""},
           {"FMOM = 10.5\n", ""},
@@ -94,8 +94,7 @@ TEST(Contradictions, AreNamedWithBothValuesAndTheirDifference)
           {"[141, 300]", "[78, 122]"}},
          {"c.toml:14:1: " + p +
               "SMOM: ZMOM times SMOM is 100, but the square of the sum of SFLOW is 110.25; they differ by "
-              "9.3 % "
-              "of the larger: Mw/Mn would be 0.907029, below 1; Mw uses ZMOM, SMOM and SFLOW",
+              "9.3 % of the larger: Mw/Mn would be 0.907029, below 1; Mw/Mn comes from ZMOM, SMOM and SFLOW",
           "c.toml:19:1: " + p + "SSMOM[2]: " + site_2}},
         {{{"TMOM = 27783", "TMOM = 10000"}},
          {"c.toml:16:1: " + p +
@@ -104,17 +103,16 @@ TEST(Contradictions, AreNamedWithBothValuesAndTheirDifference)
         {{{"[0.2, 0.3]", "[0.2, 0.2]"}},
          {"c.toml:13:1: " + p +
           "ZMOM is 0.5 kmol/h, but the sum of SZMOM is 0.4 kmol/h; they differ by 20 % of the larger; "
-          "results of the polymer "
-          "use ZMOM, those of site types SZMOM"}},
+          "averages of the stream use ZMOM, site types and the reactors with site types SZMOM"}},
         {{{"[141, 300]", "[141, 200]"}},
          {"c.toml:15:1: " + p +
           "SMOM is 441 kmol/h, but the sum of SSMOM is 341 kmol/h; they differ by 22.7 % of the larger; "
-          "results of the "
-          "polymer use SMOM, those of site types SSMOM"}},
+          "averages of the stream use SMOM, site types and the reactors with site types SSMOM"}},
         {{{"[3.5, 0.4", "[3.5, 0.5"}},
          {"c.toml:17:1: " + p +
               "SFLOW of B-E is 1 kmol/h, but the sum of SSFLOW over the site types is 1.1 kmol/h; they "
-              "differ by 9.09 % of the larger; results of the polymer use SFLOW, those of site types SSFLOW",
+              "differ by 9.09 % of the larger; averages of the stream use SFLOW, site types and the reactors "
+              "with site types SSFLOW",
           "c.toml:19:1: " + p +
               "SFMOM[1] is 3.9 kmol/h, but the sum of SSFLOW of this site type is 4 kmol/h; they differ by "
               "2.5 % of the larger; results of site types use SSFLOW"}},
@@ -127,32 +125,58 @@ TEST(Contradictions, AreNamedWithBothValuesAndTheirDifference)
           {"SSMOM = [141, 300]\n", ""}},
          {"c.toml:14:1: " + p +
               "FMOM is 10.5 kmol/h, but the sum of SFMOM is 9.9 kmol/h; they differ by 5.71 % of the larger; "
-              "results use FMOM, none uses SFMOM",
+              "DPN comes from FMOM and ZMOM, nothing from SFMOM",
           "c.toml:18:1: " + p + "SFMOM is not used: no result depends on it"}},
         // 0.2 · 60 is below 3.9², whereas the sums over the site types agree.
         {{{"[141, 300]", "[60, 381]"}},
          {"c.toml:20:1: " + p +
           "SSMOM[1]: SZMOM times SSMOM is 12, but the square of the sum of SSFLOW of this site type is "
           "15.21; they differ by 21.1 % of the larger: Mw/Mn would be 0.788955, below 1; results of the site "
-          "type use these three"}},
+          "type use these values"}},
         {{{"ZMOM = 0.5", "ZMOM = 0.4"}, {"[0.2, 0.3]", "[0.2, 0.2]"}},
          {"c.toml:17:1: " + p +
-          "SFLOW: flow of end segments is 1 kmol/h, but twice ZMOM is 0.8 kmol/h; they differ by 20 % of "
-          "the larger, and linear chains have two ends each; Mn uses FMOM and ZMOM"}},
+          "SFLOW: flow of end segments is 1 kmol/h, but twice ZMOM is 0.8 kmol/h; they differ by 20 % of the "
+          "larger, and linear chains have two ends each; DPN comes from FMOM and ZMOM"}},
+        {{{"ZMOM = 0.5", "ZMOM = 0"},
+          {"\"SMOM\", ", ""},
+          {"SMOM = 441\n", ""},
+          {"\"SSMOM\", ", ""},
+          {"SSMOM = [141, 300]\n", ""},
+          {"\"TMOM\", ", ""},
+          {"TMOM = 27783\n", ""},
+          {"\"SZMOM\", ", ""},
+          {"SZMOM = [0.2, 0.3]\n", ""},
+          {", \"SSFLOW\"", ""},
+          {"SSFLOW = [3.5, 0.4, 6, 0.6]\n", ""},
+          {", \"SFMOM\"", ""},
+          {"SFMOM = [3.9, 6.6]\n", ""},
+          {"[9.5, 1]", "[10.5, 0]"},
+          {"{ P = 10 }", "{ P = 10.5 }"},
+          {"100 }\n[", "100, pdi = 2 }\n["}},
+         {"c.toml:13:1: " + p +
+          "ZMOM is 0 kmol/h, but FMOM is 10.5 kmol/h; they differ by 100 % of the larger: no chains are "
+          "counted; DPN comes from the least length, one segment, since ZMOM is 0"}},
+        // The key that the file has, and no molecular weight to check.
+        {{{"flows = { P = 10 }", "mass_flows = { P = 500 }"}},
+         {"c.toml:11:16: streams.S.mass_flows.P: flow times molecular weight is 500 kg/h, but SFLOW times "
+          "segment weights is 1000 kg/h; they differ by 50 % of the larger, a factor of 2; compositions use "
+          "the flow, averages the moments; check streams.S.mass_flows.P and the scale of SFLOW, ZMOM, FMOM, "
+          "SMOM, TMOM"}},
         // Branches, or chains with one end that is no segment.
         {{{"\"repeat\"", "\"branch3\""}, {"ZMOM = 0.5", "ZMOM = 0.4"}, {"[0.2, 0.3]", "[0.2, 0.2]"}}, {}},
         {{{"ZMOM = 0.5", "ZMOM = 1"}, {"[0.2, 0.3]", "[0.4, 0.6]"}}, {}},
         {giving("DPN", "30"),
          {"c.toml:13:1: " + p +
-          "DPN is 30, but FMOM over ZMOM is 21; they differ by 30 % of the larger; Mn uses DPN"}},
+          "DPN is 30, but FMOM over ZMOM is 21; they differ by 30 % of the larger; DPN comes from DPN; "
+          "reactors use the moments"}},
         {giving("MWSEG", "90"),
          {"c.toml:13:1: " + p +
           "MWSEG is 90 g/mol, but the mean segment weight of SFLOW is 95.2381 g/mol; they differ by 5.5 % of "
-          "the larger; molecular weights use MWSEG"}},
+          "the larger; molecular weights of the stream use MWSEG, reactors SFLOW"}},
         {giving("SFRAC", "[0.9, 0.1]"),
          {"c.toml:13:1: " + p +
           "SFRAC of B-E is 0.1, but its share of SFLOW is 0.0952381; they differ by 4.76 % of the larger; "
-          "molecular weights use SFRAC, mole fractions of segments SFRAC, mass fractions SFLOW"}},
+          "molecular weights of the stream use SFRAC, reactors SFLOW"}},
     });
 }
 
@@ -186,8 +210,8 @@ TEST(UnusedValues, AreNamedWithWhatIsUsedInstead)
             "[4] is 0.1, but is not used: its share of SSFLOW is 0.0909091; they differ by 9.09 % of the "
             "larger"),
         row("SDPN", "[19.5, 20]",
-            "[2] is 20, but is not used: its value from SZMOM, SSMOM and SSFLOW is 22; they differ by 9.09 "
-            "% of the larger"),
+            "[2] is 20, but is not used: its value from SZMOM, SSMOM and SSFLOW is 22; they differ by 9.09 % "
+            "of the larger"),
         row("SDPW", "[40, 45]",
             "[1] is 40, but is not used: its value from SZMOM, SSMOM and SSFLOW is 36.1538; they differ by "
             "9.62 % of the larger"),
@@ -228,6 +252,28 @@ TEST(UnusedValues, AreNamedWithWhatIsUsedInstead)
           "SMOM",
           "c.toml:15:1: streams.S.attributes.P.DPZ is not used: Mz comes from TMOM and SMOM, which P does "
           "not give"}},
+        {{{"\"SMOM\", ", ""},
+          {"SMOM = 441\n", ""},
+          {"\"SSMOM\", ", ""},
+          {"SSMOM = [141, 300]\n", ""},
+          {"\"SZMOM\", ", ""},
+          {"SZMOM = [0.2, 0.3]\n", ""},
+          {", \"SSFLOW\"", ""},
+          {"SSFLOW = [3.5, 0.4, 6, 0.6]\n", ""},
+          {", \"SFMOM\"", ""},
+          {"SFMOM = [3.9, 6.6]\n", ""},
+          {"100 }\n[", "100, pdi = 2 }\n["}},
+         {"c.toml:15:1: streams.S.attributes.P.TMOM is not used: Mz comes from TMOM and SMOM, which P does "
+          "not give"}},
+        {{{"molecular_weight = 50 }", "molecular_weight = 50, dpn = 2 }"}},
+         {"c.toml:3:51: components.B-E.dpn is not used: B-E is a segment"}},
+        {{{"{ P = 10 }", "{ P = 0 }"}, {"100 }\n[", "100, pdi = 2 }\n["}},
+         {"c.toml:4:50: components.P.pdi is not used: P flows in no stream",
+          "c.toml:12:23: streams.S.attributes.P is not used: P does not flow in this stream"}},
+        {{{"[polymers]", "O = { class = \"oligomer\", molecular_weight = 300, dpn = 5 }\n[polymers]"},
+          {"polymers = [\"P\"]", "polymers = [\"P\"]\noligomers = [{ id = \"O\", segments = { A-R = 3 } }]"}},
+         {"c.toml:5:51: components.O.dpn is 5, but the number of segments of O in polymers.oligomers is 3; "
+          "they differ by 40 % of the larger; DPN comes from dpn, compositions from the segments"}},
         {{{"{ P = 10 }", "{ P = 0 }"}},
          {"c.toml:12:23: streams.S.attributes.P is not used: P does not flow in this stream"}},
         {{{"\"SSMOM\", ", ""}, {"SSMOM = [141, 300]\n", ""}},
@@ -267,7 +313,9 @@ TEST(RequiredValues, AreErrorsThatSayWhatToGive)
           "SMOM is missing; expected a number in kmol/h, since P carries it: Mw would be 0 without it"}},
         {{{"SMOM = 441\n", ""},
           {"100 }\n[", "100, pdi = 2 }\n["},
-          {"[polymers]", "[settings]\npdi_from = \"parameters\"\n[polymers]"}},
+          {"[polymers]", "[settings]\npdi_from = \"parameters\"\n[polymers]"},
+          {"\"TMOM\", ", ""},
+          {"TMOM = 27783\n", ""}},
          {}},
         {{{"SSMOM = [141, 300]\n", ""}},
          {lead + "SSMOM is missing; expected a number for each site type, in kmol/h, since P carries it: Mw "
@@ -319,7 +367,7 @@ attributes = [{ component = "P", names = ["ZMOM", "FMOM", "SMOM", "SFLOW"] }]
 chains.P = { mass = 1000, mn = 10000, dispersity = 2 }
 attributes.P.SMOM = 2000.1
 )"};
-    const File measured{"M S\n1e3 1\n2e3 3\n4e3 6\n8e3 5\n2e4 1\n", "measured"};
+    const File measured{"M S\n1e3 0.5\n2e3 3\n4e3 6\n8e3 5\n2e4 0.5\n", "measured"};
     cli::FitCommandOptions fit;
     fit.file = file.path;
     fit.gpc = measured.path;

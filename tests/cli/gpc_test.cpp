@@ -94,11 +94,11 @@ TEST(MeasuredCurve, SaysWhatIsWrongWithItAndWhatACaseLacksForIt)
     } cases[] = {
         {one_site, "M,S\n1,2\n3;4\n", "", "/measured:3: \"3;4\"" + two_numbers},
         {one_site, "1,2\n3,nan\n", "", "/measured:2: \"3,nan\"; expected finite numbers"},
-        {one_site, "0 2\n3 4\n", "", "/measured:1: \"0 2\"; expected a molecular weight greater than 0\n"},
-        {one_site, "M S\n3 4\n", "",
+        {one_site, "0 2\n300 4\n", "", "/measured:1: \"0 2\"; expected a molecular weight greater than 0\n"},
+        {one_site, "M S\n30 4\n", "",
          "/measured: 1 line with two numbers; expected at least 2: molecular weight and signal\n"},
-        {one_site, "M S\n1 1\n3 1\n3 1\n4 1\n", "",
-         "/measured: molecular weight 3 is followed by 3; expected molecular weights that all rise or all "
+        {one_site, "M S\n10 1\n30 1\n30 1\n40 1\n", "",
+         "/measured: molecular weight 30 is followed by 30; expected molecular weights that all rise or all "
          "fall\n"},
         {one_site + second, "1000 1\n2000 1\n", "", "has 2 distributions; expected the name of one"},
         {one_site + second, "1000 1\n2000 1\n", "F", "has no distribution \"F\"; expected one of D, E"},

@@ -51,7 +51,7 @@ TEST(MeasuredCurve, ReadsEverySeparatorDecimalCommasAndCorrections)
         {"heading of a logarithm", "log10(M),S\n3,1\n2,3\n", "", "100 3, 1000 1"},
         {"option for a logarithm", "3 1\n4 3\n", "--gpc-column log10m", "1000 1, 10000 3"},
         {"option against a heading", "log M,S\n3,1\n4,3\n", "--gpc-column m", "3 1, 4 3"},
-        {"beyond a logarithm", "3 1\n8.5 3\n", "", "3 1, 8.5 3"},
+        {"beyond logarithms", "3 1\n100 3\n", "", "3 1, 100 3"},
         {"cut", "M S\n10 -1\n20 3\n", "--gpc-negative cut", "10 0, 20 3"},
         {"window with its ends", line, "--gpc-window 100:10000", "100 1, 1000 7, 10000 3"},
         {"baseline, its ends exactly 0", line, "--gpc-baseline 100:10000 --gpc-window 100:10000",
@@ -76,8 +76,11 @@ TEST(MeasuredCurve, NamesTheOptionOrLineThatIsWrong)
         const char* expected;
     } cases[] = {
         {"3 1\n4 1\n", "",
-         "m.txt: the first column is within 1 to 8 and no heading says whether it holds M or log10(M); "
+         "m.txt: the first column goes from 3 to 4, small for M in g/mol, and no heading names log10(M); "
          "expected the option --gpc-column m or --gpc-column log10m"},
+        {"2.0,0.1\n4,1\n8.2,0\n", "", "m.txt: the first column goes from 2 to 8.2, small for M"},
+        {"M;S\n2;0.1\n7.2;1\n", "", "m.txt: the first column goes from 2 to 7.2, small for M"},
+        {"ln M,S\n6,0.1\n15,1\n", "", "m.txt: the first column goes from 6 to 15, small for M"},
         {"3 1\n16 1\n", "--gpc-column log10m",
          "m.txt:2: \"16 1\"; expected log10 of a molecular weight, 15 at most"},
         {"M S\n10 1\n20 -0.5\n", "", "m.txt:3: the signal is -0.5; expected 0 or more"},
