@@ -101,8 +101,8 @@ void read_curves(TableReader& root, Case& input)
 // A case without streams has distributions or binary parameters instead.
 void read_streams(TableReader& root, Case& input)
 {
-    const bool may_lack = !input.distributions.empty() || !input.parameter_sets.empty();
-    if (may_lack && !root.entry("streams")) return;
+    const bool has_other_results = !input.distributions.empty() || !input.parameter_sets.empty();
+    if (has_other_results && !root.entry("streams")) return;
     if (const auto streams = section(root, "streams", "a table with at least one stream"))
         input.streams = read_streams(*streams);
 }
@@ -113,8 +113,11 @@ Case read_root(TableReader root, const std::string& file)
     input.file = file;
     input.title = root.text("title").value_or("");
     if (const auto settings = root.table("settings")) input.settings = read_settings(*settings);
-    if (const auto components = section(root, "components", "a table with at least one component"))
-        input.components = read_components(*components);
+    // Distributions with a segment weight of their own need nothing else.
+    const bool has_curves_only = root.entry("distributions") && !root.entry("streams");
+    if (!has_curves_only || root.entry("components"))
+        if (const auto components = section(root, "components", "a table with at least one component"))
+            input.components = read_components(*components);
     if (const auto polymers = root.table("polymers")) input.paragraph = read_paragraph(*polymers);
     input.catalyst_scaling = read_catalyst_scaling(root.array("catalyst_scaling"), root.diagnostics());
     read_curves(root, input);

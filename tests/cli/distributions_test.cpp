@@ -206,6 +206,15 @@ TEST(Distribution, WarnsOfMassOutsideTheGridShortChainsMomentsAndUnusedKeys)
     for (const auto& r : rows) EXPECT_EQ(evaluated(head + r.text).diagnostics(), r.expected) << r.text;
 }
 
+TEST(Distribution, NeedsNothingElse)
+{
+    const auto e = evaluated(
+        "[distributions.D]\npoints = 50\nlongest_chain = 1000\nsegment_weight = 10\n"
+        "sites = [{ tau = 0.01, amount = 1 }]\n");
+    EXPECT_EQ(e.diagnostics(), Lines{});
+    EXPECT_EQ(number(e, "distributions.D.distribution_averages.composite.mn"), 1000);
+}
+
 // Whole lengths with tau = 0.0125 and beta = 0.0025: (1 + 0.015)/0.01375 = 73.8182, where 1/0.01375
 // = 72.7273.
 TEST(Distribution, NotesThatChainsAreShort)
