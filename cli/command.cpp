@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include <cerrno>
+#include <cstring>
 #include <stdexcept>
 
 #include "app/case/case_document.h"
@@ -11,7 +13,7 @@ namespace cli {
 void write(const std::string& text, std::FILE* out)
 {
     if (std::fwrite(text.data(), 1, text.size(), out) != text.size() || std::fflush(out) != 0)
-        throw std::runtime_error{"the results cannot be written"};
+        throw std::runtime_error{fmt::format("standard output cannot be written: {}", std::strerror(errno))};
 }
 
 void print(const std::vector<app::Diagnostic>& diagnostics, const std::string& file, std::FILE* errors)

@@ -5,6 +5,7 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <new>
 #include <optional>
 #include <string>
 #include <utility>
@@ -72,6 +73,8 @@ int guarded(const Command& command, std::FILE* errors)
 {
     try {
         return command();
+    } catch (const std::bad_alloc& /*error*/) {
+        return fail("out of memory", errors);
     } catch (const std::exception& error) {
         return fail(error.what(), errors);
     }

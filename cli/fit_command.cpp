@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "app/evaluation/evaluation.h"
+#include "app/io/output_check.h"
 #include "app/report/make_report.h"
 #include "app/report/output_files.h"
 #include "cli/measured_options.h"
@@ -40,10 +41,19 @@ std::optional<double> segment_weight(const app::Case& input, std::size_t distrib
     return {};
 }
 
+// Why a file cannot be written where the options say; empty when all can.
+std::string refused_output(const FitCommandOptions& options)
+{
+    app::OutputCheck check{{options.file, options.gpc}};
+    if (options.out) check.add_directory("--out", *options.out, app::fit_names(options.file.stem().string()));
+    return check.reason();
+}
+
 int fit_unguarded(const FitCommandOptions& options, std::FILE* out, std::FILE* errors)
 {
     const auto input = read(options.file, errors);
     if (!input) return exit_case_error;
+    if (const auto why = refused_output(options); !why.empty()) return refuse(why, errors);
     const auto distribution = distribution_of(*input, options);
     const auto weight =
         options.segment_weight ? options.segment_weight : segment_weight(*input, *distribution, errors);

@@ -1,16 +1,20 @@
 #include <CLI/CLI.hpp>
 
+#include <cstdio>
 #include <iostream>
 
 #include "cli/check_command.h"
 #include "cli/convert_command.h"
 #include "cli/fit_command.h"
+#include "cli/process.h"
 #include "cli/run_command.h"
 #include "cli/selfcheck_command.h"
 #include "cli/sweep_command.h"
 
-int main(int argc, char** argv)
-try {
+namespace {
+
+int run_program(int argc, char** argv)
+{
     CLI::App program{"Polymer properties of the streams of a case file", "polyprops"};
     program.set_version_flag("--version", POLYPROPS_VERSION);
     program.require_subcommand(1);
@@ -24,10 +28,20 @@ try {
     try {
         program.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return program.exit(error) == 0 ? cli::exit_success : cli::exit_usage;
+        status = program.exit(error) == 0 ? cli::exit_success : cli::exit_usage;
     }
     return status;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+try {
+    if (const auto missing = cli::prepare_process(); !missing.empty()) return cli::fail(missing, stderr);
+    const int status = run_program(argc, argv);
+    std::cout.flush();
+    return cli::checked_output(status);
 } catch (const std::exception& error) {
-    std::cerr << "polyprops: " << error.what() << '\n';
+    std::fprintf(stderr, "polyprops: %s\n", error.what());
     return cli::exit_case_error;
 }

@@ -1,8 +1,11 @@
 #include "cli/run_command.h"
 
+#include <fmt/format.h>
+
 #include <memory>
 
 #include "app/evaluation/evaluation.h"
+#include "app/io/output_check.h"
 #include "app/io/whole_file.h"
 #include "app/report/make_report.h"
 #include "app/report/output_files.h"
@@ -12,10 +15,30 @@ namespace cli {
 
 namespace {
 
+// Why a file cannot be written where the options say; empty when all can.
+std::string refused_output(const RunOptions& options, const app::Case& input)
+{
+    app::OutputCheck check{options.gpc ? std::vector{options.file, *options.gpc} : std::vector{options.file}};
+    if (options.export_gpc) check.add_file("--export-gpc", *options.export_gpc);
+    if (options.out)
+        check.add_directory("--out", *options.out, app::output_names(options.file.stem().string(), input));
+    return check.reason();
+}
+
+void write_directory(const std::filesystem::path& directory, const std::string& name,
+                     const std::vector<app::OutputFile>& files, std::FILE* errors)
+{
+    app::write_files(directory, files);
+    for (const auto& file : app::earlier_files(directory, name, files))
+        fmt::print(errors, "polyprops: {} is not of this run, but of an earlier one or of another case\n",
+                   file.string());
+}
+
 int run_unguarded(const RunOptions& options, std::FILE* out, std::FILE* errors)
 {
     const auto input = read(options.file, errors);
     if (!input) return exit_case_error;
+    if (const auto why = refused_output(options, *input); !why.empty()) return refuse(why, errors);
     std::optional<app::MeasuredCurve> measured;
     if (options.gpc) measured = app::read_measured_curve(*options.gpc, options.measured);
     const auto results = app::evaluate(
@@ -30,9 +53,11 @@ int run_unguarded(const RunOptions& options, std::FILE* out, std::FILE* errors)
             *options.export_gpc,
             app::format_measured_curve(
                 results.distributions[app::find_distribution(*input, options.distribution)]));
-    if (options.out)
-        app::write_files(*options.out, app::output_files(options.file.stem().string(), *input, report,
-                                                         results.library_output));
+    if (options.out) {
+        const auto name = options.file.stem().string();
+        write_directory(*options.out, name, app::output_files(name, *input, report, results.library_output),
+                        errors);
+    }
     return show(report, options.format, out, errors, options.strictness);
 }
 

@@ -7,6 +7,7 @@
 
 #include <stdexcept>
 
+#include "app/io/output_check.h"
 #include "cli/command.h"
 
 namespace cli {
@@ -15,6 +16,9 @@ namespace {
 
 int sweep_unguarded(const app::SweepOptions& options, std::FILE* errors)
 {
+    app::OutputCheck check{{options.file}};
+    check.add_file("--out", options.out);
+    if (!check.reason().empty()) return refuse(check.reason(), errors);
     const bool is_shown = ::isatty(::fileno(errors)) != 0;
     const auto outcome = app::sweep(options, [&](std::size_t done, std::size_t cases) {
         if (!is_shown) return;
@@ -22,9 +26,10 @@ int sweep_unguarded(const app::SweepOptions& options, std::FILE* errors)
         std::fflush(errors);
     });
     if (!outcome.is_complete()) {
-        fmt::print(errors,
-                   "polyprops: interrupted after {} of {} cases; the same command goes on from there ({})\n",
-                   outcome.done, outcome.cases, outcome.journal.string());
+        fmt::print(errors, "polyprops: interrupted after {} of {} cases; {}\n", outcome.done, outcome.cases,
+                   outcome.journal.empty()
+                       ? "nothing is kept, since the result is not a file"
+                       : fmt::format("the same command goes on from there ({})", outcome.journal.string()));
         return exit_interrupted;
     }
     if (outcome.failed == 0) return exit_success;

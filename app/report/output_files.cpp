@@ -3,8 +3,10 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <fstream>
 #include <stdexcept>
 
+#include "app/io/descriptor.h"
 #include "app/report/format.h"
 #include "app/report/result_numbers.h"
 
@@ -56,14 +58,31 @@ std::string wide_csv(const Table& table)
     return csv + '\n';
 }
 
+enum class CurveFile { calculated, measured };
+
+std::string curve_file(const std::string& name, const std::string& distribution, CurveFile curve)
+{
+    return fmt::format("{}.{}{}.csv", name, file_part(distribution),
+                       curve == CurveFile::measured ? ".gpc" : "");
+}
+
 void add_curves(const std::string& name, const Report& report, std::vector<OutputFile>& files)
 {
     for (const auto& section : report.sections)
         for (const auto& table : section.tables)
-            if (table.is_long && section.kind == "distribution")
-                files.push_back({fmt::format("{}.{}{}.csv", name, file_part(section.name),
-                                             table.key == "gpc_curve" ? ".gpc" : ""),
-                                 wide_csv(table)});
+            if (table.is_long && section.kind == "distribution") {
+                const auto curve = table.key == "gpc_curve" ? CurveFile::measured : CurveFile::calculated;
+                files.push_back({curve_file(name, section.name, curve), wide_csv(table)});
+            }
+}
+
+// Its first column is that of a table of curves.
+bool holds_curves(const std::filesystem::path& file)
+{
+    if (!std::filesystem::is_regular_file(file)) return false;
+    std::string heading(32, '\0');
+    std::ifstream{file}.read(heading.data(), static_cast<std::streamsize>(heading.size()));
+    return heading.starts_with("chain_length,") || heading.starts_with("molecular_weight,chain_length,");
 }
 
 void check_unique(const std::vector<OutputFile>& files)
@@ -96,6 +115,39 @@ std::vector<OutputFile> output_files(const std::string& name, const Case& input,
     add_curves(name, report, files);
     check_unique(files);
     return files;
+}
+
+std::vector<std::string> output_names(const std::string& name, const Case& input)
+{
+    std::vector<std::string> names;
+    for (const auto* ending : {".rpt", ".sum", ".csv", ".json", ".html"}) names.push_back(name + ending);
+    for (const auto& distribution : input.distributions)
+        for (const auto curve : {CurveFile::calculated, CurveFile::measured})
+            names.push_back(curve_file(name, distribution.name.id, curve));
+    return names;
+}
+
+std::vector<std::string> fit_names(const std::string& name)
+{
+    std::vector<std::string> names;
+    for (const auto* ending : {"txt", "csv", "json", "html", "curves.csv"})
+        names.push_back(fmt::format("{}.fit.{}", name, ending));
+    return names;
+}
+
+std::vector<std::filesystem::path> earlier_files(const std::filesystem::path& directory,
+                                                 const std::string& name,
+                                                 const std::vector<OutputFile>& files)
+{
+    auto written = fit_names(name);
+    for (const auto& file : files) written.push_back(file.name);
+    std::vector<std::filesystem::path> earlier;
+    for (const auto& found : names_in(directory))
+        if (found.starts_with(name + ".") && found.ends_with(".csv") &&
+            std::ranges::find(written, found) == written.end() && holds_curves(directory / found))
+            earlier.push_back(directory / found);
+    std::ranges::sort(earlier);
+    return earlier;
 }
 
 std::vector<OutputFile> fit_files(const std::string& name, const Report& report)

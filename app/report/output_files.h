@@ -1,6 +1,7 @@
 // The files of a run.
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,16 @@ std::string report_file(const Case& input, const Report& report, const LibraryOu
 // distribution. Throws std::runtime_error when two files would have the same name.
 std::vector<OutputFile> output_files(const std::string& name, const Case& input, const Report& report,
                                      const LibraryOutput& library_output);
+
+// The names of all files that a run may write, and of those that a fit writes.
+std::vector<std::string> output_names(const std::string& name, const Case& input);
+std::vector<std::string> fit_names(const std::string& name);
+
+// The files of a directory that look like curves of an earlier run of the case, NAME.DISTRIBUTION.csv, and
+// are not among `files`: the distribution has gone or has another name.
+std::vector<std::filesystem::path> earlier_files(const std::filesystem::path& directory,
+                                                 const std::string& name,
+                                                 const std::vector<OutputFile>& files);
 
 // NAME.fit.txt, .csv, .json, .html, and NAME.fit.curves.csv with the curves of the sites.
 std::vector<OutputFile> fit_files(const std::string& name, const Report& report);

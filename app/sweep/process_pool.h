@@ -20,7 +20,9 @@ struct PoolOptions {
 };
 
 // Calls `work` for every task in a child process and `done` in this one, in the order in which they end.
-// Throws std::system_error when no process can be made, and what `done` throws; no child is left behind.
+// Tasks whose process was cut off run once more, at the end and one at a time. Fewer run at a time where
+// descriptors, processes or memory do not suffice; throws std::system_error where they do not suffice for
+// one, and what `done` throws; no child is left behind.
 void run_tasks(const std::vector<std::size_t>& tasks, const PoolOptions& options,
                const std::function<std::string(std::size_t)>& work,
                const std::function<void(const TaskOutcome&)>& done);

@@ -4,8 +4,9 @@
 #include <fmt/ranges.h>
 
 #include <algorithm>
+#include <array>
 #include <csignal>
-#include <cstdint>
+#include <new>
 #include <stdexcept>
 #include <thread>
 #include <unordered_map>
@@ -15,6 +16,7 @@
 #include "app/io/file_contents.h"
 #include "app/report/make_report.h"
 #include "app/report/result_numbers.h"
+#include "app/sweep/checksum.h"
 #include "app/sweep/process_pool.h"
 #include "app/sweep/sweep_grid.h"
 #include "app/sweep/sweep_journal.h"
@@ -33,19 +35,18 @@ public:
         is_interrupted = 0;
         struct sigaction action {};
         action.sa_handler = [](int) { is_interrupted = 1; };
-        ::sigaction(SIGINT, &action, &before_[0]);
-        ::sigaction(SIGTERM, &action, &before_[1]);
+        for (std::size_t i = 0; i < signals.size(); ++i) ::sigaction(signals[i], &action, &before_[i]);
     }
     Interruption(const Interruption&) = delete;
     Interruption& operator=(const Interruption&) = delete;
     ~Interruption()
     {
-        ::sigaction(SIGINT, &before_[0], nullptr);
-        ::sigaction(SIGTERM, &before_[1], nullptr);
+        for (std::size_t i = 0; i < signals.size(); ++i) ::sigaction(signals[i], &before_[i], nullptr);
     }
 
 private:
-    struct sigaction before_[2];
+    static constexpr std::array signals{SIGHUP, SIGINT, SIGTERM};
+    std::array<struct sigaction, signals.size()> before_;
 };
 
 std::string one_line(const std::vector<std::string>& lines)
@@ -97,7 +98,7 @@ public:
 
     SweepOutcome run(const SweepProgress& progress)
     {
-        SweepJournal journal{options_.out, signature(), header()};
+        SweepJournal journal{options_.out, identity(), grid_.size()};
         std::vector<std::size_t> missing;
         for (std::size_t number = 1; number <= grid_.size(); ++number)
             if (!journal.rows().contains(number)) missing.push_back(number);
@@ -139,6 +140,8 @@ private:
             std::string columns;
             for (const auto& n : swept_numbers(made)) columns += n.key() + "\n";
             return columns;
+        } catch (const std::bad_alloc& /*error*/) {
+            throw;
         } catch (const std::exception& error) {
             return std::string{"!"} + error.what();
         }
@@ -195,17 +198,17 @@ private:
             auto line = lead(number);
             for (const auto& value : values) line += "," + value;
             return line + "," + csv_field(one_line(errors));
+        } catch (const std::bad_alloc& /*error*/) {
+            throw;  // not a property of the case
         } catch (const std::exception& error) {
             return failed_row(number, one_line({error.what()}));
         }
     }
 
-    // Names this sweep of this very case: FNV-1a over its text.
-    std::string signature() const
+    // Names this sweep of this very case, with these columns.
+    std::string identity() const
     {
-        std::uint64_t hash = 14695981039346656037U;
-        for (const char c : text_) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;
-        std::string line = fmt::format("# sweep of {:016x}", hash);
+        auto line = fmt::format("{:016x} {:016x}", checksum(text_), checksum(header()));
         for (const auto& range : grid_.ranges()) line += " " + range.text();
         return line;
     }
@@ -214,7 +217,7 @@ private:
     {
         SweepOutcome outcome{grid_.size(), journal.rows().size(), 0, journal.file()};
         if (!outcome.is_complete()) return outcome;
-        journal.finish();
+        journal.finish(header());
         const auto has_failed = [](const auto& row) { return !row.second.ends_with(','); };
         outcome.failed = static_cast<std::size_t>(std::ranges::count_if(journal.rows(), has_failed));
         return outcome;

@@ -9,6 +9,7 @@
 #include "app/io/file_contents.h"
 #include "app/sweep/process_pool.h"
 #include "app/sweep/sweep_grid.h"
+#include "app/sweep/sweep_journal.h"
 #include "cli/program.h"
 
 namespace {
@@ -102,41 +103,84 @@ TEST_F(SweepFiles, AFailingCaseHasItsErrorInItsRow)
     EXPECT_EQ(all[2].at("error"), "");
 }
 
-TEST_F(SweepFiles, GoesOnWhereItWasInterrupted)
+TEST_F(SweepFiles, GoesOnFromSoundRowsOnly)
 {
     options.sets = {"streams.S.attributes.P.ZMOM=1:4:4"};
     // The last step fails, as if the disk were full: all rows are kept.
     std::filesystem::create_directories(options.out);
-    EXPECT_EQ(sweep().status, cli::exit_case_error);
+    EXPECT_THROW(app::sweep(options, [](std::size_t, std::size_t) {}), std::runtime_error);
     std::filesystem::remove(options.out);
-    auto journal = app::file_contents(partial);
-    const auto kept = journal.find("\n2,") + 1;
-    // Only the row of case 2 is left, marked to be known again, and the torn row of another.
-    const auto head = journal.substr(0, journal.find('\n', journal.find('\n') + 1) + 1);
-    const auto row = journal.substr(kept, journal.find('\n', kept) - kept);
-    std::ofstream{partial} << head << row << "kept before\n4,4,torn";
-    const auto seen = sweep();
-    EXPECT_EQ(seen.errors, "polyprops: 1 of 4 cases failed; their rows hold the error\n");
-    const auto all = rows();
-    ASSERT_EQ(all.size(), 4u);
-    EXPECT_EQ(all[1].at("error"), "kept before");
-    EXPECT_EQ(all[3].at("streams.S.chain_averages.P.mn"), "300");
-    EXPECT_EQ(all[3].at("error"), "");
+    std::vector<std::string> lines;
+    std::istringstream journal{app::file_contents(partial)};
+    for (std::string line; std::getline(journal, line);) lines.push_back(line + "\n");
+    ASSERT_EQ(lines.size(), 5u);
+    EXPECT_EQ(sweep().status, 0);
+    const auto table = app::file_contents(options.out);
+
+    std::string all, flipped = lines[2], head = lines[0];
+    for (const auto& line : lines) all += line;
+    flipped[flipped.size() - 3] ^= 1;
+    head[2] ^= 1;
+    const auto of = [&](const std::string& row) { return lines[0] + row; };
+    const std::pair<const char*, std::string> rows[] = {
+        {"nothing", ""},
+        {"a torn head", lines[0].substr(0, 20)},
+        {"a damaged head", head + lines[1]},
+        {"zeros", std::string(4096, '\0')},
+        {"zeros behind the head", of(std::string(4096, '\0'))},
+        {"zeros behind rows", all + std::string(4096, '\0')},
+        {"a torn row", of(lines[1] + lines[2].substr(0, 30))},
+        {"a flipped bit", of(flipped + lines[3])},
+        {"a row twice", all + lines[1]},
+        {"a row without its checksum", of("2,2,forged\n")},
+        {"another program's text", of("log: started\n\n\r\n") + lines[4]},
+    };
+    for (const auto& [name, text] : rows) {
+        SCOPED_TRACE(name);
+        std::filesystem::remove(options.out);
+        std::ofstream{partial} << text;
+        const auto seen = sweep();
+        EXPECT_EQ(seen.status, 0) << seen.errors;
+        EXPECT_EQ(app::file_contents(options.out), table);
+        EXPECT_FALSE(std::filesystem::exists(partial));
+    }
+}
+
+TEST_F(SweepFiles, KeepsTheRowsOfItsGridForOneProcess)
+{
+    app::SweepJournal{options.out, "sweep", 3}.add(3, "3,kept");
+    {
+        const app::SweepJournal journal{options.out, "sweep", 3};
+        EXPECT_EQ(journal.rows(), (std::map<std::size_t, std::string>{{3, "3,kept"}}));
+        const auto other = ::fork();
+        if (other == 0) {
+            try {
+                const app::SweepJournal second{options.out, "sweep", 3};
+            } catch (const std::runtime_error&) {
+                ::_exit(7);
+            }
+            ::_exit(0);
+        }
+        int status = 0;
+        ::waitpid(other, &status, 0);
+        EXPECT_EQ(WEXITSTATUS(status), 7) << "two sweeps at once";
+    }
+    EXPECT_TRUE(app::SweepJournal(options.out, "sweep", 2).rows().empty()) << "a case outside the grid";
 }
 
 TEST_F(SweepFiles, AnInterruptionEndsItWithTheRowsThatItHas)
 {
     options.sets = {"streams.S.attributes.P.ZMOM=1:2:100000"};
     const auto user = ::fork();
-    if (user == 0) {  // waits for a row behind the two lines of the head
-        while (std::ranges::count(support::content(partial), '\n') < 3) ::usleep(1000);
+    if (user == 0) {  // waits for a row behind the head
+        while (std::ranges::count(support::content(partial), '\n') < 2) ::usleep(1000);
         ::kill(::getppid(), SIGINT);
         ::_exit(0);
     }
     const auto seen = sweep();
     ::waitpid(user, nullptr, 0);
     EXPECT_EQ(seen.status, cli::exit_interrupted);
-    const auto kept = std::ranges::count(support::content(partial), '\n') - 2;
+    const auto kept = std::ranges::count(support::content(partial), '\n') - 1;
     EXPECT_EQ(seen.errors, "polyprops: interrupted after " + std::to_string(kept) +
                                " of 100000 cases; the same command goes on from there (" + partial.string() +
                                ")\n");
@@ -145,10 +189,13 @@ TEST_F(SweepFiles, AnInterruptionEndsItWithTheRowsThatItHas)
 
 TEST_F(SweepFiles, RefusesTheRowsOfAnotherSweepAndKeysThatLeadNowhere)
 {
-    std::ofstream{partial} << "# sweep of something else\n1,2\n";
+    {
+        app::SweepJournal{options.out, "something else", 1}.add(1, "1,2");
+    }
+    const auto other = app::file_contents(partial);
     options.sets = {"streams.S.attributes.P.ZMOM=1:4:4"};
     EXPECT_NE(sweep().errors.find("s.csv.partial: belongs to another sweep"), std::string::npos);
-    EXPECT_EQ(app::file_contents(partial), "# sweep of something else\n1,2\n");
+    EXPECT_EQ(app::file_contents(partial), other);
     const std::pair<std::string, std::string> rows[] = {
         {"streams.S.flows.Q", "; did you mean \"streams.S.flows.P\"?"},
         {"streams.S.attributes.P.SFLOW[2]", "; did you mean \"streams.S.attributes.P.SFLOW[1]\"?"},
@@ -177,21 +224,33 @@ TEST(SweepRange, ReadsKeyAndValues)
     EXPECT_THROW(app::SweepGrid({{"a", 0, 1, 1u << 31}, {"b", 0, 1, 1u << 31}}), std::invalid_argument);
 }
 
-TEST(ProcessPool, OutlivesTasksThatCrash)
+// Task 5 ends early when it runs for the first time only.
+TEST(ProcessPool, RunsTasksThatEndEarlyOnceMore)
 {
-    const auto work = [](std::size_t task) -> std::string {
-        if (task == 2) std::raise(SIGKILL);
+    const auto directory = support::scratch() / "polyprops_pool";
+    std::filesystem::create_directories(directory);
+    const auto work = [&](std::size_t task) -> std::string {
+        std::ofstream{directory / std::to_string(task), std::ios::app} << '.';
+        const auto runs = std::filesystem::file_size(directory / std::to_string(task));
+        if (task == 2 || (task == 5 && runs == 1)) std::raise(SIGKILL);
         if (task == 3) ::_exit(5);
+        if (task == 4) throw std::bad_alloc{};
         return std::string(100000 * task, 'x');
     };
     std::map<std::size_t, std::string> seen;
-    app::run_tasks({1, 2, 3, 4}, {2, [] { return false; }}, work, [&](const app::TaskOutcome& outcome) {
+    app::run_tasks({1, 2, 3, 4, 5}, {2, [] { return false; }}, work, [&](const app::TaskOutcome& outcome) {
         seen[outcome.task] = outcome.result ? std::to_string(outcome.result->size()) : outcome.why;
     });
-    EXPECT_EQ(seen[1], "100000");
-    EXPECT_EQ(seen[2], "the process of the case was ended by a signal: Killed");
-    EXPECT_EQ(seen[3], "the process of the case ended with status 5");
-    EXPECT_EQ(seen[4], "400000");
+    const std::map<std::size_t, std::string> expected{
+        {1, "100000"},
+        {2, "the process of the case was ended by a signal: Killed"},
+        {3, "the process of the case ended with status 5"},
+        {4, "the process of the case ran out of memory"},
+        {5, "500000"}};
+    EXPECT_EQ(seen, expected);
+    for (const auto& [task, runs] : {std::pair{1, 1u}, {2, 2u}, {3, 2u}, {4, 2u}, {5, 2u}})
+        EXPECT_EQ(std::filesystem::file_size(directory / std::to_string(task)), runs) << task;
+    std::filesystem::remove_all(directory);
 }
 
 TEST(ProcessPool, StartsNothingOnceItIsStopped)

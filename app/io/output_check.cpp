@@ -1,0 +1,60 @@
+#include "app/io/output_check.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <system_error>
+
+#include "app/io/whole_file.h"
+
+namespace app {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// Device and inode; a terminal may be read and written.
+bool is_same_file(const fs::path& a, const fs::path& b)
+{
+    std::error_code ignored;
+    return fs::is_regular_file(a, ignored) && fs::equivalent(a, b, ignored);
+}
+
+bool is_existing_directory(const fs::path& path)
+{
+    std::error_code ignored;
+    return fs::is_directory(path, ignored);
+}
+
+}  // namespace
+
+void OutputCheck::refuse(std::string reason)
+{
+    if (reason_.empty()) reason_ = std::move(reason);
+}
+
+void OutputCheck::add_file(const std::string& option, const fs::path& file)
+{
+    if (is_existing_directory(file))
+        return refuse(fmt::format("{}: {} is a directory; expected a file", option, file.string()));
+    for (const auto& input : inputs_)
+        if (is_same_file(file, input))
+            refuse(fmt::format("{}: {} is the input file {}; expected another output", option, file.string(),
+                               input.string()));
+    if (is_stream(file)) return;
+    const auto place = fs::weakly_canonical(fs::absolute(followed(file)));
+    if (std::ranges::find(outputs_, place) != outputs_.end())
+        refuse(fmt::format("{}: {} is another output as well; expected two files", option, file.string()));
+    outputs_.push_back(place);
+}
+
+void OutputCheck::add_directory(const std::string& option, const fs::path& directory,
+                                const std::vector<std::string>& names)
+{
+    std::error_code ignored;
+    if (fs::exists(directory, ignored) && !is_existing_directory(directory))
+        return refuse(fmt::format("{}: {} is a file; expected a directory", option, directory.string()));
+    for (const auto& name : names) add_file(option, directory / name);
+}
+
+}  // namespace app

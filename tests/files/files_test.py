@@ -1,0 +1,230 @@
+"""Where the program writes, and what it does with little room: files_test.py POLYPROPS"""
+
+import os
+import resource
+import signal
+import stat
+import subprocess
+import sys
+import tempfile
+import threading
+import unittest
+from pathlib import Path
+
+PROGRAM = sys.argv[1]
+
+CASE = """
+[components]
+A-R = { class = "segment", molecular_weight = 100 }
+P = { class = "polymer", molecular_weight = 100 }
+[polymers]
+segments = [{ id = "A-R", type = "repeat" }]
+polymers = ["P"]
+attributes = [{ component = "P", names = ["ZMOM", "SMOM", "SFLOW"] }]
+[streams.S]
+flows = { P = 12 }
+attributes.P = { ZMOM = 1, SMOM = 300, SFLOW = [12] }
+[distributions.D]
+points = 100
+longest_chain = 100000
+segment_weight = 100
+sites = [{ tau = 0.001, amount = 1 }]
+"""
+SET = ["--set", "streams.S.flows.P=1:6:6"]
+
+
+class Files(unittest.TestCase):
+    def setUp(self):
+        scratch = tempfile.TemporaryDirectory()
+        self.addCleanup(scratch.cleanup)
+        self.folder = Path(scratch.name)
+        (self.folder / "case.toml").write_text(CASE, encoding="utf-8")
+        self.run_program("run", "case.toml", "--export-gpc", "curve.csv")
+
+    def run_program(self, *arguments, status=0, **options):
+        options = {"stdout": subprocess.PIPE, "stderr": subprocess.PIPE} | options
+        outcome = subprocess.run([PROGRAM, *arguments], cwd=self.folder, text=True, timeout=60, check=False, **options)
+        self.assertEqual(outcome.returncode, status, f"{arguments}: {outcome.stderr}")
+        return outcome
+
+    def text(self, name):
+        return (self.folder / name).read_text(encoding="utf-8")
+
+    def names(self, name=""):
+        return sorted(path.name for path in (self.folder / name).iterdir())
+
+    def test_inputs_and_directories_are_never_overwritten(self):
+        os.link(self.folder / "curve.csv", self.folder / "second_name")
+        (self.folder / "linked").symlink_to("case.toml")
+        (self.folder / "set").mkdir()
+        (self.folder / "set/case.D.csv").symlink_to("../curve.csv")
+        (self.folder / "set/case.fit.json").symlink_to("../curve.csv")
+        (self.folder / "case.csv").write_text(self.text("curve.csv"), encoding="utf-8")
+        before = {name: self.text(name) for name in ("case.toml", "curve.csv", "case.csv")}
+        gpc, fit = ("--gpc", "curve.csv"), ("fit", "case.toml", "--sites", "1")
+        refused = [
+            (("run", "case.toml", "--export-gpc", "case.toml"), "is the input file case.toml"),
+            (("run", "case.toml", "--export-gpc", "linked"), "is the input file case.toml"),
+            (("run", "case.toml", *gpc, "--export-gpc", "second_name"), "is the input file curve.csv"),
+            (("run", "case.toml", "--export-gpc", "set"), "set is a directory; expected a file"),
+            (("run", "case.toml", "--gpc", "case.csv", "--out", "."), "./case.csv is the input file case.csv"),
+            (("run", "case.toml", *gpc, "--out", "set"), "set/case.D.csv is the input file curve.csv"),
+            (("run", "case.toml", "--out", "case.toml"), "case.toml is a file; expected a directory"),
+            (("run", "case.toml", "--out", "new", "--export-gpc", "new/case.D.csv"), "is another output as well"),
+            ((*fit, *gpc, "--out", "set"), "set/case.fit.json is the input file curve.csv"),
+            (("sweep", "case.toml", *SET, "--out", "case.toml"), "is the input file case.toml"),
+            (("sweep", "case.toml", *SET, "--out", "set"), "set is a directory; expected a file"),
+        ]
+        names = self.names()
+        for arguments, reason in refused:
+            with self.subTest(arguments):
+                outcome = self.run_program(*arguments, status=2)
+                self.assertIn(reason, outcome.stderr)
+                self.assertEqual(outcome.stdout, "")
+                self.assertEqual({name: self.text(name) for name in before}, before)
+                self.assertEqual(self.names(), names)
+
+    def test_links_are_followed_and_modes_kept(self):
+        curve = self.text("curve.csv")
+        (self.folder / "out").mkdir(mode=0o750)
+        (self.folder / "target").write_text("before", encoding="utf-8")
+        for link, target in (("link", "target"), ("hanging", "made"), ("out/case.json", "../json"),
+                             ("linked_out", "out")):
+            (self.folder / link).symlink_to(target)
+        (self.folder / "out/case.csv").write_text("before", encoding="utf-8")
+        for name in ("target", "out/case.csv"):
+            (self.folder / name).chmod(0o604)
+        for name in ("link", "hanging"):
+            self.run_program("run", "case.toml", "--export-gpc", name, "--out", "linked_out")
+            self.assertTrue((self.folder / name).is_symlink())
+            self.assertEqual(self.text(name), curve)
+        self.assertEqual(self.text("made"), curve)
+        self.assertIn('"streams"', self.text("json"))
+        for name, mode in (("target", 0o604), ("out/case.csv", 0o604), ("out", 0o750)):
+            self.assertEqual(stat.S_IMODE((self.folder / name).stat().st_mode), mode, name)
+        self.assertNotEqual(self.text("out/case.csv"), "before")
+        for name in ("linked_out", "out/case.json"):
+            self.assertTrue((self.folder / name).is_symlink())
+
+    def test_pipes_and_devices_receive_the_content(self):
+        curve = self.text("curve.csv")
+        os.mkfifo(self.folder / "pipe")
+        received = []
+        reader = threading.Thread(target=lambda: received.append(self.text("pipe")))
+        reader.start()
+        self.run_program("run", "case.toml", "--export-gpc", "pipe")
+        reader.join()
+        self.assertEqual(received, [curve])
+        self.assertTrue((self.folder / "pipe").is_fifo())
+        with (self.folder / "both").open("w", encoding="utf-8") as both:
+            self.run_program("run", "case.toml", "--export-gpc", "/dev/stdout", stdout=both)
+        self.assertEqual(self.text("both"), curve + self.run_program("run", "case.toml").stdout)
+        table = self.run_program("sweep", "case.toml", *SET, "--out", "/dev/stdout").stdout
+        self.run_program("sweep", "case.toml", *SET, "--out", "table.csv")
+        self.assertEqual(table, self.text("table.csv"))
+        self.assertFalse(Path("/dev/stdout.partial").exists())
+        self.assertIn("No space left", self.run_program("run", "case.toml", "--export-gpc", "/dev/full", status=1).stderr)
+
+    def test_other_files_of_the_directory_stay_and_old_curves_are_named(self):
+        for directory, subdirectory in (("flat", None), ("deep", "notes")):
+            with self.subTest(directory):
+                out = self.folder / directory
+                out.mkdir()
+                if subdirectory:
+                    (out / subdirectory).mkdir()
+                    (out / subdirectory / "n.txt").write_text("mine", encoding="utf-8")
+                (out / "case.notes.csv").write_text("mine", encoding="utf-8")
+                (out / "hanging").symlink_to("nowhere")
+                (self.folder / "case.toml").write_text(CASE, encoding="utf-8")
+                self.assertEqual(self.run_program("run", "case.toml", "--out", directory).stderr, "")
+                (self.folder / "case.toml").write_text(CASE.replace("distributions.D", "distributions.E"),
+                                                       encoding="utf-8")
+                outcome = self.run_program("run", "case.toml", "--out", directory)
+                self.assertEqual(outcome.stderr, f"polyprops: {directory}/case.D.csv is not of this run, but of an "
+                                                 "earlier one or of another case\n")
+                self.assertEqual(self.text(f"{directory}/case.notes.csv"), "mine")
+                self.assertEqual(self.names(directory), sorted(
+                    ["case.D.csv", "case.E.csv", "case.csv", "case.html", "case.json", "case.notes.csv", "case.rpt",
+                     "case.sum", "hanging"] + ([subdirectory] if subdirectory else [])))
+
+    def test_runs_at_the_same_time_lose_nothing(self):
+        names = [f"c{number}" for number in range(8)]
+        for name in names:
+            (self.folder / f"{name}.toml").write_text(CASE, encoding="utf-8")
+        running = [subprocess.Popen([PROGRAM, "run", f"{name}.toml", "--out", "out"], cwd=self.folder,
+                                    stdout=subprocess.DEVNULL) for name in names]
+        self.assertEqual([process.wait() for process in running], [0] * len(names))
+        endings = ("D.csv", "csv", "html", "json", "rpt", "sum")
+        self.assertEqual(self.names("out"), sorted(f"{name}.{ending}" for name in names for ending in endings))
+        self.assertEqual([name for name in self.names() if name.startswith(".")], [])
+
+    def test_a_failed_write_shows_in_the_status(self):
+        commands = [("--help",), ("--version",), ("run", "--help"), ("selfcheck",), ("run", "case.toml"),
+                    ("check", "case.toml"), ("fit", "case.toml", "--gpc", "curve.csv", "--sites", "1")]
+        reading, writing = os.pipe()
+        os.close(reading)
+        with open("/dev/full", "w", encoding="utf-8") as full, os.fdopen(writing, "w") as closed_pipe:
+            for out in (full, closed_pipe):
+                for arguments in commands:
+                    with self.subTest(arguments, out=out):
+                        self.assertIn("standard output cannot be written",
+                                      self.run_program(*arguments, stdout=out, status=1).stderr)
+
+    def test_closed_descriptors_put_no_message_into_a_file(self):
+        self.run_program("run", "case.toml", "--out", "expected")
+        warned = CASE.replace("points = 100\n", "points = 4\n")
+
+        def close_all():
+            for number in range(3):
+                os.close(number)
+
+        for text in (CASE, warned):
+            (self.folder / "case.toml").write_text(text, encoding="utf-8")
+            self.run_program("run", "case.toml", "--out", "expected")
+            for arguments in (("run", "case.toml", "--out", "out"),
+                              ("sweep", "case.toml", *SET, "--out", "table.csv")):
+                outcome = subprocess.run([PROGRAM, *arguments], cwd=self.folder, preexec_fn=close_all, check=False)
+                self.assertEqual(outcome.returncode, 0)
+            self.assertEqual(self.text("case.toml"), text)
+            for name in self.names("expected"):
+                self.assertEqual(self.text(f"out/{name}"), self.text(f"expected/{name}"), name)
+            self.assertEqual(len(self.text("table.csv").splitlines()), 7)
+
+    def test_few_descriptors_mean_fewer_processes_or_a_message(self):
+        self.run_program("sweep", "case.toml", *SET, "--out", "expected.csv")
+        complete = 0
+        for most in range(4, 14):
+            limit = lambda most=most: resource.setrlimit(resource.RLIMIT_NOFILE, (most, most))
+            outcome = subprocess.run([PROGRAM, "sweep", "case.toml", *SET, "--out", "s.csv", "--processes", "6"],
+                                     cwd=self.folder, preexec_fn=limit, capture_output=True, text=True, check=False)
+            complete += outcome.returncode == 0
+            if outcome.returncode != 0:
+                self.assertEqual(outcome.returncode, 1, f"{most} descriptors")
+                self.assertIn("Too many open files", outcome.stderr)
+            else:
+                self.assertEqual(self.text("s.csv"), self.text("expected.csv"))
+        self.assertGreater(complete, 4)
+
+    def test_a_small_stack_is_an_error(self):
+        limit = lambda: resource.setrlimit(resource.RLIMIT_STACK, (128 * 1024, 128 * 1024))
+        self.assertIn("the stack is limited to 128 KiB; expected at least 1024 KiB",
+                      self.run_program("run", "case.toml", preexec_fn=limit, status=1).stderr)
+
+    def test_a_file_size_limit_is_an_error_of_writing(self):
+        limit = lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (4096, 4096))
+        self.assertIn("File too large",
+                      self.run_program("run", "case.toml", "--out", "out", preexec_fn=limit, status=1).stderr)
+        self.assertEqual(self.names(), ["case.toml", "curve.csv"])
+
+    def test_a_hangup_ends_a_sweep_as_an_interruption_does(self):
+        process = subprocess.Popen([PROGRAM, "sweep", "case.toml", "--set", "streams.S.flows.P=1:9:100000", "--out",
+                                    "s.csv"], cwd=self.folder, stderr=subprocess.PIPE, text=True)
+        while not (self.folder / "s.csv.partial").exists():
+            self.assertIsNone(process.poll())
+        process.send_signal(signal.SIGHUP)
+        self.assertIn("the same command goes on from there", process.communicate()[1])
+        self.assertEqual(process.returncode, 130)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1] + sys.argv[2:])
