@@ -4,8 +4,8 @@
     scripts/check_exports.py build/release/src/libpolyprops.so
     scripts/check_exports.py build/release/app/libpolyprops-case.so --case-header include/polyprops/case.h
 
-With the header of the case layer the file defines its functions too. It contains its host, and may need the run-time
-libraries of C++.
+It must not be able to end its host. With the header of the case layer the file defines its functions too; it contains its
+host, and may need the run-time libraries of C++.
 """
 
 import argparse
@@ -22,6 +22,9 @@ RUN_TIME_LIBRARIES = r"libstdc\+\+\.so\.6|libgcc_s\.so\.1"
 # Weak references that the compiler's start files and its static run-time library leave in a shared object.
 START_FILES = {"__gmon_start__", "__cxa_finalize", "__cxa_pure_virtual", "_ITM_deregisterTMCloneTable",
                "_ITM_registerTMCloneTable"}
+# What a library must not do to its host: end it, or write beyond a buffer.
+REFUSED = {"abort", "exit", "_exit", "quick_exit", "raise", "__assert_fail", "sprintf", "vsprintf", "strcpy",
+           "strcat"}
 
 
 def run(*command):
@@ -59,8 +62,10 @@ def export_faults(built, names):
         yield f"{built}: {name} is exported but is not declared"
 
 
-def import_faults(built, host, versions):
+def import_faults(built, host, versions, refused):
     for name, version in dynamic_symbols(built, "--undefined-only"):
+        if name in refused:
+            yield f"{built}: needs {name}, which a library must not call"
         from_system = version.startswith(versions) or (not version and name in START_FILES)
         if name not in host and not from_system:
             shown = f"{name}@{version}" if version else name
@@ -79,8 +84,9 @@ def main(arguments=None):
     parser.add_argument("--table", type=Path, default=ROOT / "src/exports/routines.toml")
     parser.add_argument("--host-header", type=Path, default=ROOT / "include/polyprops/host.h")
     parser.add_argument("--case-header", type=Path)
+    parser.add_argument("--range-checks", action="store_true", help="a debug build, whose range checks end the process")
     options = parser.parse_args(arguments)
-    host, versions, libraries = set(), ("GLIBC_",), SYSTEM_LIBRARIES
+    host, versions, libraries, refused = set(), ("GLIBC_",), SYSTEM_LIBRARIES, set()
     try:
         names = {routine.name for routine in table.read(options.table)}
         if options.case_header:
@@ -88,8 +94,8 @@ def main(arguments=None):
             versions += ("GLIBCXX_", "CXXABI_", "GCC_")
             libraries += "|" + RUN_TIME_LIBRARIES
         else:
-            host = host_names(options.host_header)
-        faults = [*export_faults(options.built, names), *import_faults(options.built, host, versions),
+            host, refused = host_names(options.host_header), set() if options.range_checks else REFUSED
+        faults = [*export_faults(options.built, names), *import_faults(options.built, host, versions, refused),
                   *library_faults(options.built, libraries)]
     except (OSError, table.TableError) as error:
         faults = [str(error)]

@@ -67,7 +67,7 @@ void fill_row(const MakeUp& make_up, Component row, const ComponentList& segment
     Real total = 0.0;
     for (Int m = 1; m <= segments.count(); ++m) {
         const Real value = amount(m);
-        if (!(value > 0.0 && value < missing_value_bound())) continue;
+        if (!above(value, 0.0) || !below(value, missing_value_bound())) continue;
         make_up.segments.segment_index(row, ++count) = segments(m).index;
         make_up.amounts(row, segments(m)) = value;
         total += value;

@@ -24,7 +24,7 @@ public:
     SegmentBasisList(const ComponentList& segments, Int* components, Real* amounts)
         : segments_(segments), components_(components), amounts_(amounts)
     {
-        for (Int k = 1; k <= noted(); ++k) place(k) = unknown;
+        std::fill_n(places_.begin(), noted(), unknown);
     }
 
     Int count() const { return count_; }
@@ -125,7 +125,7 @@ void list_from_counts(const SegmentCounts& counts, OwnAmount own, const Componen
         }
         for (Int k = 1; k <= counts.segments.count(); ++k) {
             const Real count = counts.matrix(c, counts.segments(k));
-            if (count > 0.0) list.add_segment(k, amount * count);
+            if (above(count, 0.0)) list.add_segment(k, amount * count);
         }
     }
 }
@@ -149,7 +149,7 @@ WeightedProperty property_of_member(const SegmentCounts& counts, const Component
         }
         for (Int r = 1; r <= repeats; ++r) {
             const Real weight = counts.matrix(c, member);
-            if (!(weight > 0.0)) break;
+            if (!above(weight, 0.0)) break;
             property.sum += properties(i) * weight;
             property.weight += weight;
         }

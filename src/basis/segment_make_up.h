@@ -16,7 +16,7 @@ void visit_polymer_segments(Int segment_count, const Species& polymer, Visit vis
     const Real chains = polymer.attribute(AttributeName::zmom).value();
     const Attribute flows = polymer.attribute(AttributeName::sflow);
     for (Int m = 1; m <= segment_count; ++m)
-        if (const Real flow = flows(m); flow > 0.0) visit(m, chains > 0.0 ? flow / chains : 1.0);
+        if (const Real flow = flows(m); above(flow, 0.0)) visit(m, above(chains, 0.0) ? flow / chains : 1.0);
 }
 
 // The make-up in the oligomer list, column after column when the component is there more than once.
@@ -26,7 +26,7 @@ void visit_oligomer_segments(Int segment_count, const OligomerTable& oligomers, 
     for (Int e = 1; e <= oligomers.count(); ++e) {
         if (oligomers.list()(e) != c) continue;
         for (Int m = 1; m <= segment_count; ++m)
-            if (const Real count = oligomers.segments(m, e); count > 0.0) visit(m, count);
+            if (const Real count = oligomers.segments(m, e); above(count, 0.0)) visit(m, count);
     }
 }
 

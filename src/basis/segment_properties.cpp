@@ -42,7 +42,8 @@ Real polymer_mean(const ComponentList& segments, const Attribute& flows, Propert
 {
     const auto property = [&](Int m) { return properties(segments(m)); };
     const Real total = sum_over(segments, [&](Int m) { return is_missing(flows(m)) ? 0.0 : flows(m); });
-    if (!(total > zero_bound())) return sum_over(segments, property) / static_cast<Real>(segments.count());
+    if (!above(total, zero_bound()))
+        return sum_over(segments, property) / static_cast<Real>(segments.count());
     return sum_over(segments, [&](Int m) {
         const Real flow = is_missing(flows(m)) ? equal_share(segments) : flows(m);
         return flow * property(m) / total;
@@ -94,12 +95,11 @@ Real polymer_weighted_mean(const Weighting& weighting, const Species& polymer)
     const Attribute flows = polymer.attribute(AttributeName::sflow);
     const auto flow = [&](Int m) { return is_missing(flows(m)) ? equal_share(segments) : flows(m); };
     const Real total_flow = sum_over(segments, flow);
-    if (total_flow > zero_bound()) return weighting.mean([&](Int m) { return flow(m) / total_flow; });
+    if (above(total_flow, zero_bound())) return weighting.mean([&](Int m) { return flow(m) / total_flow; });
 
     const Attribute fractions = polymer.attribute(AttributeName::sfrac);
     const Real total = fractions.sum(segments.count());
-    if (total > zero_bound() && total < missing_value_bound())
-        return weighting.mean([&](Int m) { return fractions(m) / total; });
+    if (is_between_bounds(total)) return weighting.mean([&](Int m) { return fractions(m) / total; });
     return weighting.mean([&](Int) { return equal_share(segments); });
 }
 

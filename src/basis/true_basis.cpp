@@ -6,8 +6,6 @@
 //
 // Components that are not polymers or oligomers count the same on both bases. The treatment of a vanishing
 // sum differs on purpose: exactly 0 or the zero bound, raw values or zeros.
-#include <cmath>
-
 #include "basis/true_amount.h"
 #include "chain/molecular_weight.h"
 #include "host/totals.h"
@@ -16,12 +14,6 @@
 namespace polyprops::basis {
 
 namespace {
-
-// A sum that is not a number does not, and raises no exception.
-bool exceeds_zero_bound(Real total)
-{
-    return std::isgreater(total, zero_bound());
-}
 
 Real chain_amount(PolymerData& data, Component c, ByComponent<const Real> molecular_weights, Real amount)
 {
@@ -81,7 +73,7 @@ void values_to_true_basis(Mode mode, const ComponentList& components,
             return is_chain(c) ? true_amount(values(i), molecular_weights(c), chain_molecular_weights(i))
                                : values(i);
         });
-        if (exceeds_zero_bound(total)) divide(out, n, total);
+        if (above(total, zero_bound())) divide(out, n, total);
     }
 }
 
@@ -90,7 +82,7 @@ void mass_fractions(const ComponentList& components, Vector<const Real> fraction
     const Int n = components.count();
     const Real total =
         write_values(out, n, [&](Int i) { return fractions(i) * molecular_weight(components(i)); });
-    if (exceeds_zero_bound(total)) divide(out, n, total);
+    if (above(total, zero_bound())) divide(out, n, total);
 }
 
 void mass_fractions(Int n, Vector<const Real> fractions, Vector<const Real> molecular_weights,
@@ -98,7 +90,7 @@ void mass_fractions(Int n, Vector<const Real> fractions, Vector<const Real> mole
 {
     Real total = 0.0;
     for (Int i = 1; i <= n; ++i) total += fractions(i) * molecular_weights(i);
-    const bool vanishes = !exceeds_zero_bound(total);
+    const bool vanishes = !above(total, zero_bound());
     for (Int i = 1; i <= n; ++i) out(i) = vanishes ? 0.0 : fractions(i) * molecular_weights(i) / total;
 }
 

@@ -15,7 +15,7 @@ Real polymer_chain_length(const PolymerData& data, const Species& polymer)
 {
     const Real chains = chain_count(data, polymer);
     const Real segments = polymer.attribute(AttributeName::sflow).sum(data.segments().count());
-    return chains > zero_bound() && segments > zero_bound() ? segments / chains : 1.0;
+    return above(chains, zero_bound()) && above(segments, zero_bound()) ? segments / chains : 1.0;
 }
 
 Real oligomer_chain_length(const PolymerData& data, Component oligomer)

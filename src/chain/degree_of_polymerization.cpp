@@ -22,7 +22,7 @@ Real polymer_length(const PolymerData& data, const Species& polymer, Real parame
     const Attribute own = polymer.attribute(AttributeName::dpn);
     if (own.is_present()) {
         const Real value = own.value();
-        return value > 1.0 && value < missing_value_bound() ? value : parameter;
+        return above(value, 1.0) && below(value, missing_value_bound()) ? value : parameter;
     }
     return length_from_moments(data, polymer, FirstMomentCounts::when_present);
 }
@@ -36,7 +36,7 @@ Real degree_of_polymerization_parameter(Component c)
 
 bool counts_as_one(Real parameter)
 {
-    return std::abs(parameter - 1.0) < 1e-10;
+    return below(std::abs(parameter - 1.0), 1e-10);
 }
 
 Real chain_count(const PolymerData& data, const Species& polymer)
@@ -54,11 +54,11 @@ Real length_from_moments(const PolymerData& data, const Species& polymer, FirstM
 {
     const Real chains = chain_count(data, polymer);
     const Attribute given = polymer.attribute(AttributeName::fmom);
-    const bool counts =
-        given.is_present() && (first_moment == FirstMomentCounts::when_present || given.value() >= chains);
+    const bool counts = given.is_present() &&
+                        (first_moment == FirstMomentCounts::when_present || at_least(given.value(), chains));
     const Real segments =
         counts ? given.value() : polymer.attribute(AttributeName::sflow).sum(data.segments().count());
-    return chains > zero_bound() && segments > zero_bound() ? segments / chains : 1.0;
+    return above(chains, zero_bound()) && above(segments, zero_bound()) ? segments / chains : 1.0;
 }
 
 Real oligomer_length(const PolymerData& data, Int column)

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cmath>
-
 #include "host/species.h"
 
 namespace polyprops::chain {
@@ -29,10 +27,10 @@ enum class FirstMomentCounts { when_present, when_not_below_chains };
 // Segments over chains of a polymer; 1 unless both are above the zero bound.
 Real length_from_moments(const PolymerData& data, const Species& polymer, FirstMomentCounts first_moment);
 
-// No molecule has less than one segment. A NaN counts as less, without raising an exception.
+// No molecule has less than one segment. A NaN counts as less.
 inline Real at_least_one(Real length)
 {
-    return std::isgreater(length, 1.0) ? length : 1.0;
+    return above(length, 1.0) ? length : 1.0;
 }
 
 // Segments in one molecule of the oligomer in a column of the oligomer table.

@@ -28,7 +28,7 @@ Real molecular_weight_from_flows(const PolymerData& data, const Species& species
     const Attribute zeroth_moment = species.attribute(AttributeName::zmom);
     if (!zeroth_moment.is_present() || !is_between_bounds(zeroth_moment.value())) return own_molecular_weight;
     const Real mass = segment_mass_flow(data, species.attribute(AttributeName::sflow));
-    return mass > zero_bound() ? mass / zeroth_moment.value() : own_molecular_weight;
+    return above(mass, zero_bound()) ? mass / zeroth_moment.value() : own_molecular_weight;
 }
 
 Real weight_average_molecular_weight(const PolymerData& data, const Species& species)
@@ -66,7 +66,8 @@ std::optional<PolydispersityMoments> polydispersity_moments(const PolymerData& d
     const Real segments = flows.sum(data.segments().count());
     // The bound is inclusive here: flows of exactly the zero bound still count, but a bound of 0 must not
     // divide by 0.
-    if (segment_mass_flow(data, flows) >= zero_bound() && segments >= zero_bound() && segments > 0.0)
+    if (at_least(segment_mass_flow(data, flows), zero_bound()) && at_least(segments, zero_bound()) &&
+        above(segments, 0.0))
         return PolydispersityMoments{chains, segments, second_moment.value()};
     return {};
 }

@@ -142,7 +142,7 @@ Moments stream_moments(const Layout& layout, Vector<const Real> stream, MomentOf
         const Substream substream{stream, layout.origins(i)};
         for (Int p = 1; p <= polymers.count(); ++p) {
             const Real mass = substream.flow(polymers(p)) * layout.molecular_weights(polymers(p));
-            if (mass < zero_bound()) continue;
+            if (below(mass, zero_bound())) continue;
             const Moments polymer = polymer_moments(layout, substream, offsets.of(p), sites, mass);
             sum.zeroth += polymer.zeroth;
             sum.first += polymer.first;
@@ -166,7 +166,7 @@ struct NumberAverages {
 
 NumberAverages number_averages(const Moments& m)
 {
-    if (!(m.zeroth > zero_bound())) return {};
+    if (!above(m.zeroth, zero_bound())) return {};
     return {m.mass / m.zeroth, m.first / m.zeroth};
 }
 
@@ -180,7 +180,7 @@ struct WeightAverages {
 // The bound is exactly 0 here, where the number averages take the zero bound.
 WeightAverages weight_averages(const Moments& m)
 {
-    if (!(m.first > 0.0)) return {};
+    if (!above(m.first, 0.0)) return {};
     return {m.mass / m.first, m.second * (m.mass / m.first) / m.first, m.second / m.first,
             m.zeroth * (m.second / m.first) / m.first};
 }

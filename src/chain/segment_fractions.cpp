@@ -26,7 +26,7 @@ void polymer_fractions(Vector<Real> out, Int n, Value value)
         const Real v = value(s);
         return is_missing(v) ? 0.0 : v;
     });
-    if (total <= zero_bound())
+    if (at_most(total, zero_bound()))
         share_equally(out, n);
     else
         divide(out, n, total);
@@ -48,7 +48,7 @@ void row_fractions(Vector<Real> out, Int n, Value value)
 {
     if (n < 1) return;
     const Real total = write_values(out, n, value);
-    if (total > zero_bound())
+    if (above(total, zero_bound()))
         divide(out, n, total);
     else
         share_equally(out, n);

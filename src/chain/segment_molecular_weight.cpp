@@ -44,7 +44,7 @@ Real molecular_weight_from_fractions(const PolymerData& data, const Species& pol
         const Real f = fractions(s);
         sum.add(is_missing(f) ? 1.0 / static_cast<Real>(n) : f, data.segment_molecular_weight(s));
     }
-    return sum.amount > zero_bound() ? sum.mass / sum.amount : plain_mean(data, no_segments);
+    return above(sum.amount, zero_bound()) ? sum.mass / sum.amount : plain_mean(data, no_segments);
 }
 
 Real molecular_weight_from_make_up(const PolymerData& data, Int column)
@@ -52,7 +52,7 @@ Real molecular_weight_from_make_up(const PolymerData& data, Int column)
     WeightedSum sum;
     for (Int s = 1; s <= data.segments().count(); ++s)
         sum.add(data.oligomers().segments(s, column), data.segment_molecular_weight(s));
-    return sum.amount > 0.0 ? sum.mass / sum.amount : sum.mass;
+    return above(sum.amount, 0.0) ? sum.mass / sum.amount : sum.mass;
 }
 
 }  // namespace
@@ -63,7 +63,7 @@ Real mean_segment_molecular_weight(const PolymerData& data, const Species& speci
     if (!data.lists_chains()) return own_molecular_weight;
     if (species.is_polymer()) {
         const Real given = species.attribute(AttributeName::mwseg).value();
-        if (given > 1.0 && given < missing_value_bound()) return given;
+        if (above(given, 1.0) && below(given, missing_value_bound())) return given;
     }
     if (const Int column = data.oligomers().column_of(species.component()); column > 0)
         return molecular_weight_from_make_up(data, column);

@@ -12,8 +12,8 @@ namespace polyprops::distribution {
 
 inline Real bounded_exponential(Real exponent)
 {
-    if (exponent <= -250.0) return 0x1.40f531e1e6723p-361;
-    if (exponent >= 80.59) return 0x1.34005f3449a0ap+116;
+    if (at_most(exponent, -250.0)) return 0x1.40f531e1e6723p-361;
+    if (at_least(exponent, 80.59)) return 0x1.34005f3449a0ap+116;
     return std::exp(exponent);
 }
 

@@ -30,14 +30,14 @@ void space_logarithmically(Vector<Real> grid, Int n, Real longest_chain)
     for (Int k = 1; k <= n; ++k) {
         const Real fraction = static_cast<Real>(k) * exponent / static_cast<Real>(n);
         const Real length = std::trunc(std::pow(10.0, std::min(fraction, largest_exponent)));
-        previous = length > previous ? length : previous + 1.0;
+        previous = above(length, previous) ? length : previous + 1.0;
         grid(k) = previous;
     }
 }
 
 void lay_grid(Vector<Real> grid, Int n, Real longest_chain)
 {
-    if (longest_chain > 0.0 && std::isfinite(longest_chain))
+    if (above(longest_chain, 0.0) && std::isfinite(longest_chain))
         space_logarithmically(grid, n, longest_chain);
     else
         number_consecutively(grid, n);
@@ -78,5 +78,5 @@ void POLY_CSDADD(const Int* N, const Real* Y1, const Real* W1, const Real* Y2, c
     const distribution::Weighted second{Vector{Y2}, *W2};
     const Real total = first.weight + second.weight;
     *W = total;
-    if (total > zero_bound()) distribution::mix(first, second, total, Vector{Y}, *N);
+    if (above(total, zero_bound())) distribution::mix(first, second, total, Vector{Y}, *N);
 }

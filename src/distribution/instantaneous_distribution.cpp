@@ -86,7 +86,7 @@ void POLY_CSDCAL(const Int* N, const Int* NS, const Int* MODE, const Real* TAU, 
     if (*NS < 1) return;
     const Vector amounts{F, *NS};
     const Real added = sum(amounts, *NS);
-    if (added < zero_bound()) return;
+    if (below(added, zero_bound())) return;
 
     const Vector weights{W, *NS + 1};
     const Vector tau{TAU, *NS};
@@ -96,11 +96,11 @@ void POLY_CSDCAL(const Int* N, const Int* NS, const Int* MODE, const Real* TAU, 
     const Real before = weights(*NS + 1);
     const Real after = before + added;
     for (Int j = 1; j <= *NS; ++j) {
-        if (!(amounts(j) >= zero_bound())) continue;
+        if (!at_least(amounts(j), zero_bound())) continue;
         add_increment(form, {tau(j), beta(j)}, {amounts(j), before, after}, Vector{X},
                       Vector{columns.column(j)}, *N);
         weights(j) += amounts(j);
     }
-    if (!(after <= zero_bound())) sum_columns({COL, *N}, *NS, Vector{Y}, *N);
+    if (!at_most(after, zero_bound())) sum_columns({COL, *N}, *NS, Vector{Y}, *N);
     weights(*NS + 1) = after;
 }

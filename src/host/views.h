@@ -5,9 +5,12 @@
 // the host. Extents, where known, are checked in debug builds.
 #pragma once
 
+#include <algorithm>
 #include <cassert>
 #include <cstdint>
 #include <cstring>
+
+#include "numeric/quiet_comparisons.h"
 
 namespace polyprops {
 
@@ -31,7 +34,7 @@ inline constexpr Int unknown_extent = -1;
 template <class T>
 class Vector {
 public:
-    explicit Vector(T* first, Int extent = unknown_extent) : first_(first), extent_(extent) {}
+    constexpr explicit Vector(T* first, Int extent = unknown_extent) : first_(first), extent_(extent) {}
 
     T& operator()(Int i) const
     {
@@ -71,7 +74,11 @@ private:
 template <class T>
 class Matrix {
 public:
-    Matrix(T* first, Int leading_dimension) : first_(first), leading_dimension_(leading_dimension) {}
+    // A leading dimension below 1 has no rows: its columns all begin with the matrix, not before it.
+    Matrix(T* first, Int leading_dimension)
+        : first_(first), leading_dimension_(std::max<Int>(leading_dimension, 0))
+    {
+    }
 
     T& operator()(Int i, Int j) const
     {

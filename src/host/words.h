@@ -99,13 +99,13 @@ inline Real zero_bound()
 // At or above the bound a value counts as not given; a NaN counts as given.
 inline bool is_missing(Real value)
 {
-    return value >= missing_value_bound();
+    return at_least(value, missing_value_bound());
 }
 
 // Given and above zero, both bounds themselves excluded.
 inline bool is_between_bounds(Real value)
 {
-    return value > zero_bound() && value < missing_value_bound();
+    return above(value, zero_bound()) && below(value, missing_value_bound());
 }
 
 inline Int polymer_count_of_run()

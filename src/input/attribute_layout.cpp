@@ -16,7 +16,7 @@ constexpr Int most_site_types = std::numeric_limits<Int>::max() / 16;
 
 void lay_out_attributes(Int site_types, const PolymerBlock& block)
 {
-    if (block.has(POLYPROPS_ATTRIBUTE_LAYOUT)) release(block.id_in(POLYPROPS_ATTRIBUTE_LAYOUT));
+    block.release_named_by(POLYPROPS_ATTRIBUTE_LAYOUT);
     const Int sites = std::clamp<Int>(site_types, 0, most_site_types);
     const Int segments = block.list(POLYPROPS_SEGMENT_LIST)(1);
     const Int id =

@@ -9,6 +9,7 @@
 namespace polyprops::input {
 
 using IntegerBlock = Vector<Int>;
+inline constexpr IntegerBlock no_integers{nullptr};
 
 class RealBlock {
 public:

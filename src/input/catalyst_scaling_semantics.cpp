@@ -54,7 +54,7 @@ Int attribute_number(const IntegerBlock& block, const NamePair& name)
 // A value that is not below the missing-value bound is not given; neither is a NaN.
 void write_column(const RealBlock& data, Int first_word, Int count, Real value)
 {
-    if (!(value < missing_value_bound())) return;
+    if (!below(value, missing_value_bound())) return;
     for (Int e = 0; e < count; ++e) data.write(first_word + e, value);
 }
 

@@ -63,7 +63,7 @@ void PolymerBlock::make_list(Word word, Int length) const
 
 void PolymerBlock::make_two_part_list(Word word, Int integers, Int reals) const
 {
-    if (has(word)) release(id_in(word));
+    release_named_by(word);
     const Int id = allocate_two_part(integers, reals);
     find_two_part(id).integers(1) = 0;
     write_id(word, id);

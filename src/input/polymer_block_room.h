@@ -24,6 +24,16 @@ public:
     void write_id(Word word, Int id) const { directory()(word) = id; }
     bool has(Word word) const { return id_in(word) >= 1; }
 
+    // Frees the block that a word names, if any. The word forgets it first: a host that stops the check at
+    // its next allocation finds no freed block in its polymer block.
+    void release_named_by(Word word) const
+    {
+        const Int id = id_in(word);
+        if (id < 1) return;
+        write_id(word, 0);
+        release(id);
+    }
+
     // Good until the next allocation.
     IntegerBlock list(Word word) const { return find_integers(id_in(word)); }
     TwoPartBlock two_part(Word word) const { return find_two_part(id_in(word)); }

@@ -12,8 +12,12 @@ struct Delivery {
     Int real_position = 0;
     Int real_count = 0;
 
-    TwoPartBlock block() const { return {integers_at(integer_position), RealBlock{Position{real_position}}}; }
-    SentenceWords words() const { return {block(), integer_count, real_count}; }
+    // The position of no words is anything, and must not become an address.
+    SentenceWords words() const
+    {
+        const IntegerBlock integers = integer_count > 0 ? integers_at(integer_position) : no_integers;
+        return {{integers, RealBlock{Position{real_position}}}, integer_count, real_count};
+    }
 };
 
 constexpr Int catalyst_sites = 6;

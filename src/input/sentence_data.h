@@ -23,8 +23,9 @@ public:
     {
     }
 
-    Int integer(Int word) const { return 1 <= word && word <= integer_count_ ? block_.integers(word) : 0; }
-    Real real(Int word) const { return 1 <= word && word <= real_count_ ? block_.reals(word) : 0.0; }
+    // Lists begin at word 1 or later, so that no word is before the first.
+    Int integer(Int word) const { return word <= integer_count_ ? block_.integers(word) : 0; }
+    Real real(Int word) const { return word <= real_count_ ? block_.reals(word) : 0.0; }
 
     // The word at which a list begins, as an integer word says; one that is not in the sentence becomes the
     // word after its last, so that subscripts into the list cannot overflow.
@@ -48,7 +49,7 @@ private:
         return 1 <= start && start <= count ? start : count + 1;
     }
 
-    TwoPartBlock block_{IntegerBlock{nullptr}, RealBlock{}};
+    TwoPartBlock block_{no_integers, RealBlock{}};
     Int integer_count_ = 0;
     Int real_count_ = 0;
 };

@@ -65,7 +65,7 @@ Real value_or_zero(const Parameters& parameters, Int k, Int i, Int j, ReducedTem
     const Real reference = parameters.value(k, i, j);
     if (reference == 0.0 || !std::isfinite(reference)) return 0.0;
     reduced.refer_to(reference);
-    if (!(reduced.x() > 0.0)) return 0.0;
+    if (!above(reduced.x(), 0.0)) return 0.0;
     return general_logarithm_first(coefficients(parameters, i, j), reduced);
 }
 

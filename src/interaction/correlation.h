@@ -99,7 +99,7 @@ inline Real general_slope(const Coefficients& p, const ReducedTemperature& reduc
 // In the linear form a coefficient beyond this bound was not given.
 inline Real given(Real coefficient)
 {
-    return coefficient > 1e30 ? 0.0 : coefficient;
+    return above(coefficient, 1e30) ? 0.0 : coefficient;
 }
 
 inline Real value_by_positions(Int positions, const Coefficients& p, ReducedTemperature& reduced)

@@ -6,8 +6,6 @@
 // Sums run in the order of the caller's segments.
 #include "mixture/segment_averages.h"
 
-#include <cmath>
-
 #include "host/words.h"
 #include "polyprops/polyprops.h"
 
@@ -44,7 +42,7 @@ Real average_or_own(SegmentCountMatrix<const Real> counts, const ComponentList& 
 {
     if (!flags.is_flagged(j)) return property(j);
     const WeightedSum sum = sum_by_number(counts, segments, j, property);
-    return std::isgreater(sum.weight, zero_bound()) ? sum.total / sum.weight : property(j);
+    return above(sum.weight, zero_bound()) ? sum.total / sum.weight : property(j);
 }
 
 }  // namespace

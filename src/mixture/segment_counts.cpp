@@ -54,7 +54,7 @@ void write_fractions(const PolymerData& data, const Attribute& values, SegmentCo
 {
     const Int n = data.segments().count();
     const Real total = values.sum(n);
-    const bool shares = values.is_present() && total > zero_bound();
+    const bool shares = values.is_present() && above(total, zero_bound());
     write_row(data, counts, row,
               [&](Int m) { return shares ? values(m) / total : 1.0 / static_cast<Real>(n); });
 }
@@ -62,9 +62,9 @@ void write_fractions(const PolymerData& data, const Attribute& values, SegmentCo
 Real length_by_attributes(const PolymerData& data, const Species& polymer, Real mrf)
 {
     const Attribute length = polymer.attribute(AttributeName::dpn);
-    if (length.is_present() && length.value() >= 1.0) return length.value();
+    if (length.is_present() && at_least(length.value(), 1.0)) return length.value();
     const Attribute mwn = polymer.attribute(AttributeName::mwn);
-    if (mwn.is_present() && mrf != 0.0 && mwn.value() >= mrf) return mwn.value() / mrf;
+    if (mwn.is_present() && mrf != 0.0 && at_least(mwn.value(), mrf)) return mwn.value() / mrf;
     return chain::length_from_moments(data, polymer, FirstMomentCounts::when_not_below_chains);
 }
 
@@ -85,13 +85,13 @@ void write_positive_counts(const PolymerData& data, Int column, SegmentCountMatr
     Int last = 0;
     for (Int m = 1; m <= data.segments().count(); ++m) {
         const Real count = data.oligomers().segments(m, column);
-        if (!(count > 0.0)) continue;
+        if (!above(count, 0.0)) continue;
         counts(j, data.segments()(m)) = count;
         ++kinds;
         last = m;
     }
     const Real parameter = chain::degree_of_polymerization_parameter(j);
-    if (kinds == 1 && std::isgreater(parameter, 1.0)) counts(j, data.segments()(last)) = parameter;
+    if (kinds == 1 && above(parameter, 1.0)) counts(j, data.segments()(last)) = parameter;
 }
 
 void write_counts(const PolymerData& data, const Species& species, ByComponent<const Real> molecular_weights,
@@ -118,7 +118,7 @@ Real default_length(Component c)
 Real length_within_bounds(const PolymerData& data, const Species& polymer)
 {
     const Attribute length = polymer.attribute(AttributeName::dpn);
-    if (length.is_present() && length.value() > 1.0 && length.value() < missing_value_bound())
+    if (length.is_present() && above(length.value(), 1.0) && below(length.value(), missing_value_bound()))
         return length.value();
     return chain::at_least_one(chain::length_from_moments(data, polymer, FirstMomentCounts::when_present));
 }
@@ -136,8 +136,8 @@ Real write_scaled_polymer(const PolymerData& data, const Species& polymer, Segme
         return value;
     });
     write_row(data, counts, j, [&](Int m) {
-        return total > zero_bound() ? counts(j, segments(m)) * length / total
-                                    : length / static_cast<Real>(segments.count());
+        return above(total, zero_bound()) ? counts(j, segments(m)) * length / total
+                                          : length / static_cast<Real>(segments.count());
     });
     return length;
 }
@@ -152,7 +152,7 @@ Real write_scaled_oligomer(const PolymerData& data, Component j, SegmentCountMat
         if (total != 0.0) write_row(data, counts, j, [&](Int m) { return counts(j, segments(m)) / total; });
     });
     const Real parameter = default_length(j);
-    const bool left_at_one = std::abs(parameter - 1.0) <= 1e-10;
+    const bool left_at_one = at_most(std::abs(parameter - 1.0), 1e-10);
     const Real length = left_at_one ? chain::at_least_one(total) : parameter;
     write_row(data, counts, j, [&](Int m) { return counts(j, segments(m)) * length; });
     return length;

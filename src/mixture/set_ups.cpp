@@ -62,7 +62,7 @@ void copy_positive_counts(const ComponentList& segments, SegmentCountMatrix<cons
                           SegmentCountMatrix<Real> to)
 {
     for (Int m = 1; m <= segments.count(); ++m)
-        if (const Real count = from(row, segments(m)); count > 0.0) to(row, segments(m)) = count;
+        if (const Real count = from(row, segments(m)); above(count, 0.0)) to(row, segments(m)) = count;
 }
 
 // Flags the oligomers and copies the rows of those with a known make-up; every other component is one unit.

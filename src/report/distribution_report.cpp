@@ -103,7 +103,7 @@ void write_report(Int n, Vector<const Real> x, Vector<const Real> y, bool is_gpc
 {
     write_title();
     const auto sums = sums_of(n, x, y, is_gpc);
-    if (sums.area < zero_bound()) return;
+    if (below(sums.area, zero_bound())) return;
     const PageStart start = write_table(n, x, y, is_gpc);
     reserve_report_lines(2, start);
     write_averages(sums);

@@ -1,8 +1,10 @@
 #include "report/real_field.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
 
 namespace polyprops::report {
 
@@ -19,13 +21,11 @@ Decimal to_decimal(Real value)
 {
     if (value == 0.0) return {false, {'0', '0', '0', '0'}, 1};
     std::array<char, 16> text;  // d.ddde±XX or d.ddde±XXX
-    const char* const end = std::to_chars(text.data(), text.data() + text.size(), std::fabs(value),
-                                          std::chars_format::scientific, 3)
-                                .ptr;
-    int exponent = 0;
-    std::from_chars(text.data() + 7, end, exponent);
-    if (text[6] == '-') exponent = -exponent;
-    return {value < 0.0, {text[0], text[2], text[3], text[4]}, exponent + 1};
+    std::snprintf(text.data(), text.size(), "%.3e", std::fabs(value));
+    // The decimal point is that of the host's locale and may be several characters.
+    const char* const end = std::strchr(text.data(), 'e');
+    const int exponent = static_cast<int>(std::strtol(end + 1, nullptr, 10));
+    return {std::signbit(value), {text[0], end[-3], end[-2], end[-1]}, exponent + 1};
 }
 
 // The characters of a field without the blanks before them.
@@ -77,7 +77,7 @@ Text without_alignment(Real value)
 {
     if (!std::isfinite(value)) {
         Text text;
-        text.put(std::isnan(value) ? "NaN" : value < 0.0 ? "-Infinity" : "Infinity");
+        text.put(std::isnan(value) ? "NaN" : std::signbit(value) ? "-Infinity" : "Infinity");
         return text;
     }
     const Decimal decimal = to_decimal(value);

@@ -122,6 +122,8 @@ class BuiltFile(unittest.TestCase):
             (self.SOUND.replace("POLY_PACK", "POLY_PAK"), (), "POLY_PACK is declared but is not exported"),
             (self.SOUND + "void ST_OTHER(void); static void f(void) { ST_OTHER(); } void* g = f;", (),
              "needs ST_OTHER, which neither"),
+            (self.SOUND + "void abort(void); static void f(void) { abort(); } void* const g = f;",
+             (), "needs abort, which a library must not call"),
             (self.SOUND, ("-Wl,--no-as-needed", "-lgcc_s"), "needs the library libgcc_s.so.1"),
         ]
         for code, flags, expected in cases:
