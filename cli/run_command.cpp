@@ -32,8 +32,8 @@ int run_unguarded(const RunOptions& options, std::FILE* out, std::FILE* errors)
                 results.distributions[app::find_distribution(*input, options.distribution)]));
     if (options.out)
         app::write_files(*options.out, app::output_files(options.file.stem().string(), *input, report,
-                                                         results.library_output));
-    return show(report, options.format, out, errors, options.strictness);
+                                                         results.library_output, options.csv_texts));
+    return show(report, options.format, out, errors, options.strictness, options.csv_texts);
 }
 
 }  // namespace
@@ -48,6 +48,7 @@ void add_run_command(CLI::App& program, int& status)
     const auto options = std::make_shared<RunOptions>();
     auto* command = add_case_command(program, "run", "Print the results of a case", options->file);
     add_format(*command, options->format);
+    add_csv_safe(*command, options->csv_texts);
     add_strict(*command, options->strictness);
     command->add_option("--out", options->out, "Write report, summary, CSV, JSON and HTML files there")
         ->type_name("DIR");

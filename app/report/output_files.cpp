@@ -3,8 +3,9 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <stdexcept>
+#include <set>
 
+#include "app/io/distinct_name.h"
 #include "app/report/format.h"
 #include "app/report/result_numbers.h"
 
@@ -34,46 +35,43 @@ std::string page_title(std::string title)
     return title;
 }
 
-// Names of distributions are free texts; those of files are not.
+// Names of distributions are free texts; those of files are not, and have a greatest length.
 std::string file_part(std::string name)
 {
+    constexpr std::size_t longest = 100;
+    if (name.size() > longest) name.resize(longest);
     std::ranges::replace_if(
         name, [](char c) { return !std::isalnum(static_cast<unsigned char>(c)) && c != '-' && c != '_'; },
         '_');
     return name;
 }
 
-std::string wide_csv(const Table& table)
+std::string wide_csv(const Table& table, CsvTexts texts)
 {
-    const auto field = [](const Cell& cell) { return text(cell); };
     std::string csv;
     for (const auto& column : table.columns)
-        csv += fmt::format("{}{}", csv.empty() ? "" : ",", csv_field(column.key));
+        csv += fmt::format("{}{}", csv.empty() ? "" : ",", csv_field(column.key, texts));
     for (const auto& row : table.rows) {
         csv += '\n';
-        for (const auto& cell : row) csv += (&cell == row.data() ? "" : ",") + field(cell);
+        for (const auto& cell : row)
+            csv += (&cell == row.data() ? "" : ",") +
+                   (is_number(cell) ? text(cell) : csv_field(text(cell), texts));
     }
     return csv + '\n';
 }
 
-void add_curves(const std::string& name, const Report& report, std::vector<OutputFile>& files)
+void add_curves(const std::string& name, const Report& report, CsvTexts texts, std::vector<OutputFile>& files)
 {
-    for (const auto& section : report.sections)
+    std::set<std::string> taken{"fit"};  // the command of that name writes NAME.fit.csv
+    for (const auto& section : report.sections) {
+        if (section.kind != "distribution") continue;
+        const auto part = distinct_name(file_part(section.name), taken);
         for (const auto& table : section.tables)
-            if (table.is_long && section.kind == "distribution")
-                files.push_back({fmt::format("{}.{}{}.csv", name, file_part(section.name),
-                                             table.key == "gpc_curve" ? ".gpc" : ""),
-                                 wide_csv(table)});
-}
-
-void check_unique(const std::vector<OutputFile>& files)
-{
-    for (auto file = files.begin(); file != files.end(); ++file)
-        if (std::find_if(files.begin(), file, [&](const auto& f) { return f.name == file->name; }) != file)
-            throw std::runtime_error{fmt::format(
-                "two distributions would be written to {}; expected names that differ in more than "
-                "punctuation",
-                file->name)};
+            if (table.is_long)
+                files.push_back(
+                    {fmt::format("{}.{}{}.csv", name, part, table.key == "gpc_curve" ? ".gpc" : ""),
+                     wide_csv(table, texts)});
+    }
 }
 
 }  // namespace
@@ -86,26 +84,25 @@ std::string report_file(const Case& input, const Report& report, const LibraryOu
 }
 
 std::vector<OutputFile> output_files(const std::string& name, const Case& input, const Report& report,
-                                     const LibraryOutput& library_output)
+                                     const LibraryOutput& library_output, CsvTexts texts)
 {
     std::vector<OutputFile> files{{name + ".rpt", report_file(input, report, library_output)},
                                   {name + ".sum", library_output.summary},
-                                  {name + ".csv", format_csv(report)},
+                                  {name + ".csv", format_csv(report, texts)},
                                   {name + ".json", format_json(report)},
                                   {name + ".html", format_html(report)}};
-    add_curves(name, report, files);
-    check_unique(files);
+    add_curves(name, report, texts, files);
     return files;
 }
 
-std::vector<OutputFile> fit_files(const std::string& name, const Report& report)
+std::vector<OutputFile> fit_files(const std::string& name, const Report& report, CsvTexts texts)
 {
     std::vector<OutputFile> files{{name + ".fit.txt", format_text(report)},
-                                  {name + ".fit.csv", format_csv(report)},
+                                  {name + ".fit.csv", format_csv(report, texts)},
                                   {name + ".fit.json", format_json(report)},
                                   {name + ".fit.html", format_html(report)}};
     for (const auto& table : report.sections.front().tables)
-        if (table.is_long) files.push_back({name + ".fit.curves.csv", wide_csv(table)});
+        if (table.is_long) files.push_back({name + ".fit.curves.csv", wide_csv(table, texts)});
     return files;
 }
 
