@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "app/case/case_document.h"
+#include "app/io/visible_text.h"
 
 namespace cli {
 
@@ -31,10 +32,10 @@ std::optional<app::Case> read(const std::filesystem::path& file, std::FILE* erro
 }
 
 int show(const app::Report& report, app::Format format, std::FILE* out, std::FILE* errors,
-         Strictness strictness)
+         Strictness strictness, app::CsvTexts texts)
 {
     print(report.diagnostics, report.file, errors);
-    write(formatted(report, format), out);
+    write(formatted(report, format, texts), out);
     const bool fails = has_errors(report) || (strictness == Strictness::strict && app::has_warnings(report));
     return fails ? exit_case_error : exit_success;
 }
@@ -55,6 +56,13 @@ void add_format(CLI::App& command, app::Format& format)
         "Form of the results (default: text)");
 }
 
+void add_csv_safe(CLI::App& command, app::CsvTexts& texts)
+{
+    command.add_flag_callback(
+        "--csv-safe", [&texts] { texts = app::CsvTexts::guarded; },
+        "Put ' before CSV texts that a spreadsheet would take for a formula");
+}
+
 void add_strict(CLI::App& command, Strictness& strictness)
 {
     command.add_flag_callback(
@@ -63,13 +71,13 @@ void add_strict(CLI::App& command, Strictness& strictness)
 
 int refuse(const std::string& why, std::FILE* errors)
 {
-    fmt::print(errors, "polyprops: {}\n", why);
+    fmt::print(errors, "polyprops: {}\n", app::visible(why, true));
     return exit_usage;
 }
 
 int fail(const std::string& why, std::FILE* errors)
 {
-    fmt::print(errors, "polyprops: {}\n", why);
+    fmt::print(errors, "polyprops: {}\n", app::visible(why, true));
     return exit_case_error;
 }
 

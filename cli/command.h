@@ -30,7 +30,7 @@ enum class Strictness { normal, strict };
 
 // Prints the report and its diagnostics; the exit status tells whether there were errors.
 int show(const app::Report& report, app::Format format, std::FILE* out, std::FILE* errors,
-         Strictness strictness = Strictness::normal);
+         Strictness strictness = Strictness::normal, app::CsvTexts texts = app::CsvTexts::exact);
 
 // A subcommand that takes a case file.
 CLI::App* add_case_command(CLI::App& program, const char* name, const char* purpose,
@@ -38,6 +38,9 @@ CLI::App* add_case_command(CLI::App& program, const char* name, const char* purp
 
 // --format text, csv or json.
 void add_format(CLI::App& command, app::Format& format);
+
+// --csv-safe.
+void add_csv_safe(CLI::App& command, app::CsvTexts& texts);
 
 // --strict.
 void add_strict(CLI::App& command, Strictness& strictness);

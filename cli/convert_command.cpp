@@ -34,7 +34,7 @@ std::string unknown_stream(const std::string& stream, const app::Case& input)
 }
 
 int convert_unguarded(const std::filesystem::path& file, const Conversion& conversion, app::Format format,
-                      std::FILE* out, std::FILE* errors, Strictness strictness)
+                      std::FILE* out, std::FILE* errors, Strictness strictness, app::CsvTexts texts)
 {
     if (const auto why = impossible(conversion); !why.empty()) return refuse(why, errors);
     const auto input = read(file, errors);
@@ -43,7 +43,7 @@ int convert_unguarded(const std::filesystem::path& file, const Conversion& conve
     if (const auto why = unknown_stream(stream, *input); !why.empty()) return refuse(why, errors);
     const auto results = app::evaluate_conversion(*input, stream, from, to);
     const auto report = app::make_conversion_report(*input, results);
-    if (results.is_complete) return show(report, format, out, errors, strictness);
+    if (results.is_complete) return show(report, format, out, errors, strictness, texts);
     print(report.diagnostics, report.file, errors);
     return exit_case_error;
 }
@@ -51,10 +51,10 @@ int convert_unguarded(const std::filesystem::path& file, const Conversion& conve
 }  // namespace
 
 int convert(const std::filesystem::path& file, const Conversion& conversion, app::Format format,
-            std::FILE* out, std::FILE* errors, Strictness strictness)
+            std::FILE* out, std::FILE* errors, Strictness strictness, app::CsvTexts texts)
 {
-    return guarded([&] { return convert_unguarded(file, conversion, format, out, errors, strictness); },
-                   errors);
+    return guarded(
+        [&] { return convert_unguarded(file, conversion, format, out, errors, strictness, texts); }, errors);
 }
 
 void add_convert_command(CLI::App& program, int& status)
@@ -63,12 +63,14 @@ void add_convert_command(CLI::App& program, int& status)
         std::filesystem::path file;
         app::Format format = app::Format::text;
         Strictness strictness = Strictness::normal;
+        app::CsvTexts texts = app::CsvTexts::exact;
         Conversion conversion{{}, app::Basis::apparent, app::Basis::true_chains};
     };
     const auto options = std::make_shared<Options>();
     auto* command = add_case_command(
         program, "convert", "Print one stream on two bases: apparent, true or segment", options->file);
     add_format(*command, options->format);
+    add_csv_safe(*command, options->texts);
     add_strict(*command, options->strictness);
     command->add_option("--stream", options->conversion.stream, "Name of the stream")->required();
     const Words<app::Basis> bases{{"apparent", app::Basis::apparent},
@@ -78,8 +80,8 @@ void add_convert_command(CLI::App& program, int& status)
     add_choice(*command, "--to", options->conversion.to, bases, "BASIS", "apparent, true or segment")
         ->required();
     command->callback([options, &status] {
-        status =
-            convert(options->file, options->conversion, options->format, stdout, stderr, options->strictness);
+        status = convert(options->file, options->conversion, options->format, stdout, stderr,
+                         options->strictness, options->texts);
     });
 }
 

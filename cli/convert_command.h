@@ -14,7 +14,8 @@ struct Conversion {
 
 // A stream that the case does not have is an error of usage.
 int convert(const std::filesystem::path& file, const Conversion& conversion, app::Format format,
-            std::FILE* out, std::FILE* errors, Strictness strictness = Strictness::normal);
+            std::FILE* out, std::FILE* errors, Strictness strictness = Strictness::normal,
+            app::CsvTexts texts = app::CsvTexts::exact);
 
 // Registers the subcommand: its options, and a callback that runs it and sets the exit status.
 void add_convert_command(CLI::App& program, int& status);

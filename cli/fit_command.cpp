@@ -63,8 +63,10 @@ int fit_unguarded(const FitCommandOptions& options, std::FILE* out, std::FILE* e
         measured.mark_houwink_exponent = input->distributions[*distribution].mark_houwink_exponent;
     const auto curve = app::read_measured_curve(options.gpc, measured);
     const auto report = app::make_fit_report(*input, app::fit(curve, *weight, options.fit));
-    if (options.out) app::write_files(*options.out, app::fit_files(options.file.stem().string(), report));
-    return show(report, options.format, out, errors, options.strictness);
+    if (options.out)
+        app::write_files(*options.out,
+                         app::fit_files(options.file.stem().string(), report, options.csv_texts));
+    return show(report, options.format, out, errors, options.strictness, options.csv_texts);
 }
 
 // N or N:M; 0 sites for anything else.
@@ -105,6 +107,7 @@ void add_fit_command(CLI::App& program, int& status)
     auto* command =
         add_case_command(program, "fit", "Print the sites whose sum is a measured curve", options->file);
     add_format(*command, options->format);
+    add_csv_safe(*command, options->csv_texts);
     add_strict(*command, options->strictness);
     auto* gpc = command->add_option("--gpc", options->gpc, "Measured curve")->required()->type_name("FILE");
     command

@@ -11,6 +11,7 @@ struct FitCommandOptions {
     std::filesystem::path file;
     app::Format format = app::Format::text;
     Strictness strictness = Strictness::normal;
+    app::CsvTexts csv_texts = app::CsvTexts::exact;
     std::filesystem::path gpc;
     app::MeasuredCurveOptions measured;        // how to read it
     app::FitOptions fit;                       // number of sites

@@ -55,10 +55,11 @@ int run_unguarded(const RunOptions& options, std::FILE* out, std::FILE* errors)
                 results.distributions[app::find_distribution(*input, options.distribution)]));
     if (options.out) {
         const auto name = options.file.stem().string();
-        write_directory(*options.out, name, app::output_files(name, *input, report, results.library_output),
+        write_directory(*options.out, name,
+                        app::output_files(name, *input, report, results.library_output, options.csv_texts),
                         errors);
     }
-    return show(report, options.format, out, errors, options.strictness);
+    return show(report, options.format, out, errors, options.strictness, options.csv_texts);
 }
 
 }  // namespace
@@ -73,6 +74,7 @@ void add_run_command(CLI::App& program, int& status)
     const auto options = std::make_shared<RunOptions>();
     auto* command = add_case_command(program, "run", "Print the results of a case", options->file);
     add_format(*command, options->format);
+    add_csv_safe(*command, options->csv_texts);
     add_strict(*command, options->strictness);
     command->add_option("--out", options->out, "Write report, summary, CSV, JSON and HTML files there")
         ->type_name("DIR");

@@ -10,6 +10,7 @@ struct RunOptions {
     std::filesystem::path file;
     app::Format format = app::Format::text;
     Strictness strictness = Strictness::normal;
+    app::CsvTexts csv_texts = app::CsvTexts::exact;
     std::optional<std::filesystem::path> out;         // directory for the files of the run
     std::optional<std::filesystem::path> gpc;         // measured curve to compare a composite with
     app::MeasuredCurveOptions measured;               // how to read it

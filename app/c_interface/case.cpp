@@ -76,7 +76,7 @@ polyprops_case* polyprops_case_from_file(const char* path)
     const auto read = [&] {
         const auto name = text_or_empty(path);
         try {
-            const auto text = app::file_contents(name);
+            const auto text = app::input_file_contents(name);
             return make_case(path, text.data(), text.size());
         } catch (const app::FileError& error) {
             return new polyprops_case{app::CaseHandle{name, error.why()}};

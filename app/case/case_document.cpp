@@ -9,6 +9,7 @@
 #include <stdexcept>
 
 #include "app/case/case_reader.h"
+#include "app/case/nesting.h"
 #include "app/io/file_contents.h"
 
 namespace app {
@@ -123,10 +124,23 @@ void collect(const toml::node& node, const std::string& key, std::vector<SourceP
     }
 }
 
+// A text that no parser should see.
+void check_size(std::string_view text, Diagnostics& diagnostics)
+{
+    if (text.size() > largest_input)
+        diagnostics.add(no_position(), "the text has " + too_large(text.size()));
+    else if (const auto at = nested_too_deep(text))
+        diagnostics.add(*at,
+                        fmt::format("tables and arrays are nested more than {0} deep; expected {0} at most",
+                                    deepest_nesting));
+}
+
 }  // namespace
 
 CaseDocument::CaseDocument(std::string_view text, std::string file) : file_(std::move(file))
 {
+    check_size(text, syntax_errors_);
+    if (!syntax_errors_.empty()) return;
     try {
         root_ = toml::parse(text);
     } catch (const toml::parse_error& error) {
@@ -137,7 +151,7 @@ CaseDocument::CaseDocument(std::string_view text, std::string file) : file_(std:
 
 CaseDocument CaseDocument::from_file(const std::filesystem::path& file)
 {
-    return {file_contents(file), file.string()};
+    return {input_file_contents(file), file.string()};
 }
 
 std::vector<std::string> CaseDocument::keys() const

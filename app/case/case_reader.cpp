@@ -36,7 +36,7 @@ Settings read_settings(TableReader table)
     settings.message_level = table.whole_number("message_level", {0, 2}).value_or(settings.message_level);
     settings.lines_per_page =
         table.whole_number("lines_per_page", page_lengths).value_or(settings.lines_per_page);
-    table.finish();
+    table.finish_part();
     return settings;
 }
 
@@ -67,7 +67,7 @@ Component read_component(const std::string& id, TableReader table)
                                             component.pdi_source.key, *component.pdi));
     component.cry = table.number("cry", Range::not_negative);
     component.mark_houwink_exponent = read_mark_houwink_exponent(table);
-    table.finish();
+    table.finish_part();
     return component;
 }
 
@@ -85,24 +85,25 @@ std::optional<TableReader> section(TableReader& root, std::string_view key, std:
 {
     auto found = root.table(key);
     if (!found) root.missing(key, expected);
-    if (found && found->entries().empty())
+    if (found && found->is_empty())
         root.diagnostics().add(found->source(), fmt::format("{} is empty; expected {}", key, expected));
     return found;
 }
 
-void read_curves(TableReader& root, Case& input)
+// False when there are none.
+bool read_curves(TableReader& root, Case& input)
 {
-    if (const auto distributions = root.table("distributions"))
-        input.distributions = read_distributions(*distributions);
-    if (const auto parameters = root.table("parameters"))
-        input.parameter_sets = read_parameter_sets(*parameters);
+    const auto distributions = root.table("distributions");
+    if (distributions) input.distributions = read_distributions(*distributions);
+    const auto parameters = root.table("parameters");
+    if (parameters) input.parameter_sets = read_parameter_sets(*parameters);
+    return (distributions && !distributions->is_empty()) || (parameters && !parameters->is_empty());
 }
 
 // A case without streams has distributions or binary parameters instead.
-void read_streams(TableReader& root, Case& input)
+void read_streams(TableReader& root, bool may_lack, Case& input)
 {
-    const bool has_other_results = !input.distributions.empty() || !input.parameter_sets.empty();
-    if (has_other_results && !root.entry("streams")) return;
+    if (may_lack && !root.entry("streams")) return;
     if (const auto streams = section(root, "streams", "a table with at least one stream"))
         input.streams = read_streams(*streams);
 }
@@ -111,7 +112,7 @@ Case read_root(TableReader root, const std::string& file)
 {
     Case input;
     input.file = file;
-    input.title = root.text("title").value_or("");
+    input.title = root.title("title").value_or("");
     if (const auto settings = root.table("settings")) input.settings = read_settings(*settings);
     // Distributions with a segment weight of their own need nothing else.
     const bool has_curves_only = root.entry("distributions") && !root.entry("streams");
@@ -120,11 +121,11 @@ Case read_root(TableReader root, const std::string& file)
             input.components = read_components(*components);
     if (const auto polymers = root.table("polymers")) input.paragraph = read_paragraph(*polymers);
     input.catalyst_scaling = read_catalyst_scaling(root.array("catalyst_scaling"), root.diagnostics());
-    read_curves(root, input);
-    read_streams(root, input);
+    const bool has_curves = read_curves(root, input);
+    read_streams(root, has_curves, input);
     if (const auto properties = root.table("properties")) input.properties = read_properties(*properties);
     if (const auto reactors = root.table("reactors")) input.reactors = read_reactors(*reactors);
-    root.finish();
+    root.finish_part();
     return input;
 }
 

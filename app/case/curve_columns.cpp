@@ -11,6 +11,8 @@
 #include <stdexcept>
 #include <utility>
 
+#include "app/io/visible_text.h"
+
 namespace app {
 
 namespace {
@@ -39,26 +41,29 @@ std::optional<double> number(std::string_view field, bool has_decimal_comma)
     return error == std::errc{} ? value : std::numeric_limits<double>::infinity();
 }
 
-// The numbers of a line; none when any field is no number.
-std::vector<double> numbers(std::string_view line, char separator)
+// The fields of a line as numbers, none for a field that is no number.
+std::vector<std::optional<double>> fields(std::string_view line, char separator)
 {
-    std::vector<double> all;
+    std::vector<std::optional<double>> all;
     line = trimmed(line);
     while (true) {
         const auto at = separator == ' ' ? line.find_first_of(blanks) : line.find(separator);
-        const auto value = number(line.substr(0, at), separator != ',');
-        if (!value) return {};
-        all.push_back(*value);
+        all.push_back(number(line.substr(0, at), separator != ','));
         if (at == std::string_view::npos) return all;
         line = trimmed(line.substr(at + 1));
     }
 }
 
+bool are_numbers(const std::vector<std::optional<double>>& all)
+{
+    return std::ranges::all_of(all, [](const auto& field) { return field.has_value(); });
+}
+
 std::optional<Numbers> read_pair(std::string_view line, char separator)
 {
-    const auto all = numbers(line, separator);
-    if (all.size() != 2) return {};
-    return Numbers{all[0], all[1]};
+    const auto all = fields(line, separator);
+    if (all.size() != 2 || !are_numbers(all)) return {};
+    return Numbers{*all[0], *all[1]};
 }
 
 std::vector<std::string_view> lines_of(std::string_view text)
@@ -92,8 +97,9 @@ std::optional<Numbers> read_first_pair(std::string_view line, char& separator)
 std::string more_columns(std::string_view line)
 {
     for (const char separator : separators) {
-        const auto count = numbers(line, separator).size();
-        if (count < 3) continue;
+        const auto all = fields(line, separator);
+        const auto count = all.size();
+        if (count < 3 || !are_numbers(all)) continue;
         return fmt::format(
             "two numbers, molecular weight and signal; the line has {} numbers{}", count,
             separator == ',' ? ", and decimal commas need `;`, tabs or blanks between columns" : "");
@@ -108,15 +114,21 @@ std::string expected_columns(std::string_view line, char separator)
                        separator == ' ' ? "blanks" : fmt::format("`{}`", separator));
 }
 
-// Numbers of several columns are no notes.
-void refuse_without_pairs(std::string_view text, const std::string& file)
+// Two numbers next to each other, or a number and one other word, are a faulty line of the curve.
+bool is_note(std::string_view line)
 {
-    std::size_t line_number = 0;
-    for (const auto line : lines_of(text)) {
-        ++line_number;
-        if (const auto expected = more_columns(line); !expected.empty())
-            refuse_line(file, line_number, line, expected);
-    }
+    if (trimmed(line).starts_with('#')) return true;
+    return std::ranges::none_of(separators, [&](char separator) {
+        const auto all = fields(line, separator);
+        const auto both = [](const auto& a, const auto& b) { return a && b; };
+        return std::ranges::adjacent_find(all, both) != all.end() || (all.size() == 2 && all[0]);
+    });
+}
+
+std::string expected_note(std::string_view line)
+{
+    if (auto more = more_columns(line); !more.empty()) return more;
+    return "two numbers, molecular weight and signal, or a note, which begins with # or holds no such line";
 }
 
 }  // namespace
@@ -135,18 +147,21 @@ CurveColumns read_columns(std::string_view text, const std::string& file)
                         "finite numbers that are 0 or have a size from 2.3e-308 to 1.7e308");
         if (found)
             columns.pairs.push_back({line_number, line, found->first, found->second});
-        else if (columns.pairs.empty())
+        else if (!columns.pairs.empty())
+            refuse_line(file, line_number, line, expected_columns(line, separator));
+        else if (is_note(line))
             columns.notes.emplace_back(line);
         else
-            refuse_line(file, line_number, line, expected_columns(line, separator));
+            refuse_line(file, line_number, line, expected_note(line));
     }
-    if (columns.pairs.empty()) refuse_without_pairs(text, file);
     return columns;
 }
 
 void refuse_line(const std::string& file, std::size_t line, std::string_view seen, std::string_view expected)
 {
-    throw std::runtime_error{fmt::format("{}:{}: \"{}\"; expected {}", file, line, seen, expected)};
+    constexpr std::size_t longest = 120;
+    const auto shown = seen.size() > longest ? visible(seen.substr(0, longest)) + "..." : visible(seen);
+    throw std::runtime_error{fmt::format("{}:{}: \"{}\"; expected {}", visible(file), line, shown, expected)};
 }
 
 }  // namespace app

@@ -18,12 +18,13 @@ struct ColumnPair {
 };
 
 struct CurveColumns {
-    std::vector<std::string> notes;  // lines before the first pair
+    std::vector<std::string> notes;  // lines before the first pair that hold no pair
     std::vector<ColumnPair> pairs;   // with views of the text
 };
 
-// Throws std::runtime_error with file and line for a line after the first pair that has no two numbers, for
-// numbers that are not finite, and for lines of more numbers in a file without pairs.
+// A note begins with # or holds no two numbers next to each other, nor a number and one other word. Throws
+// std::runtime_error with file and line for any other line without two numbers, and for numbers that are not
+// finite.
 CurveColumns read_columns(std::string_view text, const std::string& file);
 
 // Throws std::runtime_error with file, line, the text of the line and the expectation.

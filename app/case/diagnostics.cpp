@@ -7,6 +7,8 @@
 #include <cctype>
 #include <numeric>
 
+#include "app/io/visible_text.h"
+
 namespace app {
 
 namespace {
@@ -53,9 +55,15 @@ std::string_view text(Severity severity)
 std::string line(const Diagnostic& diagnostic, std::string_view file)
 {
     const auto& [source, text, severity, own_file] = diagnostic;
-    const auto shown = own_file.empty() ? file : std::string_view{own_file};
-    if (source.line == 0) return fmt::format("{}: {}", shown, text);
-    return fmt::format("{}:{}:{}: {}", shown, source.line, source.column, text);
+    const auto shown_file = visible(own_file.empty() ? file : std::string_view{own_file});
+    const auto shown_text = visible(text, severity == Severity::message);
+    if (source.line == 0) return fmt::format("{}: {}", shown_file, shown_text);
+    return fmt::format("{}:{}:{}: {}", shown_file, source.line, source.column, shown_text);
+}
+
+void Diagnostics::add(SourcePosition source, std::string_view text)
+{
+    found_.push_back({std::move(source), visible(text)});
 }
 
 std::vector<Diagnostic> Diagnostics::sorted() const

@@ -42,16 +42,15 @@ inline SourcePosition no_position(std::string key = {})
     return {0, 0, std::move(key)};
 }
 
-// "FILE:LINE:COLUMN: TEXT", without position "FILE: TEXT". `file` is that of the case.
+// "FILE:LINE:COLUMN: TEXT", without position "FILE: TEXT", fit for a terminal. `file` is that of the case.
 std::string line(const Diagnostic& diagnostic, std::string_view file);
 
 class Diagnostics {
 public:
-    void add(SourcePosition source, std::string text)
-    {
-        found_.push_back({std::move(source), std::move(text)});
-    }
+    // Control characters of the file are shown as escapes.
+    void add(SourcePosition source, std::string_view text);
     bool empty() const { return found_.empty(); }
+    std::size_t size() const { return found_.size(); }
 
     // In the order of the file.
     std::vector<Diagnostic> sorted() const;

@@ -61,7 +61,7 @@ DistributionComponent read_component(TableReader table, std::size_t number)
     read_mean(table, component);
     read_dispersity(table, component);
     component.amount = table.required_number("amount", Range::not_negative).value_or(0);
-    table.finish();
+    table.finish_part();
     return component;
 }
 
@@ -70,14 +70,9 @@ DistributionComponent read_component(TableReader table, std::size_t number)
 std::vector<DistributionComponent> read_distribution_components(TableReader& table)
 {
     std::vector<DistributionComponent> components;
-    const auto elements = table.array("components");
-    for (const auto& element : elements)
+    for (const auto& element : table.array("components", "at least one component"))
         if (const auto component = read_table(element, table.diagnostics()))
             components.push_back(read_component(*component, components.size() + 1));
-    const auto entry = table.entry("components");
-    if (entry && elements.empty() && entry->node->is_array())
-        table.diagnostics().add(entry->source,
-                                fmt::format("{} is empty; expected at least one component", entry->path));
     return components;
 }
 

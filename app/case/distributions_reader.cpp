@@ -5,6 +5,7 @@
 #include <numeric>
 
 #include "app/case/case_reader.h"
+#include "app/io/memory.h"
 
 namespace app {
 
@@ -33,7 +34,7 @@ SiteIncrement read_site(TableReader table, const SiteIncrement* previous, std::o
                                                             table.path(), site.tau + site.beta));
     site.amount = table.required_number("amount", Range::not_negative).value_or(0);
     if (!previous) name = table.text("name");
-    table.finish();
+    table.finish_part();
     return site;
 }
 
@@ -45,7 +46,7 @@ void name_site(DistributionSection& section, const Entry& entry, const std::opti
 
 void read_increment(const Entry& entry, DistributionSection& section, Diagnostics& diagnostics)
 {
-    const auto elements = read_array(entry, diagnostics);
+    const auto elements = read_array(entry, diagnostics, "at least one site");
     const Increment* previous = section.increments.empty() ? nullptr : &section.increments.back();
     Increment increment;
     for (const auto& element : elements) {
@@ -57,8 +58,6 @@ void read_increment(const Entry& entry, DistributionSection& section, Diagnostic
             read_site(*table, previous && at < previous->size() ? &(*previous)[at] : nullptr, name));
         if (!previous) name_site(section, element, name);
     }
-    if (elements.empty() && entry.node->is_array())
-        diagnostics.add(entry.source, fmt::format("{} is empty; expected at least one site", entry.path));
     if (previous && increment.size() != previous->size())
         diagnostics.add(entry.source, fmt::format("{} has {} sites; the increment before it has {}",
                                                   entry.path, increment.size(), previous->size()));
@@ -77,12 +76,8 @@ void read_increments(TableReader& table, DistributionSection& section)
         return;
     }
     if (sites) return read_increment(*sites, section, table.diagnostics());
-    for (const auto& entry : read_array(*increments, table.diagnostics()))
+    for (const auto& entry : read_array(*increments, table.diagnostics(), "at least one increment"))
         read_increment(entry, section, table.diagnostics());
-    if (section.increments.empty() && increments->node->is_array())
-        table.diagnostics().add(
-            increments->source,
-            fmt::format("{} is empty; expected at least one increment", increments->path));
 }
 
 DistributionSection read_section(TableReader table)
@@ -93,7 +88,7 @@ DistributionSection read_section(TableReader table)
     else
         table.missing("name", "a text in quotes");
     read_increments(table, section);
-    table.finish();
+    table.finish_part();
     return section;
 }
 
@@ -106,14 +101,9 @@ std::vector<DistributionSection> read_sections(TableReader& table)
         read_increments(table, sections.back());
         return sections;
     }
-    const auto entries = table.array("sections");
-    for (const auto& entry : entries)
+    for (const auto& entry : table.array("sections", "at least one section"))
         if (const auto section = read_table(entry, table.diagnostics()))
             sections.push_back(read_section(*section));
-    const auto entry = table.entry("sections");
-    if (entries.empty() && entry->node->is_array())
-        table.diagnostics().add(entry->source,
-                                fmt::format("{} is empty; expected at least one section", entry->path));
     return sections;
 }
 
@@ -135,7 +125,7 @@ void read_grid(TableReader& table, Distribution& distribution)
     distribution.longest_chain = longest.value_or(shortest_grid);
 }
 
-Distribution read_distribution(const Entry& entry, TableReader table)
+std::optional<Distribution> read_distribution(const Entry& entry, TableReader table)
 {
     Distribution distribution;
     distribution.name = {entry.key, entry.source};
@@ -147,7 +137,7 @@ Distribution read_distribution(const Entry& entry, TableReader table)
     distribution.stream = reference(table, "stream");
     distribution.sections = read_sections(table);
     distribution.components = read_distribution_components(table);
-    table.finish();
+    if (!table.finish()) return {};
     return distribution;
 }
 
@@ -159,6 +149,18 @@ void check_unique(const std::vector<PlacedName>& names, std::string_view path, D
         else if (std::find_if(names.begin(), name, [&](const auto& n) { return n.id == name->id; }) != name)
             diagnostics.add(name->source, fmt::format("{} names \"{}\" twice", path, name->id));
     }
+}
+
+// Points of all curves, with their chromatograms, in results, tables and every form of the report.
+void check_memory(const Distribution& distribution, const std::string& path, Diagnostics& diagnostics)
+{
+    constexpr double bytes_of_number = 500;
+    std::size_t curves = 2 + distribution.components.size();
+    for (const auto& section : distribution.sections) curves += 1 + section.sites.size();
+    const double numbers = static_cast<double>(distribution.points) * static_cast<double>(2 * curves);
+    if (const auto lacking = lacking_memory(numbers * bytes_of_number); !lacking.empty())
+        diagnostics.add(distribution.name.source, fmt::format("{}: {} points of {} curves need {}", path,
+                                                              distribution.points, curves, lacking));
 }
 
 // What the host takes for nothing cannot be averaged.
@@ -202,8 +204,9 @@ std::vector<Distribution> read_distributions(TableReader table)
 {
     std::vector<Distribution> distributions;
     for (const auto& entry : table.entries())
-        if (const auto distribution = read_table(entry, table.diagnostics()))
-            distributions.push_back(read_distribution(entry, *distribution));
+        if (const auto reader = read_table(entry, table.diagnostics()))
+            if (auto distribution = read_distribution(entry, *reader))
+                distributions.push_back(std::move(*distribution));
     return distributions;
 }
 
@@ -225,6 +228,7 @@ void check_distributions(const Case& input, Diagnostics& diagnostics)
             check_amounts(section, path, input.settings.zero_bound, diagnostics);
         }
         check_unique(names, path + ".sections", diagnostics);
+        check_memory(distribution, path, diagnostics);
         check_models(distribution, input.settings.zero_bound, diagnostics);
     }
 }

@@ -9,6 +9,7 @@
 
 #include "app/case/curve_columns.h"
 #include "app/io/file_contents.h"
+#include "app/io/visible_text.h"
 
 namespace app {
 
@@ -22,7 +23,7 @@ constexpr double largest_exponent = 15;
 
 [[noreturn]] void refuse(const std::string& file, const std::string& why)
 {
-    throw std::runtime_error{fmt::format("{}: {}", file, why)};
+    throw std::runtime_error{fmt::format("{}: {}", visible(file), why)};
 }
 
 std::string lower_case(std::string text)
@@ -198,6 +199,7 @@ void calibrate(MeasuredCurve& curve, const UniversalCalibration& c)
 MeasuredCurve parse_measured_curve(std::string_view text, const std::string& file,
                                    const MeasuredCurveOptions& options)
 {
+    if (text.size() > largest_input) refuse(file, "is too large: " + too_large(text.size()));
     auto curve = uncorrected(read_columns(text, file), file, options.column);
     put_in_order(curve);
     if (options.baseline) subtract_baseline(curve, *options.baseline);
@@ -210,7 +212,7 @@ MeasuredCurve parse_measured_curve(std::string_view text, const std::string& fil
 
 MeasuredCurve read_measured_curve(const std::filesystem::path& file, const MeasuredCurveOptions& options)
 {
-    return parse_measured_curve(file_contents(file), file.string(), options);
+    return parse_measured_curve(input_file_contents(file), file.string(), options);
 }
 
 }  // namespace app

@@ -5,6 +5,7 @@
 #include <set>
 
 #include "app/case/case_reader.h"
+#include "app/io/memory.h"
 
 namespace app {
 
@@ -66,20 +67,26 @@ void read_positions(TableReader& table, ParameterSet& set)
                  fmt::format("0 or a position behind the {} coefficients", coefficient_count(set)));
 }
 
+std::vector<double> read_numbers(const std::vector<Entry>& entries, Range range, Diagnostics& diagnostics)
+{
+    std::vector<double> numbers;
+    for (const auto& entry : entries)
+        if (const auto number = read_number(entry, range, diagnostics)) numbers.push_back(*number);
+    return numbers;
+}
+
 std::vector<double> read_temperatures(const Entry& entry, Diagnostics& diagnostics)
 {
-    std::vector<double> temperatures;
-    if (!entry.node->is_table()) {
-        for (const auto& element : read_array(entry, diagnostics))
-            temperatures.push_back(read_number(element, Range::positive, diagnostics).value_or(1));
-        return temperatures;
-    }
+    if (!entry.node->is_table())
+        return read_numbers(read_array(entry, diagnostics, "at least one temperature"), Range::positive,
+                            diagnostics);
     auto table = *read_table(entry, diagnostics);
     const auto from = table.required_number("from", Range::positive);
     const auto to = table.required_number("to", Range::positive);
     const auto count = table.required_whole_number("count", temperature_counts);
-    table.finish();
-    if (!from || !to || !count) return {1};
+    table.finish_part();
+    if (!from || !to || !count) return {};
+    std::vector<double> temperatures;
     for (std::int64_t k = 0; k < *count; ++k)
         temperatures.push_back(*from +
                                (*to - *from) * static_cast<double>(k) / static_cast<double>(*count - 1));
@@ -90,15 +97,14 @@ void read_values(TableReader& table, const ParameterSet& set, ParameterPair& pai
 {
     const auto entry = table.entry("values");
     if (!entry) return table.missing("values", fmt::format("{} numbers", set.positions));
-    for (const auto& element : read_array(*entry, table.diagnostics()))
-        pair.values.push_back(read_number(element, Range::any, table.diagnostics()).value_or(0));
-    if (!entry->node->is_array() || std::ssize(pair.values) == set.positions) return;
+    const auto elements = read_array(*entry, table.diagnostics());
+    pair.values = read_numbers(elements, Range::any, table.diagnostics());
+    if (!entry->node->is_array() || std::ssize(elements) == set.positions) return;
     table.diagnostics().add(entry->source, fmt::format("{} has {} values; expected {}, one for each position",
-                                                       entry->path, pair.values.size(), set.positions));
-    pair.values.resize(static_cast<std::size_t>(set.positions), 1);
+                                                       entry->path, elements.size(), set.positions));
 }
 
-ParameterPair read_pair(TableReader table, const ParameterSet& set)
+std::optional<ParameterPair> read_pair(TableReader table, const ParameterSet& set)
 {
     ParameterPair pair;
     const auto components = table.array("components");
@@ -115,21 +121,20 @@ ParameterPair read_pair(TableReader table, const ParameterSet& set)
                                             table.path(), ids.size()));
     }
     read_values(table, set, pair);
-    table.finish();
+    if (!table.finish()) return {};
     return pair;
 }
 
-ParameterSet read_set(const Entry& entry, TableReader table)
+std::optional<ParameterSet> read_set(const Entry& entry, TableReader table)
 {
     ParameterSet set;
     set.name = {entry.key, entry.source};
     if (const auto form = table.entry("form"))
         set.form = read_word(*form, forms, table.diagnostics()).value_or(set.form);
     set.unit = table.text("unit").value_or("1");
-    for (const auto& component : table.array("components"))
+    for (const auto& component : table.required_array("components", "at least one component ID"))
         if (const auto id = read_text(component, table.diagnostics()))
             set.components.push_back({*id, component.source});
-    table.missing("components", "an array of component IDs");
     read_positions(table, set);
     set.leading_positions = table.whole_number("leading_positions", {0, set.positions}).value_or(0);
     if (const auto symmetry = table.entry("leading_symmetry"))
@@ -141,12 +146,12 @@ ParameterSet read_set(const Entry& entry, TableReader table)
                                             table.path(), set.leading_positions, set.reference_position));
     for (const auto& pair : table.array("pairs"))
         if (const auto reader = read_table(pair, table.diagnostics()))
-            set.pairs.push_back(read_pair(*reader, set));
+            if (auto read = read_pair(*reader, set)) set.pairs.push_back(std::move(*read));
     if (const auto temperatures = table.entry("temperatures"))
         set.temperatures = read_temperatures(*temperatures, table.diagnostics());
     else
         table.missing("temperatures", "an array of temperatures or a table with from, to and count");
-    table.finish();
+    if (!table.finish()) return {};
     return set;
 }
 
@@ -160,6 +165,7 @@ public:
 
     void run()
     {
+        check_memory();
         std::set<std::string> seen;
         for (const auto& component : set_.components) {
             if (!input_.find(component.id))
@@ -169,11 +175,23 @@ public:
                 report(component, "{}.components names \"{}\" twice", path_, component.id);
         }
         std::set<std::pair<std::string, std::string>> given;
-        for (const auto& pair : set_.pairs)
-            if (!pair.first.id.empty() || !pair.second.id.empty()) check_pair(pair, given);
+        for (const auto& pair : set_.pairs) check_pair(pair, given);
     }
 
 private:
+    // Matrices of all pairs: coefficients, and parameters, slopes and derivatives at each temperature.
+    void check_memory()
+    {
+        constexpr double bytes_of_number = 500;
+        const auto pairs =
+            static_cast<double>(set_.components.size()) * static_cast<double>(set_.components.size());
+        const auto matrices =
+            static_cast<double>(set_.positions) + 3.0 * static_cast<double>(set_.temperatures.size());
+        if (const auto lacking = lacking_memory(pairs * matrices * bytes_of_number); !lacking.empty())
+            report(set_.name, "{}: {} temperatures of the pairs of {} components need {}", path_,
+                   set_.temperatures.size(), set_.components.size(), lacking);
+    }
+
     void check_pair(const ParameterPair& pair, std::set<std::pair<std::string, std::string>>& given)
     {
         for (const auto& end : {pair.first, pair.second})
@@ -218,7 +236,8 @@ std::vector<ParameterSet> read_parameter_sets(TableReader table)
 {
     std::vector<ParameterSet> sets;
     for (const auto& entry : table.entries())
-        if (const auto set = read_table(entry, table.diagnostics())) sets.push_back(read_set(entry, *set));
+        if (const auto reader = read_table(entry, table.diagnostics()))
+            if (auto set = read_set(entry, *reader)) sets.push_back(std::move(*set));
     return sets;
 }
 

@@ -41,7 +41,7 @@ std::optional<Segment> read_segment(const Entry& entry, Diagnostics& diagnostics
     const auto type = table->entry("type");
     if (!type) table->missing("type", "one of end, repeat, branch3, branch4");
     const auto known = type ? read_word(*type, segment_types, diagnostics) : std::nullopt;
-    table->finish();
+    table->finish_part();
     if (!id) return {};
     // A segment of unknown type still counts: nothing else is wrong with the values given for it.
     return Segment{*id, known.value_or(SegmentType::repeat)};
@@ -61,7 +61,7 @@ std::vector<Part> read_listed_parts(const Entry& list, Diagnostics& diagnostics)
         if (!table) continue;
         const auto segment = read_reference(*table, "id");
         const auto count = table->required_number("count", Range::not_negative);
-        table->finish();
+        table->finish_part();
         if (segment && count) parts.push_back({*segment, *count});
     }
     return parts;
@@ -112,7 +112,7 @@ void read_oligomer(const Entry& entry, std::vector<OligomerPart>& all, Diagnosti
     if (!table) return;
     const auto oligomer = read_oligomer_id(*table, all);
     const auto parts = read_parts(*table, diagnostics);
-    table->finish();
+    table->finish_part();
     if (!oligomer) return;
     for (const auto& part : parts) {
         const bool is_continued = !all.empty() && all.back().oligomer.source == oligomer->source;
@@ -127,9 +127,11 @@ std::optional<AttributeList> read_attribute_list(const Entry& entry, Diagnostics
     const auto component = read_reference(*table, "component");
     const auto names = table->entry("names");
     if (!names) table->missing("names", "an array of attribute names");
-    table->finish();
-    if (!component || !names) return {};
-    return AttributeList{*component, read_references(read_array(*names, diagnostics), diagnostics)};
+    AttributeList list;
+    if (component) list.component = *component;
+    if (names) list.names = read_references(read_array(*names, diagnostics), diagnostics);
+    if (!table->finish()) return {};
+    return list;
 }
 
 std::optional<Catalyst> read_catalyst(const Entry& entry, Diagnostics& diagnostics)
@@ -138,8 +140,7 @@ std::optional<Catalyst> read_catalyst(const Entry& entry, Diagnostics& diagnosti
     if (!table) return {};
     const auto id = read_reference(*table, "id");
     const auto value = table->number("value", Range::any).value_or(0);
-    table->finish();
-    if (!id) return {};
+    if (!table->finish()) return {};
     return Catalyst{*id, value};
 }
 
@@ -163,7 +164,7 @@ Sites read_sites(TableReader table)
     sites.count = table.required_whole_number("count", {0, most_site_types}).value_or(0);
     sites.integers = read_further_integers(table);
     sites.real = table.number("real", Range::any).value_or(0);
-    table.finish();
+    table.finish_part();
     return sites;
 }
 
@@ -175,8 +176,7 @@ std::optional<DistributionRequest> read_distribution(const Entry& entry, Diagnos
     const auto type = table->required_whole_number("type", {1, 4}).value_or(1);
     const auto integers = read_further_integers(*table);
     const auto real = table->number("real", Range::any).value_or(0);
-    table->finish();
-    if (!polymer) return {};
+    if (!table->finish()) return {};
     return DistributionRequest{*polymer, type, integers, real};
 }
 
@@ -188,8 +188,7 @@ std::optional<ScalingEntry> read_scaling(const Entry& entry, Diagnostics& diagno
     const auto attribute = read_reference(*table, "attribute");
     const auto first = table->number("first", Range::any);
     const auto second = table->number("second", Range::any);
-    table->finish();
-    if (!component || !attribute) return {};
+    if (!table->finish()) return {};
     return ScalingEntry{*component, *attribute, first, second};
 }
 
@@ -219,7 +218,7 @@ Paragraph read_paragraph(TableReader table)
     paragraph.initiators = read_references(table.array("initiators"), diagnostics);
     if (const auto sites = table.table("sites")) paragraph.sites = read_sites(*sites);
     paragraph.distributions = read_list(table.array("distributions"), diagnostics, read_distribution);
-    table.finish();
+    table.finish_part();
     return paragraph;
 }
 

@@ -25,7 +25,7 @@ Averaging read_averaging(TableReader& table)
     return read_word(*word, averagings, table.diagnostics()).value_or(Averaging::number);
 }
 
-Property read_property(const Entry& entry, TableReader table)
+std::optional<Property> read_property(const Entry& entry, TableReader table)
 {
     Property property;
     property.name = {entry.key, entry.source};
@@ -34,7 +34,7 @@ Property read_property(const Entry& entry, TableReader table)
     property.segment_values = read_values(table, "segments", Range::any);
     property.weight_factors = read_values(table, "weight_factors", Range::positive);
     property.own_values = read_values(table, "components", Range::any);
-    table.finish();
+    if (!table.finish()) return {};
     return property;
 }
 
@@ -63,10 +63,8 @@ std::vector<PlacedName> read_inlets(TableReader& table)
         diagnostics.add(list->source,
                         list->path + " and " + one->path + " are both given; expected one of the two");
     std::vector<PlacedName> inlets;
-    for (const auto& element : read_array(*list, diagnostics))
+    for (const auto& element : read_array(*list, diagnostics, "the name of at least one stream"))
         inlets.push_back(read_stream_name(element, diagnostics));
-    if (list->node->is_array() && list->node->as_array()->empty())
-        diagnostics.add(list->source, list->path + " is empty; expected the name of at least one stream");
     return inlets;
 }
 
@@ -76,8 +74,8 @@ std::vector<Property> read_properties(TableReader table)
 {
     std::vector<Property> properties;
     for (const auto& entry : table.entries())
-        if (const auto property = read_table(entry, table.diagnostics()))
-            properties.push_back(read_property(entry, *property));
+        if (const auto reader = read_table(entry, table.diagnostics()))
+            if (auto property = read_property(entry, *reader)) properties.push_back(std::move(*property));
     return properties;
 }
 
@@ -89,7 +87,7 @@ std::vector<Reactor> read_reactors(TableReader table)
         if (!reactor) continue;
         auto inlets = read_inlets(*reactor);
         auto outlet = read_stream_name(*reactor, "outlet");
-        reactor->finish();
+        if (!reactor->finish()) continue;
         reactors.push_back({{entry.key, entry.source}, std::move(inlets), std::move(outlet)});
     }
     return reactors;

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "app/case/case_reader.h"
+#include "app/case/nesting.h"
 
 namespace app {
 
@@ -101,6 +102,10 @@ public:
         if (!stream.mix || std::ranges::find(done_, &stream) != done_.end()) return;
         if (const auto start = std::ranges::find(path_, &stream); start != path_.end())
             return report_cycle({start, path_.end()});
+        if (path_.size() == deepest_nesting)
+            return diagnostics_.add(stream.mix->source,
+                                    fmt::format("{} is the end of a chain of more than {} mixes",
+                                                stream.mix->source.key, deepest_nesting));
         path_.push_back(&stream);
         for (const auto& part : stream.mix->parts) follow(part.component, *stream.mix);
         path_.pop_back();

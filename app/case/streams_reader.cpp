@@ -110,15 +110,12 @@ std::vector<ChainFraction> read_chain_fractions(const Entry& list,
                                                 Diagnostics& diagnostics)
 {
     std::vector<ChainFraction> fractions;
-    const auto elements = read_array(list, diagnostics);
-    if (list.node->is_array() && elements.empty())
-        diagnostics.add(list.source, list.path + " is empty; expected at least one fraction");
-    for (const auto& element : elements) {
+    for (const auto& element : read_array(list, diagnostics, "at least one fraction")) {
         auto table = read_table(element, diagnostics);
         if (!table) continue;
         const auto own = read_segment_fractions(*table);
         fractions.push_back(read_chain_fraction(*table, own ? own : segments));
-        table->finish();
+        table->finish_part();
     }
     return fractions;
 }
@@ -133,7 +130,7 @@ PolymerChains read_polymer_chains(const Entry& entry, TableReader table)
     } else {
         chains.fractions.push_back(read_chain_fraction(table, segments));
     }
-    table.finish();
+    table.finish_part();
     return chains;
 }
 
@@ -152,7 +149,7 @@ std::optional<Mix> read_mix(TableReader& table)
     if (!parts) return {};
     refuse_both(table, "mix", {"flows", "mass_flows", "chains", "attributes"});
     Mix mix{table.entry("mix")->source, read_component_values(*parts, Range::not_negative)};
-    if (mix.parts.empty())
+    if (parts->is_empty())
         table.diagnostics().add(mix.source, parts->path() + " is empty; expected at least one stream");
     return mix;
 }
@@ -171,7 +168,7 @@ Stream read_stream(const Entry& entry, TableReader table)
         table.missing("flows", "a table of component IDs and their mole flows");
     if (const auto attributes = table.table("attributes"))
         stream.attributes = read_attribute_values(*attributes);
-    table.finish();
+    table.finish_part();
     return stream;
 }
 

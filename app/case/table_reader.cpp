@@ -6,6 +6,8 @@
 #include <cmath>
 #include <sstream>
 
+#include "app/io/visible_text.h"
+
 namespace app {
 
 namespace {
@@ -118,10 +120,24 @@ std::optional<std::int64_t> read_whole_number(const Entry& entry, WholeRange ran
     return {};
 }
 
-std::optional<std::string> read_text(const Entry& entry, Diagnostics& diagnostics)
+namespace {
+
+std::optional<std::string> read_title(const Entry& entry, Diagnostics& diagnostics)
 {
     if (const auto* value = entry.node->as_string()) return value->get();
     report(entry, "a text in quotes", diagnostics);
+    return {};
+}
+
+constexpr std::string_view one_line = "a text of one line without control characters";
+
+}  // namespace
+
+std::optional<std::string> read_text(const Entry& entry, Diagnostics& diagnostics)
+{
+    auto text = read_title(entry, diagnostics);
+    if (!text || !has_control_characters(*text)) return text;
+    report(entry, one_line, diagnostics);
     return {};
 }
 
@@ -133,13 +149,15 @@ std::optional<TableReader> read_table(const Entry& entry, Diagnostics& diagnosti
     return {};
 }
 
-std::vector<Entry> read_array(const Entry& entry, Diagnostics& diagnostics)
+std::vector<Entry> read_array(const Entry& entry, Diagnostics& diagnostics, std::string_view content)
 {
     const auto* array = entry.node->as_array();
     if (!array) {
         report(entry, "an array", diagnostics);
         return {};
     }
+    if (array->empty() && !content.empty())
+        diagnostics.add(entry.source, fmt::format("{} is empty; expected {}", entry.path, content));
     std::vector<Entry> elements;
     for (const auto& node : *array) {
         const auto path = fmt::format("{}[{}]", entry.path, elements.size() + 1);
@@ -152,7 +170,11 @@ std::vector<Entry> read_array(const Entry& entry, Diagnostics& diagnostics)
 
 TableReader::TableReader(const toml::table& table, std::string path, SourcePosition source,
                          Diagnostics& diagnostics)
-    : table_(&table), path_(std::move(path)), source_(std::move(source)), diagnostics_(&diagnostics)
+    : table_(&table),
+      path_(std::move(path)),
+      source_(std::move(source)),
+      diagnostics_(&diagnostics),
+      reported_before_(diagnostics.size())
 {
 }
 
@@ -183,16 +205,22 @@ std::optional<std::string> TableReader::text(std::string_view key)
     return found ? read_text(*found, *diagnostics_) : std::nullopt;
 }
 
+std::optional<std::string> TableReader::title(std::string_view key)
+{
+    const auto found = entry(key);
+    return found ? read_title(*found, *diagnostics_) : std::nullopt;
+}
+
 std::optional<TableReader> TableReader::table(std::string_view key)
 {
     const auto found = entry(key);
     return found ? read_table(*found, *diagnostics_) : std::nullopt;
 }
 
-std::vector<Entry> TableReader::array(std::string_view key)
+std::vector<Entry> TableReader::array(std::string_view key, std::string_view content)
 {
     const auto found = entry(key);
-    return found ? read_array(*found, *diagnostics_) : std::vector<Entry>{};
+    return found ? read_array(*found, *diagnostics_, content) : std::vector<Entry>{};
 }
 
 void TableReader::missing(std::string_view key, std::string_view expected)
@@ -224,6 +252,12 @@ std::optional<std::string> TableReader::required_text(std::string_view key)
     return value;
 }
 
+std::vector<Entry> TableReader::required_array(std::string_view key, std::string_view content)
+{
+    missing(key, fmt::format("an array of {}", content));
+    return array(key, content);
+}
+
 std::vector<Entry> TableReader::entries()
 {
     std::vector<Entry> all;
@@ -232,11 +266,23 @@ std::vector<Entry> TableReader::entries()
         all.push_back({std::string{key.str()}, path, place(key.source(), path), &node});
     }
     std::ranges::stable_sort(all, {}, &Entry::source);
-    for (const auto& found : all) asked_.push_back(found.key);
+    for (const auto& found : all) {
+        asked_.push_back(found.key);
+        if (has_control_characters(found.key))
+            diagnostics_->add(found.source,
+                              fmt::format("the name {} is no {}", quoted(found.key), one_line.substr(2)));
+    }
     return all;
 }
 
-void TableReader::finish()
+bool TableReader::finish()
+{
+    const bool is_whole = diagnostics_->size() == reported_before_;
+    finish_part();
+    return is_whole;
+}
+
+void TableReader::finish_part()
 {
     const std::vector<std::string_view> known(asked_.begin(), asked_.end());
     for (const auto& [key, node] : *table_) {

@@ -2,11 +2,14 @@
 
 #include <fmt/format.h>
 
+#include <set>
+
 #include "app/evaluation/chain_length_models.h"
 #include "app/evaluation/distribution_averages.h"
 #include "app/evaluation/distribution_checks.h"
 #include "app/evaluation/reactors.h"
 #include "app/evaluation/stream_list.h"
+#include "app/io/distinct_name.h"
 #include "app/routines/chain_length_distribution.h"
 #include "app/routines/publication.h"
 
@@ -93,6 +96,8 @@ public:
         if (results_.parts.size() == 1 && parts_.front().kind == Curve::Kind::site)
             results_.parts.front() = composite_.values;
         composite_.averages = averages(means_);
+        std::set<std::string> taken{composite_.name};
+        for (auto& part : parts_) part.name = distinct_name(part.name, taken);
         for (std::size_t i = 0; i < parts_.size(); ++i)
             for (auto& value : parts_[i].values) value *= wholes_[i] / composite_.amount;
         results_.curves.push_back(std::move(composite_));

@@ -1,6 +1,10 @@
 #include "app/evaluation/stream_list.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
+
+#include "app/io/memory.h"
 
 namespace app {
 
@@ -27,6 +31,29 @@ std::vector<double> molecular_weights(const minihost::Host& host)
     return found;
 }
 
+namespace {
+
+bool has_chains(const routines::Components& list, const minihost::Host& host)
+{
+    return std::ranges::any_of(list, [&](auto c) {
+        const auto kind = host.components().at(c.index).component_class;
+        return kind == minihost::ComponentClass::polymer || kind == minihost::ComponentClass::oligomer;
+    });
+}
+
+// The matrix has a row and a column for each component of the case; few streams need it.
+routines::SegmentCounts counts_of(const std::string& name, const routines::Components& list,
+                                  std::size_t components, const minihost::Host& host)
+{
+    if (!has_chains(list, host)) return routines::no_segment_counts(components);
+    const auto count = static_cast<double>(components);
+    require_memory(count * count * sizeof(double),
+                   fmt::format("streams.{}: the segment counts of {} components", name, components));
+    return routines::segment_counts(list, components);
+}
+
+}  // namespace
+
 StreamList list_stream(const std::string& name, minihost::Host& host)
 {
     host.select_stream(name);
@@ -42,7 +69,7 @@ StreamList list_stream(const std::string& name, minihost::Host& host)
         list.mole_flow.push_back(flow);
     }
     list.molecular_weight = molecular_weights(host);
-    list.counts = routines::segment_counts(list.components, component_count);
+    list.counts = counts_of(name, list.components, component_count, host);
     return list;
 }
 

@@ -133,10 +133,12 @@ Table fit(const MeasuredComparison& gpc)
     Table table{"gpc_comparison",
                 "Measured curve against the composite",
                 {{"file", "File", ""},
+                 {"notes", "Notes", ""},
                  {"points", "Points", ""},
                  {"residual", "Residual", "1"},
                  {"largest_difference", "Largest difference", "1"}},
-                {{gpc.file, static_cast<Int>(gpc.measured.size()), gpc.residual, gpc.largest_difference}}};
+                {{gpc.file, static_cast<Int>(gpc.notes.size()), static_cast<Int>(gpc.measured.size()),
+                  gpc.residual, gpc.largest_difference}}};
     const auto& measured = gpc.measured_averages;
     const auto& calculated = gpc.calculated_averages;
     add_pair(columns::mn, measured.mn, calculated.mn, table);

@@ -68,12 +68,13 @@ Table summary(const FitResults& results)
     return {"fit_summary",
             "Fit",
             {{"file", "File", ""},
+             {"notes", "Notes", ""},
              {"points", "Points", ""},
              {"sites", "Sites", ""},
              {"segment_weight", "Segment weight", "g/mol"},
              {"residual", "Residual", "1"}},
-            {{results.file, static_cast<Int>(results.measured.size()), static_cast<Int>(results.sites.size()),
-              results.segment_weight, results.residual}}};
+            {{results.file, static_cast<Int>(results.notes.size()), static_cast<Int>(results.measured.size()),
+              static_cast<Int>(results.sites.size()), results.segment_weight, results.residual}}};
 }
 
 Table averages(const FitResults& results)

@@ -3,16 +3,17 @@
 #include <fmt/format.h>
 
 #include "app/evaluation/evaluation.h"
+#include "app/io/visible_text.h"
 
 namespace app {
 
-std::string formatted(const Report& report, Format format)
+std::string formatted(const Report& report, Format format, CsvTexts texts)
 {
     switch (format) {
         case Format::text:
             return format_text(report);
         case Format::csv:
-            return format_csv(report);
+            return format_csv(report, texts);
         case Format::json:
             return format_json(report);
     }
@@ -24,7 +25,7 @@ std::string format_measured_curve(const DistributionResults& distribution)
     auto text = fmt::format(
         "# composite of the distribution {}, {} g/mol per segment: dw/dlog10(M) over M in g/mol\n"
         "molecular_weight,signal\n",
-        distribution.name, required_segment_weight(distribution));
+        visible(distribution.name), required_segment_weight(distribution));
     for (std::size_t k = 0; k < distribution.lengths.size(); ++k)
         text += fmt::format("{},{}\n", distribution.molecular_weights[k],
                             distribution.composite().chromatogram[k]);

@@ -5,14 +5,15 @@
 
 #include "app/evaluation/distribution_results.h"
 #include "app/report/report_model.h"
+#include "app/report/result_numbers.h"
 
 namespace app {
 
 enum class Format { text, csv, json };
-std::string formatted(const Report& report, Format format);
+std::string formatted(const Report& report, Format format, CsvTexts texts = CsvTexts::exact);
 
 std::string format_text(const Report& report);  // aligned tables, six significant digits, no curves
-std::string format_csv(const Report& report);   // a line for each number
+std::string format_csv(const Report& report, CsvTexts texts = CsvTexts::exact);  // a line for each number
 std::string format_json(const Report& report);
 std::string format_html(const Report& report);  // one file without outside links
 
@@ -20,7 +21,7 @@ std::string format_html(const Report& report);  // one file without outside link
 // weight is not known.
 std::string format_measured_curve(const DistributionResults& distribution);
 
-// Text in which nothing is markup.
+// Text in which nothing is markup; what no document may hold is replaced by U+FFFD.
 std::string html_text(std::string_view text);
 
 }  // namespace app

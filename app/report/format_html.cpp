@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "app/io/visible_text.h"
 #include "app/report/html/embedded.h"
 
 namespace app {
@@ -133,7 +134,7 @@ std::string messages(const Report& report)
 std::string html_text(std::string_view text)
 {
     std::string result;
-    for (const char c : text) {
+    for (const char c : readable(text)) {
         switch (c) {
             case '&':
                 result += "&amp;";

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "app/io/visible_text.h"
 #include "app/report/format.h"
 
 namespace app {
@@ -16,7 +17,7 @@ std::string shown(const Cell& cell)
     if (const auto* value = std::get_if<double>(&cell)) return fmt::format("{:.6g}", *value);
     if (const auto* value = std::get_if<Int>(&cell)) return fmt::format("{}", *value);
     if (std::holds_alternative<NoData>(cell)) return "-";
-    return std::get<std::string>(cell);
+    return visible(std::get<std::string>(cell));
 }
 
 std::vector<std::string> shown(const std::vector<Cell>& row)
@@ -43,10 +44,10 @@ std::size_t character_count(const std::string& text)
 std::vector<std::vector<std::string>> lines(const Table& table)
 {
     std::vector<std::vector<std::string>> all(1);
-    for (const auto& column : table.columns) all[0].push_back(column.heading);
+    for (const auto& column : table.columns) all[0].push_back(visible(column.heading));
     if (std::ranges::any_of(table.columns, [](const Column& column) { return !column.unit.empty(); })) {
         auto& units = all.emplace_back();
-        for (const auto& column : table.columns) units.push_back(unit(column));
+        for (const auto& column : table.columns) units.push_back(visible(unit(column)));
     }
     for (const auto& row : table.rows) all.push_back(shown(row));
     return all;
@@ -94,10 +95,10 @@ bool add_tables(const std::vector<Table>& tables, std::string& text)
 
 std::string format_text(const Report& report)
 {
-    std::string text = report.title.empty() ? "" : fmt::format("{}\n", report.title);
+    std::string text = report.title.empty() ? "" : visible(report.title, true) + "\n";
     add_tables(report.input, text);
     for (const auto& section : report.sections) {
-        add_block(section.heading + "\n", text);
+        add_block(visible(section.heading) + "\n", text);
         if (!add_tables(section.tables, text))
             add_block(fmt::format("Nothing flows in this {}.\n", section.kind), text);
         for (const auto& [key, excerpt] : section.excerpts) add_block(excerpt + "\n", text);

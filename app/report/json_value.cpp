@@ -2,7 +2,19 @@
 
 #include <algorithm>
 
+#include "app/io/visible_text.h"
+
 namespace app {
+
+namespace {
+
+// The library escapes control characters below blank only; a terminal obeys those from DEL to U+009F too.
+std::string without_controls(const std::string& json)
+{
+    return has_control_characters(json) ? visible(json) : json;
+}
+
+}  // namespace
 
 JsonValue& JsonValue::operator[](const std::string& key)
 {
@@ -27,7 +39,7 @@ std::string JsonValue::dump() const
 
 std::string JsonValue::text(const nlohmann::json& scalar)
 {
-    return scalar.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+    return without_controls(scalar.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));
 }
 
 void JsonValue::append(std::string& out, std::size_t indent) const

@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 
+#include "app/io/distinct_name.h"
 #include "app/report/distribution_tables.h"
 #include "app/report/fit_tables.h"
 #include "app/report/input_tables.h"
@@ -64,6 +66,16 @@ void add_not_finite(const Section& section, const Table& table, const Case& inpu
         }
 }
 
+// Columns are named by segments, properties and curves too, which may have the name of another one.
+void keep_columns_apart(Report& report)
+{
+    for (auto& section : report.sections)
+        for (auto& table : section.tables) {
+            std::set<std::string> taken;
+            for (auto& column : table.columns) column.key = distinct_name(column.key, taken);
+        }
+}
+
 void add_not_finite(const Case& input, Report& report)
 {
     for (const auto& section : report.sections)
@@ -93,6 +105,7 @@ Report make_report(const Case& input, const Results& results)
     for (const auto& distribution : results.distributions)
         report.sections.push_back(distribution_section(distribution));
     for (const auto& set : results.parameters) report.sections.push_back(parameter_section(set));
+    keep_columns_apart(report);
     add_not_finite(input, report);
     append(results.warnings, report);
     return report;

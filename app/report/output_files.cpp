@@ -4,9 +4,10 @@
 
 #include <algorithm>
 #include <fstream>
-#include <stdexcept>
+#include <set>
 
 #include "app/io/descriptor.h"
+#include "app/io/distinct_name.h"
 #include "app/report/format.h"
 #include "app/report/result_numbers.h"
 
@@ -36,44 +37,62 @@ std::string page_title(std::string title)
     return title;
 }
 
-// Names of distributions are free texts; those of files are not.
+// Names of distributions are free texts; those of files are not, and have a greatest length.
 std::string file_part(std::string name)
 {
+    constexpr std::size_t longest = 100;
+    if (name.size() > longest) name.resize(longest);
     std::ranges::replace_if(
         name, [](char c) { return !std::isalnum(static_cast<unsigned char>(c)) && c != '-' && c != '_'; },
         '_');
     return name;
 }
 
-std::string wide_csv(const Table& table)
+std::string wide_csv(const Table& table, CsvTexts texts)
 {
-    const auto field = [](const Cell& cell) { return text(cell); };
     std::string csv;
     for (const auto& column : table.columns)
-        csv += fmt::format("{}{}", csv.empty() ? "" : ",", csv_field(column.key));
+        csv += fmt::format("{}{}", csv.empty() ? "" : ",", csv_field(column.key, texts));
     for (const auto& row : table.rows) {
         csv += '\n';
-        for (const auto& cell : row) csv += (&cell == row.data() ? "" : ",") + field(cell);
+        for (const auto& cell : row)
+            csv += (&cell == row.data() ? "" : ",") +
+                   (is_number(cell) ? text(cell) : csv_field(text(cell), texts));
     }
     return csv + '\n';
 }
 
 enum class CurveFile { calculated, measured };
 
-std::string curve_file(const std::string& name, const std::string& distribution, CurveFile curve)
+std::string curve_file(const std::string& name, const std::string& part, CurveFile curve)
 {
-    return fmt::format("{}.{}{}.csv", name, file_part(distribution),
-                       curve == CurveFile::measured ? ".gpc" : "");
+    return fmt::format("{}.{}{}.csv", name, part, curve == CurveFile::measured ? ".gpc" : "");
 }
 
-void add_curves(const std::string& name, const Report& report, std::vector<OutputFile>& files)
+// By distribution, of different ones each.
+class FileParts {
+public:
+    std::string next(const std::string& distribution)
+    {
+        return distinct_name(file_part(distribution), taken_);
+    }
+
+private:
+    std::set<std::string> taken_{"fit"};  // the command of that name writes NAME.fit.csv
+};
+
+void add_curves(const std::string& name, const Report& report, CsvTexts texts, std::vector<OutputFile>& files)
 {
-    for (const auto& section : report.sections)
+    FileParts parts;
+    for (const auto& section : report.sections) {
+        if (section.kind != "distribution") continue;
+        const auto part = parts.next(section.name);
         for (const auto& table : section.tables)
-            if (table.is_long && section.kind == "distribution") {
+            if (table.is_long) {
                 const auto curve = table.key == "gpc_curve" ? CurveFile::measured : CurveFile::calculated;
-                files.push_back({curve_file(name, section.name, curve), wide_csv(table)});
+                files.push_back({curve_file(name, part, curve), wide_csv(table, texts)});
             }
+    }
 }
 
 // Its first column is that of a table of curves.
@@ -83,16 +102,6 @@ bool holds_curves(const std::filesystem::path& file)
     std::string heading(32, '\0');
     std::ifstream{file}.read(heading.data(), static_cast<std::streamsize>(heading.size()));
     return heading.starts_with("chain_length,") || heading.starts_with("molecular_weight,chain_length,");
-}
-
-void check_unique(const std::vector<OutputFile>& files)
-{
-    for (auto file = files.begin(); file != files.end(); ++file)
-        if (std::find_if(files.begin(), file, [&](const auto& f) { return f.name == file->name; }) != file)
-            throw std::runtime_error{fmt::format(
-                "two distributions would be written to {}; expected names that differ in more than "
-                "punctuation",
-                file->name)};
 }
 
 }  // namespace
@@ -105,15 +114,14 @@ std::string report_file(const Case& input, const Report& report, const LibraryOu
 }
 
 std::vector<OutputFile> output_files(const std::string& name, const Case& input, const Report& report,
-                                     const LibraryOutput& library_output)
+                                     const LibraryOutput& library_output, CsvTexts texts)
 {
     std::vector<OutputFile> files{{name + ".rpt", report_file(input, report, library_output)},
                                   {name + ".sum", library_output.summary},
-                                  {name + ".csv", format_csv(report)},
+                                  {name + ".csv", format_csv(report, texts)},
                                   {name + ".json", format_json(report)},
                                   {name + ".html", format_html(report)}};
-    add_curves(name, report, files);
-    check_unique(files);
+    add_curves(name, report, texts, files);
     return files;
 }
 
@@ -121,9 +129,12 @@ std::vector<std::string> output_names(const std::string& name, const Case& input
 {
     std::vector<std::string> names;
     for (const auto* ending : {".rpt", ".sum", ".csv", ".json", ".html"}) names.push_back(name + ending);
-    for (const auto& distribution : input.distributions)
+    FileParts parts;
+    for (const auto& distribution : input.distributions) {
+        const auto part = parts.next(distribution.name.id);
         for (const auto curve : {CurveFile::calculated, CurveFile::measured})
-            names.push_back(curve_file(name, distribution.name.id, curve));
+            names.push_back(curve_file(name, part, curve));
+    }
     return names;
 }
 
@@ -150,14 +161,14 @@ std::vector<std::filesystem::path> earlier_files(const std::filesystem::path& di
     return earlier;
 }
 
-std::vector<OutputFile> fit_files(const std::string& name, const Report& report)
+std::vector<OutputFile> fit_files(const std::string& name, const Report& report, CsvTexts texts)
 {
     std::vector<OutputFile> files{{name + ".fit.txt", format_text(report)},
-                                  {name + ".fit.csv", format_csv(report)},
+                                  {name + ".fit.csv", format_csv(report, texts)},
                                   {name + ".fit.json", format_json(report)},
                                   {name + ".fit.html", format_html(report)}};
     for (const auto& table : report.sections.front().tables)
-        if (table.is_long) files.push_back({name + ".fit.curves.csv", wide_csv(table)});
+        if (table.is_long) files.push_back({name + ".fit.curves.csv", wide_csv(table, texts)});
     return files;
 }
 

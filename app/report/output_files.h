@@ -8,6 +8,7 @@
 #include "app/evaluation/results.h"
 #include "app/io/file_set.h"
 #include "app/report/report_model.h"
+#include "app/report/result_numbers.h"
 
 namespace app {
 
@@ -15,9 +16,9 @@ namespace app {
 std::string report_file(const Case& input, const Report& report, const LibraryOutput& library_output);
 
 // NAME.rpt, NAME.sum, NAME.csv, NAME.json, NAME.html, and NAME.DISTRIBUTION.csv with the curves of each
-// distribution. Throws std::runtime_error when two files would have the same name.
+// distribution, whose name has only letters, digits, - and _ there, and a number where it is taken.
 std::vector<OutputFile> output_files(const std::string& name, const Case& input, const Report& report,
-                                     const LibraryOutput& library_output);
+                                     const LibraryOutput& library_output, CsvTexts texts = CsvTexts::exact);
 
 // The names of all files that a run may write, and of those that a fit writes.
 std::vector<std::string> output_names(const std::string& name, const Case& input);
@@ -30,6 +31,7 @@ std::vector<std::filesystem::path> earlier_files(const std::filesystem::path& di
                                                  const std::vector<OutputFile>& files);
 
 // NAME.fit.txt, .csv, .json, .html, and NAME.fit.curves.csv with the curves of the sites.
-std::vector<OutputFile> fit_files(const std::string& name, const Report& report);
+std::vector<OutputFile> fit_files(const std::string& name, const Report& report,
+                                  CsvTexts texts = CsvTexts::exact);
 
 }  // namespace app

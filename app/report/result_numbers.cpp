@@ -84,8 +84,12 @@ std::vector<ResultNumber> result_numbers(const Report& report)
     return all;
 }
 
-std::string csv_field(const std::string& text)
+std::string csv_field(const std::string& text, CsvTexts texts)
 {
+    constexpr std::string_view formula_starts = "=+-@\t\r\n";
+    if (texts == CsvTexts::guarded && !text.empty() &&
+        formula_starts.find(text.front()) != formula_starts.npos)
+        return csv_field("'" + text);
     if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
     std::string quoted = "\"";
     for (const char c : text) quoted += c == '"' ? "\"\"" : std::string{c};

@@ -31,7 +31,11 @@ std::string text_of(const Table& table, const std::vector<Cell>& row, std::strin
 // In the order of the report, which has to outlive them.
 std::vector<ResultNumber> result_numbers(const Report& report);
 
+// Texts of CSV fields: as they are, or with ' before those that a spreadsheet would take for a formula: with
+// =, +, -, @, a tab or a line end at the start.
+enum class CsvTexts { exact, guarded };
+
 // Quotes a field with a comma, a quote or a line end; quotes inside it are doubled.
-std::string csv_field(const std::string& text);
+std::string csv_field(const std::string& text, CsvTexts texts = CsvTexts::exact);
 
 }  // namespace app

@@ -36,8 +36,6 @@ Reals by_position(FromCounts& routine, const SegmentCounts& counts, const Compon
 SegmentCounts segment_counts(const Components& list, std::size_t components)
 {
     SegmentCounts found{components, {}, std::vector<Int>(components), Reals(components * components)};
-    // A list without chains leaves everything but their number untouched.
-    for (const auto c : list) found.counts[at(c)] = 1;
     const auto idx = indices(list);
     const Int n = count(list);
     const auto nc = static_cast<Int>(components);
@@ -49,6 +47,11 @@ SegmentCounts segment_counts(const Components& list, std::size_t components)
                  found.counts.data(), dpn.data());
     for (Int s = 0; s < nseg; ++s) found.segments.push_back({iseg[static_cast<std::size_t>(s)]});
     return found;
+}
+
+SegmentCounts no_segment_counts(std::size_t components)
+{
+    return {components, {}, std::vector<Int>(components), Reals(components, 1.0)};
 }
 
 // POLY_GETMWS answers by component index, the others by position.

@@ -12,6 +12,7 @@ struct SegmentCounts {
     std::vector<Int> chain_flags;  // by component index: 1 for a polymer or oligomer of the list
     Reals counts;                  // column-major, rows and columns by component index
 
+    // The matrix of a list without chains has only its first column.
     bool is_chain(Component c) const { return chain_flags[at(c)] == 1; }
     double of(Component chain, Component segment) const
     {
@@ -21,6 +22,9 @@ struct SegmentCounts {
 
 // From the attributes of the selected stream, not from its chain averages, so that the two can be compared.
 SegmentCounts segment_counts(const Components& list, std::size_t components);
+
+// Of a list without polymers and oligomers.
+SegmentCounts no_segment_counts(std::size_t components);
 
 // Averages of the listed chains by position, g/mol; molecular weights by component index, g/mol.
 Reals mean_segment_weights(const SegmentCounts& counts, const Components& chains,

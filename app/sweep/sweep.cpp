@@ -78,7 +78,7 @@ public:
     Sweep(const SweepOptions& options, SweepGrid grid)
         : options_(options),
           grid_(std::move(grid)),
-          text_(file_contents(options.file)),
+          text_(input_file_contents(options.file)),
           document_(text_, options.file.string())
     {
     }

@@ -2,6 +2,8 @@
 #include <limits>
 
 #include "case/interface.h"
+#include "fuzz/key_cases.h"
+#include "support/files.h"
 
 namespace {
 
@@ -211,6 +213,17 @@ TEST(Case, AnswersForAHandleThatIsNull)
     EXPECT_EQ(rows, 7u);
     polyprops_case_free(nullptr);
     polyprops_run_free(nullptr);
+}
+
+TEST(KeptSeeds, ReadAndChangeKeys)
+{
+    int seeds = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(POLYPROPS_FUZZ_SEEDS "/key")) {
+        SCOPED_TRACE(entry.path());
+        EXPECT_NO_THROW(polyprops_fuzz::check_keys(support::content(entry.path())));
+        ++seeds;
+    }
+    EXPECT_GT(seeds, 0);
 }
 
 }  // namespace

@@ -50,6 +50,55 @@ Lines diagnose(const std::string& text)
     return loaded.add_streams(input).lines("c.toml");
 }
 
+std::string joined(const Lines& lines)
+{
+    std::string text;
+    for (const auto& line : lines) text += (text.empty() ? "" : "\n") + line;
+    return text;
+}
+
+// Within the limits, a text that says nothing more is an error of another kind.
+TEST(CaseDiagnostics, RefuseDepthAndSizeBeforeParsing)
+{
+    const auto repeated = [](const std::string& part, std::size_t times) {
+        std::string text;
+        for (std::size_t i = 0; i < times; ++i) text += part;
+        return text;
+    };
+    const std::string deep = "tables and arrays are nested more than 200 deep; expected 200 at most";
+    const struct {
+        const char* name;
+        std::string before, part, after;
+        std::size_t most;
+        const char* place;  // of the part that is one too many
+    } cases[] = {
+        {"key", "x = '.'\n", "a.", "a = 1\n", 199, "2:400"},
+        {"arrays", "x = ", "[", "1.5", 199, "1:204"},
+        {"inline tables", "x = [1, 2]\ny = ", "{ b = ", "1", 199, "2:1199"},
+        {"header", "# [\n[", "a.", "a]\n", 199, "2:401"},
+        {"keys below a header", "[a.b]\n", "c.", "c = 1\n", 197, "2:396"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        EXPECT_EQ(diagnose(c.before + repeated(c.part, 50000) + c.after),
+                  Lines{std::string{"c.toml:"} + c.place + ": " + deep});
+        EXPECT_EQ(joined(diagnose(c.before + repeated(c.part, c.most) + c.after)).find(deep),
+                  std::string::npos);
+    }
+    const auto strings =
+        "title = \"\"\"" + repeated("[", 300) + "\"\"\" # " + repeated("[", 300) + "\n" + good;
+    EXPECT_EQ(diagnose(strings), Lines{});
+    const auto sites = "sites = [" + repeated("{ tau = 1, amount = 1 }, ", 9999);
+    const auto wide = diagnose(with(with(good, "sites = [", sites), "points = 9", "points = 100000"));
+    ASSERT_EQ(wide.size(), 1u);
+    EXPECT_EQ(wide.front().find("c.toml:25:16: distributions.D: 100000 points of 10003 curves need 932 "
+                                "GiB of memory; "),
+              0u)
+        << wide.front();
+    EXPECT_EQ(diagnose(std::string((64U << 20U) + 1, '\n')),
+              Lines{"c.toml: the text has 67108865 bytes; expected 64 MiB at most"});
+}
+
 TEST(CaseDiagnostics, NamePlaceKeyValueAndExpectation)
 {
     EXPECT_EQ(diagnose(good), Lines{});
@@ -186,6 +235,19 @@ TEST(CaseDiagnostics, NamePlaceKeyValueAndExpectation)
         {"\"O\"], v", "\"R\"], v",
          R"(32:31: parameters.K.pairs names "R", which is not in parameters.K.components; expected one of P, O)"},
         {"\"O\"], v", "\"P\"], v", R"(32:31: parameters.K.pairs pairs "P" with itself)"},
+        {"values = ", "value = ",
+         "32:10: parameters.K.pairs[1].values is missing; expected 6 numbers\n"
+         "c.toml:32:37: unknown key \"value\"; did you mean \"values\"?"},
+        {"[0, 0, 0, 0, 0, 300]", "300", "32:37: parameters.K.pairs[1].values is 300; expected an array"},
+        {"[\"P\", \"O\"], v", "\"P\", v",
+         "32:12: parameters.K.pairs[1].components is \"P\"; expected an array"},
+        {"[300]", "[]", "31:1: parameters.K.temperatures is empty; expected at least one temperature"},
+        {"[1.0, 2.0]", "[]",
+         "16:1: streams.S.attributes.P.SFLOW has 0 values; the polymer has 2 segments (A-R, B-E)"},
+        {"distributions.D", "distributions.\"D\\u001B\"",
+         "25:16: the name \"D\\u001B\" is no text of one line without control characters"},
+        {"\"cm3/mol\"", "\"a\\nb\"",
+         "20:1: properties.V.unit is \"a\\u000Ab\"; expected a text of one line without control characters"},
         {"0, 0, 0, 0, 0, 300", "0, 0",
          "32:37: parameters.K.pairs[1].values has 2 values; expected 6, one for each position"},
         {"300] }", "0] }",
@@ -199,8 +261,8 @@ TEST(CaseDiagnostics, NamePlaceKeyValueAndExpectation)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.replacement);
-        EXPECT_EQ(diagnose(with(good, row.old, row.replacement)),
-                  Lines{std::string{"c.toml:"} + row.diagnostic});
+        EXPECT_EQ(joined(diagnose(with(good, row.old, row.replacement))),
+                  std::string{"c.toml:"} + row.diagnostic);
     }
 }
 

@@ -54,6 +54,23 @@ TEST(MeasuredCurve, AnExportedCompositeComesBackWithoutResidual)
     EXPECT_NEAR(measured["overlay"].get<double>(), calculated["composite"].get<double>(), 1e-4);
 }
 
+TEST(MeasuredCurve, MayHaveNotesInAnyBytes)
+{
+    const File case_file{one_site};
+    const File measured{"caf\xE9 \x1B[2J\x7F\nM S\n1000 1\n20000 3\n", "measur\xE9"};
+    cli::RunOptions options;
+    options.gpc = measured.path;
+    const auto seen = run(options, case_file.path, Format::json);
+    ASSERT_EQ(seen.status, 0) << seen.errors;
+    EXPECT_EQ(seen.out.find('\x7F'), std::string::npos);
+    const auto section = Json::parse(seen.out)["distributions"][0];
+    EXPECT_EQ(section["gpc_notes"], "caf\uFFFD \x1B[2J\x7F\nM S");
+    EXPECT_EQ(section["gpc_comparison"][0]["notes"], 2);
+    const auto text = run(options, case_file.path, Format::text).out;
+    EXPECT_NE(text.find("measur\\xE9 "), std::string::npos) << text;
+    EXPECT_EQ(app::html_text("caf\xE9 \x1B\n<"), "caf\uFFFD \uFFFD\n&lt;");
+}
+
 // Signals 1 and 3 at 10 000 and 100 000 g/mol: one trapezoid of area 2 over one decade.
 TEST(MeasuredCurve, ResidualComparesCurvesOfAreaOne)
 {

@@ -48,6 +48,7 @@ TEST(MeasuredCurve, ReadsEverySeparatorDecimalCommasAndCorrections)
          "\xEF\xBB\xBF"
          "1000 1\n2000 3\n",
          "", "1000 1, 2000 3"},
+        {"notes", "# 1 2\nrun 5 at 35 C\nM\nM S\n1000 1\n2000 3\n", "", "1000 1, 2000 3"},
         {"heading of a logarithm", "log10(M),S\n3,1\n2,3\n", "", "100 3, 1000 1"},
         {"option for a logarithm", "3 1\n4 3\n", "--gpc-column log10m", "1000 1, 10000 3"},
         {"option against a heading", "log M,S\n3,1\n4,3\n", "--gpc-column m", "3 1, 4 3"},
@@ -95,6 +96,9 @@ TEST(MeasuredCurve, NamesTheOptionOrLineThatIsWrong)
          "from 10 to 20 g/mol"},
         {"time M S\n5 1000 1\n6 2000 3\n", "",
          "m.txt:2: \"5 1000 1\"; expected two numbers, molecular weight and signal; the line has 3 numbers"},
+        {"M,S\n1000,x\n2000,3\n", "",
+         "m.txt:2: \"1000,x\"; expected two numbers, molecular weight and signal, or"},
+        {"a\x1B\xFF 1 2\n1000 1\n2000 2\n", "", "m.txt:1: \"a\\u001B\\xFF 1 2\"; expected two numbers"},
         {"M S\n1000 1\n2000;3;4\n", "", "m.txt:3: \"2000;3;4\"; expected two numbers"},
         {"M,S\n1000,5,0,25\n2000,5,0,75\n", "",
          "m.txt:2: \"1000,5,0,25\"; expected two numbers, molecular weight and signal; the line has 4 "

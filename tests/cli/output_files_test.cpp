@@ -74,9 +74,38 @@ TEST_F(OutputDirectory, IsAsItWasWhenOneFileCannotBeWritten)
 TEST_F(OutputDirectory, KeepsDistributionsApart)
 {
     const std::string curve = "points = 2\nlongest_chain = 9\nsites = [{ tau = 1, amount = 1 }]\n";
-    const auto text = "[components]\nP = { molecular_weight = 1 }\n[distributions.\"A 1\"]\n" + curve;
-    EXPECT_EQ(files_of(evaluated(text)).back().name, "n.A_1.csv");
-    EXPECT_THROW(files_of(evaluated(text + "[distributions.A_1]\n" + curve)), std::runtime_error);
+    const auto files =
+        files_of(evaluated("[components]\nP = { molecular_weight = 1 }\n[distributions.\"A 1\"]\n" + curve +
+                           "[distributions.A_1]\n" + curve + "[distributions.A_1_2]\n" + curve +
+                           "[distributions.fit]\n" + curve));
+    Lines names;
+    for (std::size_t i = 5; i < files.size(); ++i) names.push_back(files[i].name);
+    EXPECT_EQ(names, (Lines{"n.A_1.csv", "n.A_1_2.csv", "n.A_1_2_2.csv", "n.fit_2.csv"}));
+}
+
+// The second site of A and the first of `A: site x` would have the same curve name.
+TEST(Columns, StayApartWhenNamesCollide)
+{
+    const std::string site = "tau = 1, amount = 1 }";
+    const auto e = evaluated(
+        "[components]\nP = { molecular_weight = 1 }\n[distributions.D]\npoints = 2\nlongest_chain = 9\n"
+        "sections = [{ name = \"A\", sites = [{ name = \"x: site y\", " +
+        site + "] }, { name = \"A: site x\", sites = [{ name = \"y\", " + site + "] }]\n");
+    const auto row = Json::parse(app::format_json(e.report))["distributions"][0]["distribution_curves"][0];
+    EXPECT_TRUE(row.contains("A: site x: site y"));
+    EXPECT_TRUE(row.contains("A: site x: site y_2"));
+}
+
+TEST(Csv, ProtectsTextsThatSpreadsheetsWouldCompute)
+{
+    for (const char* text : {"=1+1", "+1", "-1", "@A1"}) {
+        EXPECT_EQ(app::csv_field(text), text);
+        EXPECT_EQ(app::csv_field(text, app::CsvTexts::guarded), std::string{"'"} + text);
+    }
+    EXPECT_EQ(app::csv_field("=a,\"b\"\r\nc", app::CsvTexts::guarded), "\"'=a,\"\"b\"\"\r\nc\"");
+    const auto e =
+        evaluated("[components]\nP = { molecular_weight = 1 }\n[streams.\"=S\"]\nflows = { P = 1 }\n");
+    EXPECT_NE(app::format_csv(e.report, app::CsvTexts::guarded).find("\nstream,'=S,"), std::string::npos);
 }
 
 TEST(Pages, HoldAsManyLinesAsTheCaseSays)
