@@ -42,6 +42,5 @@ try {
     std::cout.flush();
     return cli::checked_output(status);
 } catch (const std::exception& error) {
-    std::fprintf(stderr, "polyprops: %s\n", error.what());
-    return cli::exit_case_error;
+    return cli::fail(error.what(), stderr);
 }

@@ -23,6 +23,7 @@ Descriptor open_file(const std::filesystem::path& path, int flags)
 {
     constexpr mode_t readable_and_writable = 0666;  // less the bits of umask
     int number = -1;
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the call has an optional argument
     do number = ::open(path.c_str(), flags | O_CLOEXEC, readable_and_writable);
     while (number < 0 && errno == EINTR);
     return Descriptor{number};

@@ -179,9 +179,9 @@ try {
         return !fs::is_symlink(path) && !is_stream(path);
     };
     auto replaced = files;
-    const auto written = std::ranges::stable_partition(replaced, is_replaced);
-    const std::vector<OutputFile> through{written.begin(), written.end()};
-    replaced.erase(written.begin(), written.end());
+    const auto written = std::stable_partition(replaced.begin(), replaced.end(), is_replaced);
+    const std::vector<OutputFile> through{written, replaced.end()};
+    replaced.erase(written, replaced.end());
     Replacement{target, replaced}.write();
     for (const auto& file : through) write_whole_file(target / file.name, file.content);
 } catch (const fs::filesystem_error& error) {

@@ -38,7 +38,7 @@ Descriptor open_stream(const fs::path& path)
     const auto name = path.filename().string();
     int number = -1;
     std::from_chars(name.data(), name.data() + name.size(), number);
-    return Descriptor{::fcntl(number, F_DUPFD_CLOEXEC, 0)};
+    return Descriptor{::dup(number)};
 }
 
 void write_stream(const fs::path& path, std::string_view content)

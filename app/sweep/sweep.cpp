@@ -98,11 +98,11 @@ public:
 
     SweepOutcome run(const SweepProgress& progress)
     {
+        const Interruption interruption;
         SweepJournal journal{options_.out, identity(), grid_.size()};
         std::vector<std::size_t> missing;
         for (std::size_t number = 1; number <= grid_.size(); ++number)
             if (!journal.rows().contains(number)) missing.push_back(number);
-        const Interruption interruption;
         run_tasks(
             missing, {processes(), [] { return is_interrupted != 0; }},
             [this](std::size_t number) { return row(number); },

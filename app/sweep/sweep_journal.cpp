@@ -60,9 +60,8 @@ SweepJournal::SweepJournal(std::filesystem::path result, const std::string& swee
 // A lock of this process: its children, which may outlive it, do not keep it.
 void SweepJournal::lock() const
 {
-    struct flock whole {};
-    whole.l_type = F_WRLCK;
-    if (::fcntl(descriptor_.number(), F_SETLK, &whole) != 0 && (errno == EACCES || errno == EAGAIN))
+    constexpr off_t all = 0;
+    if (::lockf(descriptor_.number(), F_TLOCK, all) != 0 && (errno == EACCES || errno == EAGAIN))
         throw_not_written(file_, "another sweep is writing it");
 }
 

@@ -1,6 +1,6 @@
 /*
- * Counts the calls of a process that change files or start processes, or those that allocate memory, and lets one of
- * them fail or be its last. To be loaded before all libraries (LD_PRELOAD).
+ * Counts the calls of a process that change files or start processes, or those that allocate memory, and lets
+ * one of them fail or meet a signal. To be loaded before all libraries (LD_PRELOAD).
  *
  *   FAIL_WHICH   "files" or "memory"
  *   FAIL_AT      the call, from 1; 0 for none
@@ -20,13 +20,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-void* __libc_malloc(size_t size);
-void* __libc_calloc(size_t count, size_t size);
-void* __libc_realloc(void* memory, size_t size);
+void* real_malloc(size_t size) __asm__("__libc_malloc");
+void* real_calloc(size_t count, size_t size) __asm__("__libc_calloc");
+void* real_realloc(void* memory, size_t size) __asm__("__libc_realloc");
 
-enum { files = 'f', memory = 'm' };
+static const char files = 'f', memory = 'm'; /* first letters of FAIL_WHICH */
 
-static int which;
+static char which;
 static long at, how, calls;
 static pid_t process;
 
@@ -46,10 +46,14 @@ static int counted(int count, char** arguments, char** environment)
 }
 
 /* Calls count from main on: what libraries do before it cannot be reported. */
-int __libc_start_main(int (*main)(int, char**, char**), int count, char** arguments, void (*init)(void),
-                      void (*fini)(void), void (*end)(void), void* stack)
+int start(int (*main)(int, char**, char**), int count, char** arguments, void (*init)(void),
+          void (*fini)(void), void (*end)(void), void* stack) __asm__("__libc_start_main");
+
+int start(int (*main)(int, char**, char**), int count, char** arguments, void (*init)(void),
+          void (*fini)(void), void (*end)(void), void* stack)
 {
-    int (*real)(int (*)(int, char**, char**), int, char**, void (*)(void), void (*)(void), void (*)(void), void*);
+    int (*real)(int (*)(int, char**, char**), int, char**, void (*)(void), void (*)(void), void (*)(void),
+                void*);
     void* found = dlsym(RTLD_NEXT, "__libc_start_main");
     memcpy((void*)&real, (void*)&found, sizeof found);
     program = main;
@@ -66,7 +70,7 @@ __attribute__((destructor)) static void finish(void)
     fclose(file);
 }
 
-static int is_due(int kind)
+static int is_due(char kind)
 {
     if (which != kind || ++calls != at) return 0;
     if (how < 0) raise((int)-how);
@@ -77,70 +81,71 @@ static int is_due(int kind)
 
 static void* next(const char* name)
 {
-    const int kept = which;
+    const char kept = which;
     which = 0;
     void* found = dlsym(RTLD_NEXT, name);
     which = kept;
     return found;
 }
 
-#define REPLACE(type, failed, name, parameters, arguments)               \
-    type name parameters                                                 \
-    {                                                                    \
-        static type(*real) parameters;                                   \
-        void* found = real ? NULL : next(#name);                         \
-        if (found) memcpy((void*)&real, (void*)&found, sizeof found);    \
-        return is_due(files) ? (failed) : real arguments;                \
+#define REPLACE(type, failed, name, parameters, arguments)            \
+    type name parameters                                              \
+    {                                                                 \
+        static __typeof__(&(name)) real;                              \
+        void* found = real ? NULL : next(#name);                      \
+        if (found) memcpy((void*)&real, (void*)&found, sizeof found); \
+        return is_due(files) ? (failed) : real arguments;             \
     }
 
-REPLACE(ssize_t, -1, write, (int file, const void* text, size_t size), (file, text, size))
-REPLACE(int, -1, fsync, (int file), (file))
-REPLACE(int, -1, ftruncate, (int file, off_t size), (file, size))
-REPLACE(int, -1, fchmod, (int file, mode_t mode), (file, mode))
-REPLACE(int, -1, chmod, (const char* path, mode_t mode), (path, mode))
+REPLACE(ssize_t, -1, write, (int fd, const void* buf, size_t n), (fd, buf, n))
+REPLACE(int, -1, fsync, (int fd), (fd))
+REPLACE(int, -1, ftruncate, (int fd, off_t length), (fd, length))
+REPLACE(int, -1, fchmod, (int fd, mode_t mode), (fd, mode))
+REPLACE(int, -1, chmod, (const char* file, mode_t mode), (file, mode))
 REPLACE(int, -1, mkdir, (const char* path, mode_t mode), (path, mode))
 REPLACE(int, -1, rmdir, (const char* path), (path))
 REPLACE(int, -1, link, (const char* from, const char* to), (from, to))
-REPLACE(int, -1, unlink, (const char* path), (path))
-REPLACE(int, -1, remove, (const char* path), (path))
-REPLACE(int, -1, rename, (const char* from, const char* to), (from, to))
-REPLACE(int, -1, renameat2, (int a, const char* from, int b, const char* to, unsigned how), (a, from, b, to, how))
-REPLACE(int, -1, pipe, (int ends[2]), (ends))
+REPLACE(int, -1, unlink, (const char* name), (name))
+REPLACE(int, -1, remove, (const char* filename), (filename))
+REPLACE(int, -1, rename, (const char* old, const char* new), (old, new))
+REPLACE(int, -1, renameat2, (int oldfd, const char* old, int newfd, const char* new, unsigned flags),
+        (oldfd, old, newfd, new, flags))
+REPLACE(int, -1, pipe, (int pipedes[2]), (pipedes))
 REPLACE(pid_t, -1, fork, (void), ())
-REPLACE(char*, NULL, mkdtemp, (char* name), (name))
-REPLACE(DIR*, NULL, opendir, (const char* path), (path))
+REPLACE(char*, NULL, mkdtemp, (char* template), (template))
+REPLACE(DIR*, NULL, opendir, (const char* name), (name))
 
 /* The file is closed even so. */
-int close(int file)
+int close(int fd)
 {
-    static int (*real)(int);
+    static __typeof__(&close) real;
     void* found = real ? NULL : next("close");
     if (found) memcpy((void*)&real, (void*)&found, sizeof found);
     const int fails = is_due(files);
-    const int result = real(file);
+    const int result = real(fd);
     return fails ? -1 : result;
 }
 
-int open(const char* path, int flags, ...)
+int open(const char* file, int oflag, ...)
 {
     va_list rest;
-    va_start(rest, flags);
+    va_start(rest, oflag);
     const mode_t mode = va_arg(rest, mode_t);
     va_end(rest);
-    return is_due(files) ? -1 : openat(AT_FDCWD, path, flags, mode);
+    return is_due(files) ? -1 : openat(AT_FDCWD, file, oflag, mode);
 }
 
 void* malloc(size_t size)
 {
-    return is_due(memory) ? NULL : __libc_malloc(size);
+    return is_due(memory) ? NULL : real_malloc(size);
 }
 
-void* calloc(size_t count, size_t size)
+void* calloc(size_t nmemb, size_t size)
 {
-    return is_due(memory) ? NULL : __libc_calloc(count, size);
+    return is_due(memory) ? NULL : real_calloc(nmemb, size);
 }
 
-void* realloc(void* old, size_t size)
+void* realloc(void* ptr, size_t size)
 {
-    return is_due(memory) ? NULL : __libc_realloc(old, size);
+    return is_due(memory) ? NULL : real_realloc(ptr, size);
 }
