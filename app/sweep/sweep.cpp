@@ -107,7 +107,11 @@ public:
             missing, {processes(), [] { return is_interrupted != 0; }},
             [this](std::size_t number) { return row(number); },
             [&](const TaskOutcome& outcome) {
-                journal.add(outcome.task, outcome.result.value_or(failed_row(outcome.task, outcome.why)));
+                // Why a process ended need not be a property of the case.
+                if (outcome.result)
+                    journal.add(outcome.task, *outcome.result);
+                else
+                    journal.add_for_now(outcome.task, failed_row(outcome.task, outcome.why));
                 progress(journal.rows().size(), grid_.size());
             });
         return conclude(journal);

@@ -23,6 +23,8 @@ public:
     const std::map<std::size_t, std::string>& rows() const { return rows_; }
     // Throws std::runtime_error when the disk refuses it.
     void add(std::size_t number, const std::string& row);
+    // For the result alone: a sweep that goes on later computes the case again.
+    void add_for_now(std::size_t number, const std::string& row) { rows_[number] = row; }
     // Writes the result, its header and the rows in the order of their numbers, and removes the journal.
     void finish(const std::string& header);
 
