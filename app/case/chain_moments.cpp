@@ -131,6 +131,7 @@ private:
         return fmt::format("{}", fmt::join(ids, ", "));
     }
 
+    // NOLINTNEXTLINE(readability-function-cognitive-complexity)
     std::optional<Averages> read_averages(double m0)
     {
         const auto& f = fraction_;

@@ -81,6 +81,7 @@ private:
 
     void open(char bracket)
     {
+        // NOLINTNEXTLINE(modernize-use-emplace)
         open_.push_back({level_, inner_});
         const bool is_name = is_header_ && open_.size() <= 2 && level_.is_key;
         inner_ = {level_.depth + 1, is_name || bracket == '{'};
@@ -97,8 +98,10 @@ private:
     }
 
     // Text of several lines ends with three of its quotes.
+    // NOLINTNEXTLINE(readability-function-cognitive-complexity)
     void skip_string(char quote)
     {
+        // NOLINTNEXTLINE(modernize-raw-string-literal)
         const std::string_view three = quote == '"' ? "\"\"\"" : "\'\'\'";
         const bool is_long = text_.substr(at_).starts_with(three);
         at_ += is_long ? 3 : 1;

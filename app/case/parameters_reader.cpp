@@ -125,6 +125,7 @@ std::optional<ParameterPair> read_pair(TableReader table, const ParameterSet& se
     return pair;
 }
 
+// NOLINTNEXTLINE(readability-function-cognitive-complexity)
 std::optional<ParameterSet> read_set(const Entry& entry, TableReader table)
 {
     ParameterSet set;
