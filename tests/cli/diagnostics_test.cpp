@@ -95,6 +95,7 @@ TEST(CaseDiagnostics, RefuseDepthAndSizeBeforeParsing)
                                 "GiB of memory; "),
               0u)
         << wide.front();
+    EXPECT_EQ(diagnose("a\u035E = 1\n").size(), 1u);  // no blank and no letter of a key
     EXPECT_EQ(diagnose(std::string((64U << 20U) + 1, '\n')),
               Lines{"c.toml: the text has 67108865 bytes; expected 64 MiB at most"});
 }
