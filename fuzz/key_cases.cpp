@@ -100,7 +100,7 @@ void check_keys(std::string_view lines)
 {
     const auto input = make_case();
     require(polyprops_case_status(input.get()) == POLYPROPS_OK, "the case of the keys has errors");
-    while (!lines.empty()) {
+    for (int left = 8; left > 0 && !lines.empty(); --left) {
         const auto line = lines.substr(0, lines.find('\n'));
         lines.remove_prefix(std::min(line.size() + 1, lines.size()));
         const std::string key{line.substr(0, line.rfind('='))};

@@ -11,6 +11,7 @@
 #include "app/case/case_reader.h"
 #include "app/case/nesting.h"
 #include "app/io/file_contents.h"
+#include "app/io/visible_text.h"
 
 namespace app {
 
@@ -18,7 +19,7 @@ namespace {
 
 [[noreturn]] void refuse(std::string_view key, std::string_view why)
 {
-    throw std::invalid_argument{fmt::format("the key \"{}\" {}", key, why)};
+    throw std::invalid_argument{fmt::format("the key \"{}\" {}", visible(key), visible(why))};
 }
 
 // Takes the key part by part: names, and numbers of array elements.

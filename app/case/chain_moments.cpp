@@ -131,19 +131,23 @@ private:
         return fmt::format("{}", fmt::join(ids, ", "));
     }
 
-    // NOLINTNEXTLINE(readability-function-cognitive-complexity)
     std::optional<Averages> read_averages(double m0)
     {
         const auto& f = fraction_;
         const Number by_dpn = f.dpn ? Number{*f.dpn * m0} : Number{};
         const Number mn = f.mn ? f.mn : by_dpn;
-        const Number by_dispersity = mn && f.dispersity ? Number{*mn * *f.dispersity} : Number{};
+        const Number mw = mn && f.dispersity ? Number{*mn * *f.dispersity} : Number{};
         if (f.mn && by_dpn && !agree(*f.mn, *by_dpn)) return contradiction("mn", *f.mn, "dpn", *by_dpn);
-        if (f.mw && by_dispersity && !agree(*f.mw, *by_dispersity))
-            return contradiction("mw", *f.mw, f.mn ? "mn and dispersity" : "dpn and dispersity",
-                                 *by_dispersity);
+        if (f.mw && mw && !agree(*f.mw, *mw))
+            return contradiction("mw", *f.mw, f.mn ? "mn and dispersity" : "dpn and dispersity", *mw);
         if (mn && f.mw) return with_mz(*mn, *f.mw, m0);
-        if (by_dispersity) return with_mz(*mn, *by_dispersity, m0);
+        if (mw) return with_mz(*mn, *mw, m0);
+        return without_mn_and_mw(mn, m0);
+    }
+
+    std::optional<Averages> without_mn_and_mw(const Number& mn, double m0)
+    {
+        const auto& f = fraction_;
         if (f.mw && f.dispersity) return with_mz(*f.mw / *f.dispersity, *f.mw, m0);
         if (const auto dispersity = dispersity_by_mz(mn)) {
             const double mw = *f.mz / z_ratio(*f.type, *dispersity);
@@ -151,8 +155,7 @@ private:
         }
         if (f.mz && f.mw && f.type)
             return refuse(
-                fmt::format(": mz is {:.6g} g/mol; expected less than twice mw, {:.6g} g/mol, by the "
-                            "type",
+                fmt::format(": mz is {:.6g} g/mol; expected less than twice mw, {:.6g} g/mol, by the type",
                             *f.mz, 2 * *f.mw));
         return refuse(
             fmt::format(" gives {}; expected Mn and Mw by two of mn (or dpn), mw and dispersity, or "

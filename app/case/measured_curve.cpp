@@ -20,6 +20,9 @@ namespace {
 constexpr double least_evident_weight = 100;  // g/mol
 constexpr double least_headed_weight = 10;    // g/mol
 constexpr double largest_exponent = 15;
+// Averages and residuals of numbers within these have no infinity.
+constexpr double largest_weight = 1e15;  // g/mol; its reciprocal is the least
+constexpr double largest_signal = 1e100;
 
 [[noreturn]] void refuse(const std::string& file, const std::string& why)
 {
@@ -69,10 +72,24 @@ WeightColumn evident_column(const CurveColumns& columns, const std::string& file
                        least.first, largest.first));
 }
 
+bool is_weight(double m)
+{
+    return m >= 1 / largest_weight && m <= largest_weight;
+}
+
+double signal(const ColumnPair& pair, const std::string& file)
+{
+    if (std::abs(pair.second) > largest_signal)
+        refuse_line(file, pair.line, pair.text, "a signal of 1e100 at most");
+    return pair.second;
+}
+
 double molecular_weight(const ColumnPair& pair, WeightColumn column, const std::string& file)
 {
     if (column == WeightColumn::m) {
         if (!(pair.first > 0)) refuse_line(file, pair.line, pair.text, "a molecular weight greater than 0");
+        if (!is_weight(pair.first))
+            refuse_line(file, pair.line, pair.text, "a molecular weight from 1e-15 to 1e15 g/mol");
         return pair.first;
     }
     if (std::abs(pair.first) > largest_exponent)
@@ -89,7 +106,7 @@ MeasuredCurve uncorrected(const CurveColumns& columns, const std::string& file, 
     if (column == WeightColumn::evident && !columns.pairs.empty()) column = evident_column(columns, file);
     for (const auto& pair : columns.pairs) {
         curve.molecular_weight.push_back(molecular_weight(pair, column, file));
-        curve.signal.push_back(pair.second);
+        curve.signal.push_back(signal(pair, file));
         curve.lines.push_back(pair.line);
     }
     return curve;
@@ -179,16 +196,26 @@ void settle_negative(MeasuredCurve& curve, NegativeSignal choice, bool has_basel
     }
 }
 
+// A curve of tails only has no averages.
+void check_height(const MeasuredCurve& curve)
+{
+    const double highest = std::ranges::max(curve.signal);
+    if (highest > 0 && highest < 1 / largest_signal)
+        refuse(curve.file, fmt::format("the greatest signal is {}; expected 1e-100 to 1e100", highest));
+}
+
 void calibrate(MeasuredCurve& curve, const UniversalCalibration& c)
 {
     const double slope = (1 + c.a_standard) / (1 + c.a_polymer);
     const double offset = std::log10(c.k_standard / c.k_polymer) / (1 + c.a_polymer);
     for (auto& m : curve.molecular_weight) {
         m = std::pow(10.0, offset + slope * std::log10(m));
-        if (!(m > 0) || !std::isfinite(m))
-            refuse(curve.file,
-                   "--gpc-calibration: a molecular weight becomes 0 or infinite; expected K1 and "
-                   "K2 in the same unit");
+        if (!is_weight(m))
+            refuse(
+                curve.file,
+                fmt::format("--gpc-calibration: a molecular weight becomes {} g/mol; expected 1e-15 to 1e15 "
+                            "g/mol, and K1 and K2 in the same unit",
+                            m));
     }
     // dw/dlog10(M) keeps its area.
     for (auto& signal : curve.signal) signal /= slope;
@@ -205,6 +232,7 @@ MeasuredCurve parse_measured_curve(std::string_view text, const std::string& fil
     if (options.baseline) subtract_baseline(curve, *options.baseline);
     if (options.window) keep_window(curve, *options.window);
     settle_negative(curve, options.negative, options.baseline.has_value());
+    check_height(curve);
     if (options.calibration) calibrate(curve, *options.calibration);
     curve.mark_houwink_exponent = options.mark_houwink_exponent;
     return curve;

@@ -7,6 +7,8 @@
 #include <cmath>
 #include <stdexcept>
 
+#include "app/io/visible_text.h"
+
 namespace app {
 
 namespace {
@@ -107,7 +109,7 @@ std::span<const MeasuredOption> measured_options()
 void set(const MeasuredOption& option, std::string_view value, MeasuredCurveOptions& options)
 {
     if (!option.set(value, options))
-        throw std::invalid_argument{fmt::format("\"{}\"; expected {}", value, option.expected)};
+        throw std::invalid_argument{fmt::format("\"{}\"; expected {}", visible(value), option.expected)};
 }
 
 }  // namespace app

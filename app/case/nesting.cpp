@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <string>
 #include <tuple>
 #include <utility>
 #include <vector>
@@ -41,11 +42,9 @@ private:
         const char c = text_[at_];
         if (c == '"' || c == '\'') return skip_string(c);
         if (c == '#') return void(at_ = std::min(text_.find('\n', at_), text_.size()));
-        ++at_;
+        skip_character();
         switch (c) {
             case '\n':
-                ++line_;
-                line_start_ = at_;
                 if (open_.empty()) start_line();
                 break;
             case '[':
@@ -81,8 +80,7 @@ private:
 
     void open(char bracket)
     {
-        // NOLINTNEXTLINE(modernize-use-emplace)
-        open_.push_back({level_, inner_});
+        open_.emplace_back(level_, inner_);
         const bool is_name = is_header_ && open_.size() <= 2 && level_.is_key;
         inner_ = {level_.depth + 1, is_name || bracket == '{'};
         level_ = inner_;
@@ -98,26 +96,30 @@ private:
     }
 
     // Text of several lines ends with three of its quotes.
-    // NOLINTNEXTLINE(readability-function-cognitive-complexity)
     void skip_string(char quote)
     {
-        // NOLINTNEXTLINE(modernize-raw-string-literal)
-        const std::string_view three = quote == '"' ? "\"\"\"" : "\'\'\'";
+        const std::string three(3, quote);
         const bool is_long = text_.substr(at_).starts_with(three);
-        at_ += is_long ? 3 : 1;
-        while (at_ < text_.size()) {
-            const char c = text_[at_];
-            if (c == '\n' && !is_long) return;
-            if (is_long ? text_.substr(at_).starts_with(three) : c == quote)
-                return void(at_ += is_long ? 3 : 1);
-            if (c == '\\' && quote == '"') ++at_;
-            if (at_ < text_.size() && text_[at_] == '\n') {
-                ++line_;
-                line_start_ = at_ + 1;
-            }
-            ++at_;
+        const auto end = is_long ? three : three.substr(0, 1);
+        at_ += end.size();
+        while (at_ < text_.size() && !text_.substr(at_).starts_with(end)) {
+            if (text_[at_] == '\n' && !is_long) return;
+            if (text_[at_] == '\\' && quote == '"') ++at_;
+            skip_character();
         }
-        at_ = text_.size();
+        at_ = std::min(at_ + end.size(), text_.size());
+    }
+
+    void skip_character()
+    {
+        if (at_ < text_.size() && text_[at_] == '\n') start_next_line();
+        ++at_;
+    }
+
+    void start_next_line()
+    {
+        ++line_;
+        line_start_ = at_ + 1;
     }
 
     SourcePosition place() const { return {line_, static_cast<std::uint32_t>(at_ - line_start_), {}}; }

@@ -125,7 +125,13 @@ std::optional<ParameterPair> read_pair(TableReader table, const ParameterSet& se
     return pair;
 }
 
-// NOLINTNEXTLINE(readability-function-cognitive-complexity)
+void read_pairs(TableReader& table, ParameterSet& set)
+{
+    for (const auto& entry : table.array("pairs"))
+        if (const auto reader = read_table(entry, table.diagnostics()))
+            if (auto pair = read_pair(*reader, set)) set.pairs.push_back(std::move(*pair));
+}
+
 std::optional<ParameterSet> read_set(const Entry& entry, TableReader table)
 {
     ParameterSet set;
@@ -145,9 +151,7 @@ std::optional<ParameterSet> read_set(const Entry& entry, TableReader table)
                                 fmt::format("{}.leading_positions is {}; expected less than the "
                                             "reference_position, {}: a reference temperature has one sign",
                                             table.path(), set.leading_positions, set.reference_position));
-    for (const auto& pair : table.array("pairs"))
-        if (const auto reader = read_table(pair, table.diagnostics()))
-            if (auto read = read_pair(*reader, set)) set.pairs.push_back(std::move(*read));
+    read_pairs(table, set);
     if (const auto temperatures = table.entry("temperatures"))
         set.temperatures = read_temperatures(*temperatures, table.diagnostics());
     else

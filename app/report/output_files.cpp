@@ -8,6 +8,7 @@
 
 #include "app/io/descriptor.h"
 #include "app/io/distinct_name.h"
+#include "app/io/visible_text.h"
 #include "app/report/format.h"
 #include "app/report/result_numbers.h"
 
@@ -34,7 +35,7 @@ std::string page_title(std::string title)
 {
     std::ranges::replace_if(
         title, [](char c) { return c == '\n' || c == '\r' || c == '\f'; }, ' ');
-    return title;
+    return visible(title);
 }
 
 // Names of distributions are free texts; those of files are not, and have a greatest length.

@@ -88,8 +88,7 @@ std::string csv_field(const std::string& text, CsvTexts texts)
 {
     constexpr std::string_view formula_starts = "=+-@\t\r\n";
     if (texts == CsvTexts::guarded && !text.empty() &&
-        // NOLINTNEXTLINE(readability-static-accessed-through-instance)
-        formula_starts.find(text.front()) != formula_starts.npos)
+        formula_starts.find(text.front()) != std::string_view::npos)
         return csv_field("'" + text);
     if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
     std::string quoted = "\"";

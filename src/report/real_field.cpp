@@ -21,7 +21,7 @@ Decimal to_decimal(Real value)
 {
     if (value == 0.0) return {false, {'0', '0', '0', '0'}, 1};
     std::array<char, 16> text;  // d.ddde±XX or d.ddde±XXX
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg)
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): nothing else in libc rounds correctly
     std::snprintf(text.data(), text.size(), "%.3e", std::fabs(value));
     // The decimal point is that of the host's locale and may be several characters.
     const char* const end = std::strchr(text.data(), 'e');

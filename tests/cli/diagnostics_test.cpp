@@ -1,3 +1,4 @@
+#include "app/evaluation/stream_list.h"
 #include "app/host_setup/loaded_case.h"
 #include "cli/program.h"
 
@@ -95,6 +96,7 @@ TEST(CaseDiagnostics, RefuseDepthAndSizeBeforeParsing)
                                 "GiB of memory; "),
               0u)
         << wide.front();
+    EXPECT_EQ(diagnose("a\u035E = 1\n").size(), 1u);  // no blank and no letter of a key
     EXPECT_EQ(diagnose(std::string((64U << 20U) + 1, '\n')),
               Lines{"c.toml: the text has 67108865 bytes; expected 64 MiB at most"});
 }
@@ -293,6 +295,21 @@ TEST(CaseDiagnostics, ReportMissingSectionsAndPlaceWhatIsNotToml)
     const auto lines = diagnose("title = \"a\"\n[settings]\n[settings]\n");
     ASSERT_EQ(lines.size(), 1u);
     EXPECT_EQ(lines.front().substr(0, 11), "c.toml:3:1:") << lines.front();
+}
+
+// A matrix of all components would have the square of their number.
+TEST(StreamList, HasNoMatrixWithoutChains)
+{
+    const auto numbers_of_matrix = [](const std::string& flows) {
+        app::Diagnostics diagnostics;
+        const auto input = app::CaseDocument{with(good, "{ O = 1 }", flows), "c.toml"}.read(diagnostics);
+        EXPECT_TRUE(diagnostics.empty());
+        app::LoadedCase loaded{input};
+        EXPECT_TRUE(loaded.add_streams(input).empty());
+        return app::list_stream("T", loaded.host()).counts.counts.size();
+    };
+    EXPECT_EQ(numbers_of_matrix("{ O = 1 }"), 25u);
+    EXPECT_EQ(numbers_of_matrix("{ WATER = 1 }"), 5u);
 }
 
 }  // namespace

@@ -111,11 +111,11 @@ TEST(Csv, ProtectsTextsThatSpreadsheetsWouldCompute)
 TEST(Pages, HoldAsManyLinesAsTheCaseSays)
 {
     const auto e = evaluated(
-        "title = \"Two\\nlines\"\n[settings]\nlines_per_page = 5\n"
+        "title = \"Two\\nlines\\u001B\"\n[settings]\nlines_per_page = 5\n"
         "[components]\nP = { molecular_weight = 1 }\n[parameters.S]\ncomponents = [\"P\"]\ntemperatures = "
         "[300]\n");
     const auto report = files_of(e).front().content;
-    EXPECT_EQ(report.find("Two lines "), 0u);
+    EXPECT_EQ(report.find("Two lines\\u001B "), 0u);
     std::istringstream pages{report};
     for (std::string page; std::getline(pages, page, '\f');) EXPECT_LE(count(page, "\n"), 5 + 2u) << page;
     EXPECT_GT(count(report, "\f"), 1u);

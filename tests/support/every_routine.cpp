@@ -76,6 +76,8 @@ const std::vector<Routine>& routines_that_only_read()
 #define IN a.values.data()
 #define OUT(which) a.reals(which)
 #define LIST(which) a.integers(which)
+#define COUNT(which) a.integer.data() + (which)
+#define REAL(which) a.real.data() + (which)
     // clang-format off
     static const std::vector<Routine> routines{
         ROUTINE(POLY_GETDPN, &a.one, LISTED, OUT(1)),
@@ -96,8 +98,7 @@ const std::vector<Routine>& routines_that_only_read()
                 OUT(4)),
         ROUTINE(POLY_POLYRESULTS, IN, IN + 1, &a.parts, a.ones.data(), a.ones.data(), IN, &a.sites, OUT(1), OUT(2),
                 OUT(3), OUT(4), OUT(5), OUT(6), OUT(7)),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_GETRAT, &a.one, LISTED, IN, &a.real[0]),
+        ROUTINE(POLY_GETRAT, &a.one, LISTED, IN, REAL(0)),
         ROUTINE(POLY_GETISP, LISTED, nullptr, LIST(1)),
         ROUTINE(POLY_GETCRY, nullptr, LISTED, OUT(1)),
         ROUTINE(POLY_XATOXT, LISTED, IN, IN, OUT(1)),
@@ -106,69 +107,48 @@ const std::vector<Routine>& routines_that_only_read()
         ROUTINE(POLY_VATOVX, LISTED, IN, IN, IN, OUT(1), &a.one, nullptr, FLAGS),
         ROUTINE(POLY_XATOWT, IN, LISTED, OUT(1)),
         ROUTINE(POLY_XTTOWT, &a.n, IN, IN, OUT(1)),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_GETSEG, &a.one, &a.polymer, &a.integer[0], LIST(1), OUT(1)),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_GETPSEG, LISTED, &a.n, IN, OUT(1), LIST(1), OUT(2), &a.integer[0], LIST(2), LIST(3)),
+        ROUTINE(POLY_GETSEG, &a.one, &a.polymer, COUNT(0), LIST(1), OUT(1)),
+        ROUTINE(POLY_GETPSEG, LISTED, &a.n, IN, OUT(1), LIST(1), OUT(2), COUNT(0), LIST(2), LIST(3)),
         ROUTINE(POLY_GETMFS, &a.n, &a.polymer, SEGMENTS, IN, OUT(1)),
         ROUTINE(POLY_GETWFS, &a.n, &a.polymer, IN, SEGMENTS, IN, OUT(1)),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_XPTOXS, LISTED, IN, nullptr, LIST(1), OUT(1), &a.integer[0], LIST(2), OUT(2), &a.one),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_XTTOXS, LISTED, FLAGS, IN, &a.n, IN, SEGMENTS, &a.integer[0], LIST(1), OUT(1)),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_PFTOSF, LISTED, IN, FLAGS, &a.n, IN, SEGMENTS, &a.integer[0], LIST(1), OUT(1), &a.one),
+        ROUTINE(POLY_XPTOXS, LISTED, IN, nullptr, LIST(1), OUT(1), COUNT(0), LIST(2), OUT(2), &a.one),
+        ROUTINE(POLY_XTTOXS, LISTED, FLAGS, IN, &a.n, IN, SEGMENTS, COUNT(0), LIST(1), OUT(1)),
+        ROUTINE(POLY_PFTOSF, LISTED, IN, FLAGS, &a.n, IN, SEGMENTS, COUNT(0), LIST(1), OUT(1), &a.one),
         ROUTINE(POLY_PTTOPS, LISTED, FLAGS, IN, &a.n, IN, SEGMENTS, SEGMENTS, OUT(1), OUT(2)),
         ROUTINE(POLY_QSGTOQ, LISTED, IN, OUT(1)),
         ROUTINE(POLY_QSTOQA, IN, LISTED, IN, OUT(1)),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_IDXSPLIT, LISTED, &a.integer[0], LIST(1), LIST(2), &a.integer[1], LIST(3), LIST(4)),
+        ROUTINE(POLY_IDXSPLIT, LISTED, COUNT(0), LIST(1), LIST(2), COUNT(1), LIST(3), LIST(4)),
         ROUTINE(POLY_PROPMRG, nullptr, &a.n, &a.n, a.listed.data(), a.listed.data(), IN, IN, OUT(1)),
         ROUTINE(POLY_GETXSUB, nullptr, IN, LISTED, OUT(1)),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_WRKPOINT, &a.integer[0], LISTED, LIST(1)),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_SETH2O, LISTED, &a.integer[0]),
+        ROUTINE(POLY_WRKPOINT, COUNT(0), LISTED, LIST(1)),
+        ROUTINE(POLY_SETH2O, LISTED, COUNT(0)),
         ROUTINE(POLY_GETPOL1, &a.n, IN, a.listed.data(), OUT(1), OUT(2), OUT(3), OUT(4), OUT(5), OUT(6), &a.n, IN,
-                // NOLINTNEXTLINE(readability-container-data-pointer)
-                LIST(1), OUT(7), OUT(8), &a.integer[0], LIST(2)),
+                LIST(1), OUT(7), OUT(8), COUNT(0), LIST(2)),
         ROUTINE(POLY_GETPOL2, LISTED, OUT(1), OUT(2), OUT(3), OUT(4), OUT(5), &a.n, LIST(1), OUT(6), OUT(7),
-                // NOLINTNEXTLINE(readability-container-data-pointer)
-                &a.integer[0], LIST(2)),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_GETPOL3, LISTED, &a.n, OUT(1), &a.integer[0], LIST(1), LIST(2), OUT(2)),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_GETPOL, &a.one, &a.n, IN, &a.integer[0], LIST(1), LISTED, OUT(1)),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_GETPALL, &a.one, LISTED, &a.n, &a.integer[0], LIST(1), &a.integer[1], LIST(2), OUT(1), OUT(2)),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_GETPMIX, &a.polymer, IN, LISTED, &a.n, IN, LIST(1), OUT(1), &a.integer[0], LIST(2), OUT(2)),
+                COUNT(0), LIST(2)),
+        ROUTINE(POLY_GETPOL3, LISTED, &a.n, OUT(1), COUNT(0), LIST(1), LIST(2), OUT(2)),
+        ROUTINE(POLY_GETPOL, &a.one, &a.n, IN, COUNT(0), LIST(1), LISTED, OUT(1)),
+        ROUTINE(POLY_GETPALL, &a.one, LISTED, &a.n, COUNT(0), LIST(1), COUNT(1), LIST(2), OUT(1), OUT(2)),
+        ROUTINE(POLY_GETPMIX, &a.polymer, IN, LISTED, &a.n, IN, LIST(1), OUT(1), COUNT(0), LIST(2), OUT(2)),
         ROUTINE(POLY_GETPMIX1, &a.polymer, IN, LISTED, IN, OUT(1), OUT(2), nullptr, IN),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_GETOLI, LISTED, &a.n, IN, &a.integer[0], LIST(1), OUT(1), LIST(2)),
+        ROUTINE(POLY_GETOLI, LISTED, &a.n, IN, COUNT(0), LIST(1), OUT(1), LIST(2)),
         ROUTINE(POLY_GETMAVG, &a.n, IN, SEGMENTS, IN, LISTED, OUT(1), FLAGS),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_GETSAVG, &a.n, IN, SEGMENTS, IN, &a.polymer, IN, &a.real[0]),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_GETPOLQ, &a.n, IN, SEGMENTS, IN, &a.polymer, IN, &a.real[0]),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_GETFAVG, &a.n, SEGMENTS, IN, &a.polymer, IN, &a.real[0]),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_GETFAVGT, &a.n, SEGMENTS, IN, &a.polymer, IN, &a.real[0]),
+        ROUTINE(POLY_GETSAVG, &a.n, IN, SEGMENTS, IN, &a.polymer, IN, REAL(0)),
+        ROUTINE(POLY_GETPOLQ, &a.n, IN, SEGMENTS, IN, &a.polymer, IN, REAL(0)),
+        ROUTINE(POLY_GETFAVG, &a.n, SEGMENTS, IN, &a.polymer, IN, REAL(0)),
+        ROUTINE(POLY_GETFAVGT, &a.n, SEGMENTS, IN, &a.polymer, IN, REAL(0)),
         ROUTINE(POLY_GETMWS, LISTED, &a.n, IN, SEGMENTS, FLAGS, IN, OUT(1)),
         ROUTINE(POLY_GETMWP, LISTED, &a.n, IN, SEGMENTS, FLAGS, IN, OUT(1)),
         ROUTINE(POLY_GETWWP, LISTED, &a.n, IN, SEGMENTS, FLAGS, IN, OUT(1)),
         ROUTINE(POLY_GETPOLI, &a.one, LISTED, OUT(1)),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_TBPARA, IN, IN, IN, IN, IN, IN, IN, &a.three, &a.real[0], &a.real[1]),
+        ROUTINE(POLY_TBPARA, IN, IN, IN, IN, IN, IN, IN, &a.three, REAL(0), REAL(1)),
         ROUTINE(POLY_TBKIJ3, IN, &a.positions, &a.six, &a.n, IN, OUT(1)),
         ROUTINE(POLY_TBKIJ4, IN, &a.positions, &a.six, &a.n, IN, OUT(1), OUT(2), &a.two, a.selected.data()),
         ROUTINE(POLY_KIJ5, IN, &a.positions, &a.six, &a.n, IN, a.selected.data(), a.unmasked.data(), OUT(1)),
         ROUTINE(POLY_DKIJ5, IN, &a.positions, &a.six, &a.n, IN, a.selected.data(), a.unmasked.data(), OUT(1)),
         ROUTINE(POLY_TBPARI, &a.positions, &a.n, OUT(1), &a.two, &a.one),
         ROUTINE(POLY_CSDINI, &a.points, &a.sites, OUT(1), IN, OUT(2), OUT(3), OUT(4)),
-        // NOLINTNEXTLINE(readability-container-data-pointer)
-        ROUTINE(POLY_CSDADD, &a.points, IN, IN, IN, IN, OUT(1), &a.real[0]),
+        ROUTINE(POLY_CSDADD, &a.points, IN, IN, IN, IN, OUT(1), REAL(0)),
         ROUTINE(POLY_CSDCAL, &a.points, &a.sites, &a.one, IN, IN, IN, IN, OUT(1), OUT(2), OUT(3)),
     };
     // clang-format on
