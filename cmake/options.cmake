@@ -18,4 +18,8 @@ endif()
 if(POLYPROPS_COVERAGE)
     add_compile_options(--coverage -fprofile-update=atomic)
     add_link_options(--coverage)
+    # A process that ends by _exit, as the workers of a sweep do, writes its counts too.
+    add_library(coverage_exit STATIC ${CMAKE_CURRENT_LIST_DIR}/coverage_exit.c)
+    add_link_options(LINKER:--wrap=_exit)
+    link_libraries(coverage_exit)
 endif()

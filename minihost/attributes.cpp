@@ -61,10 +61,9 @@ Int attribute_length(const AttributeKind& kind, const AttributeDimensions& dimen
             return dimensions.end_segments;
         case AttributeShape::by_site:
             return sites;
-        case AttributeShape::by_segment_and_site:
+        default:
             return dimensions.segments * sites;
     }
-    return 0;
 }
 
 AttributeTable::AttributeTable(Int component_count) : rows_(static_cast<std::size_t>(component_count)) {}

@@ -19,6 +19,12 @@ ServiceLog::~ServiceLog()
     current_ = nullptr;
 }
 
+void ServiceLog::record(ServiceCall call)
+{
+    current_->calls_.push_back(std::move(call));
+    if (current_->count() == current_->failing_) throw Error(current_->calls_.back().service + " fails");
+}
+
 Int ServiceLog::count(std::string_view service) const
 {
     return std::count_if(calls_.begin(), calls_.end(),

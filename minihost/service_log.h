@@ -31,16 +31,20 @@ public:
     Int count() const { return static_cast<Int>(calls_.size()); }
     void clear() { calls_.clear(); }
 
+    // Makes the service of this call, counted from 1, throw an Error; 0: none does.
+    void fail_at(Int call) { failing_ = call; }
+
     // Calls that were made more than once with the same subject, attribute and selector, each named once.
     std::vector<ServiceCall> repeated(std::string_view service) const;
 
     // For services.cpp: a call is recorded only while a log exists.
     static bool wanted() { return current_ != nullptr; }
-    static void record(ServiceCall call) { current_->calls_.push_back(std::move(call)); }
+    static void record(ServiceCall call);
 
 private:
     static ServiceLog* current_;
     std::vector<ServiceCall> calls_;
+    Int failing_ = 0;
 };
 
 }  // namespace minihost

@@ -3,6 +3,7 @@
 #include <polyprops/host.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 
 #include "minihost/error.h"
@@ -30,15 +31,8 @@ std::string named(BlockId id)
 
 std::string_view name_of_kind(BlockKind kind)
 {
-    switch (kind) {
-        case BlockKind::integers:
-            return "integers";
-        case BlockKind::reals:
-            return "reals";
-        case BlockKind::two_part:
-            return "integers and reals";
-    }
-    return "nothing";
+    constexpr std::array<std::string_view, 3> names{"integers", "reals", "integers and reals"};
+    return names.at(static_cast<std::size_t>(kind));
 }
 
 Arena pinned_arena(Store::Mode mode)
@@ -330,9 +324,9 @@ void Store::move_everything()
 
 void Store::move(Extent& extent, Arena& target)
 {
-    const auto start = target.take(extent.length + 2 * guard_);
-    if (!start) throw Error("the store is full: its blocks cannot move");
-    const Extent moved = open(*start, extent.length);
+    // There is room: `place` asked for as much.
+    const Position start = target.take(extent.length + 2 * guard_).value();
+    const Extent moved = open(start, extent.length);
     memory::copy(extent.position, moved.position, extent.length);
     extent = moved;
 }

@@ -135,10 +135,9 @@ std::string SummaryToken::line() const
             return "label " + quoted(text);
         case Kind::separator:
             return "separator";
-        case Kind::header:
+        default:
             return "header " + quoted(text) + " " + quoted(context);
     }
-    return "";
 }
 
 SummaryFile::SummaryFile()

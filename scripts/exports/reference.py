@@ -14,6 +14,17 @@ reaches. An argument marked `work` is undefined afterwards; an `unused` one is n
 No routine reports an error unless it says so: values that cannot be used fall back as its notes tell. A parameter or a
 molecular weight without further words is the pure-component parameter of the host.
 
+Values that are not numbers raise no floating-point exception, neither in attributes, parameters and catalyst values nor in
+arguments; counts below 1 count nothing. A host may trap division by zero, invalid operations and overflow.
+
+Threads. The library keeps nothing between calls and has no locks. Routines may run in several threads at the same time,
+except `POLY_POLSEM`, `POLY_CATSCALESEM`, `POLY_CSDPLOT` and `POLY_WRTPOLSUM`, which write to the host: while one of these
+runs, no other routine may run. The host must see to it that
+
+- calls that run at the same time have outputs and work arrays of their own;
+- its services that find blocks, classify components and find attributes can be called by several threads;
+- nothing changes its records or its store, moves a block or selects another stream while a routine runs.
+
 """
 
 

@@ -58,7 +58,7 @@ Real length_from_moments(const PolymerData& data, const Species& polymer, FirstM
                         (first_moment == FirstMomentCounts::when_present || at_least(given.value(), chains));
     const Real segments =
         counts ? given.value() : polymer.attribute(AttributeName::sflow).sum(data.segments().count());
-    return above(chains, zero_bound()) && above(segments, zero_bound()) ? segments / chains : 1.0;
+    return above(chains, zero_bound()) ? at_least_one(segments / chains) : 1.0;
 }
 
 Real oligomer_length(const PolymerData& data, Int column)

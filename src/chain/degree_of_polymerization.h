@@ -24,14 +24,14 @@ Real chain_count(const PolymerData& data, const Species& polymer);
 // When "FMOM" gives the amount of segments of a polymer; its segment flows do otherwise.
 enum class FirstMomentCounts { when_present, when_not_below_chains };
 
-// Segments over chains of a polymer; 1 unless both are above the zero bound.
-Real length_from_moments(const PolymerData& data, const Species& polymer, FirstMomentCounts first_moment);
-
 // No molecule has less than one segment. A NaN counts as less.
 inline Real at_least_one(Real length)
 {
     return above(length, 1.0) ? length : 1.0;
 }
+
+// Segments over chains of a polymer, at least 1; 1 unless the chains are above the zero bound.
+Real length_from_moments(const PolymerData& data, const Species& polymer, FirstMomentCounts first_moment);
 
 // Segments in one molecule of the oligomer in a column of the oligomer table.
 Real oligomer_length(const PolymerData& data, Int column);

@@ -34,8 +34,8 @@ public:
 
     void append(std::string_view text)
     {
-        for (const char c : text)
-            if (next_ != end_) *next_++ = c == '\0' ? ' ' : c;
+        const auto shown = text.substr(0, static_cast<std::size_t>(end_ - next_));
+        next_ = std::replace_copy(shown.begin(), shown.end(), next_, '\0', ' ');
     }
     void append(const NamePair& name)
     {

@@ -43,11 +43,13 @@ constexpr Int description_of(Int j)
     return 4 * j + 1;
 }
 
-// Number of the attribute in the block, 0 when the component does not carry it.
-Int attribute_number(const IntegerBlock& block, const NamePair& name)
+// Word at which an attribute is described, 0 when the component does not carry it.
+Int find_description(const IntegerBlock& block, const NamePair& name)
 {
-    for (Int j = 1; j <= block(1); ++j)
-        if (NamePair{block(description_of(j)), block(description_of(j) + 1)} == name) return j;
+    for (Int j = 1; j <= block(1); ++j) {
+        const Int word = description_of(j);
+        if (NamePair{block(word), block(word + 1)} == name) return word;
+    }
     return 0;
 }
 
@@ -58,10 +60,10 @@ void write_column(const RealBlock& data, Int first_word, Int count, Real value)
     for (Int e = 0; e < count; ++e) data.write(first_word + e, value);
 }
 
-void write_values(const IntegerBlock& block, Int attribute, Real first, Real second)
+void write_values(const IntegerBlock& block, Int description, Real first, Real second)
 {
-    const Int count = block(description_of(attribute) + 2);
-    const Int offset = block(description_of(attribute) + 3);
+    const Int count = block(description + 2);
+    const Int offset = block(description + 3);
     if (count < 1) return;
     const RealBlock data = find_reals(block(4));
     write_column(data, offset + 1, count, second);
@@ -74,9 +76,9 @@ bool scale(const ScalingEntries& entries, Int i, const IntegerBlock& attribute_b
     const Int id = attribute_blocks(entries.component(i).index + 1);
     if (id < 1) return false;
     const IntegerBlock block = find_integers(id);
-    const Int attribute = attribute_number(block, entries.attribute(i));
-    if (attribute == 0) return false;
-    write_values(block, attribute, entries.first(i), entries.second(i));
+    const Int description = find_description(block, entries.attribute(i));
+    if (description == 0) return false;
+    write_values(block, description, entries.first(i), entries.second(i));
     return true;
 }
 

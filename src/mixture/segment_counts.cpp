@@ -120,7 +120,7 @@ Real length_within_bounds(const PolymerData& data, const Species& polymer)
     const Attribute length = polymer.attribute(AttributeName::dpn);
     if (length.is_present() && above(length.value(), 1.0) && below(length.value(), missing_value_bound()))
         return length.value();
-    return chain::at_least_one(chain::length_from_moments(data, polymer, FirstMomentCounts::when_present));
+    return chain::length_from_moments(data, polymer, FirstMomentCounts::when_present);
 }
 
 Real write_scaled_polymer(const PolymerData& data, const Species& polymer, SegmentCountMatrix<Real> counts)

@@ -76,6 +76,25 @@ TEST(SegmentLists, FromCountsStandInTheOrderOfFirstAppearance)
     EXPECT_EQ(m.true_to_segments({}, {}), List{});
 }
 
+// Leaves other bytes than zeros where the next call has its variables.
+[[gnu::noinline]] void soil_the_stack()
+{
+    volatile Int bytes[8192];
+    for (auto& word : bytes) word = 1;
+}
+
+// More than the places that are remembered while a list grows.
+TEST(SegmentLists, MayNameSegmentsOften)
+{
+    Mixture m{{0, 0, 0, 1}, {}};
+    for (Int c = 1; c <= 3; ++c) m.counts.at(4, c) = static_cast<double>(c);
+    m.segments = {2, 1};
+    soil_the_stack();
+    EXPECT_EQ(m.flows_to_segments({4}, {1}), (List{{2, 1}, {2, 1}}));
+    for (Int k = 0; k < 1498; ++k) m.segments.push_back(k < 1098 ? 1 : 2 + k % 2);
+    EXPECT_EQ(m.flows_to_segments({4}, {1}), (List{{2, 1, 3}, {402, 1099, 600}}));
+}
+
 TEST(SegmentLists, FromAttributesSkipChainsWithoutSegmentData)
 {
     auto world = World{}.segments({"A", "B"}).polymer("P", {{"ZMOM", 2}, {"SFLOW", {8, 4}}});

@@ -109,6 +109,9 @@ TEST(MeanSegmentWeight, PrefersAttributeThenFractionsThenFlowsThenPlainMean)
     EXPECT_EQ(hidden.ask(POLY_GETMRF, "P"), 75) << "only an offset of exactly 0 turns to the flows";
     EXPECT_EQ(World{}.segments({{"A", 100}}).polymer("P", {}, 1000).ask(POLY_GETMRF, "P"), 100);
     EXPECT_EQ(World{}.polymer("P", {}, 1000).ask(POLY_GETMRF, "P"), 1000) << "no segments";
+    EXPECT_EQ(copolymer({{"MWSEG", 60}}).without_polymer_block().ask(POLY_GETMRF, "P"), 1000);
+    auto unlisted = World{}.segments({"A"}).component("P", ComponentClass::polymer, 1000);
+    EXPECT_EQ(unlisted.attributes("P", {{"MWSEG", 60}}).ask(POLY_GETMRF, "P"), 1000) << "no chains listed";
 }
 
 TEST(MeanSegmentWeight, TakesTheMakeUpOfWhateverStandsInTheOligomerList)

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <polyprops/host.h>
 
 #include <cmath>
 #include <limits>
@@ -23,9 +24,12 @@ struct ScalingWorld : CheckedParagraph {
     }
     Int scale(const std::vector<ScalingEntry>& entries, Int op = 2)
     {
-        const BlockId id = lay_scaling_sentence(host.store(), host.components(), entries);
+        return scale(lay_scaling_sentence(host.store(), host.components(), entries), op);
+    }
+    Int scale(BlockId sentence, Int op = 2)
+    {
         Int status = 77;
-        POLY_CATSCALESEM(&op, &id, &status, nullptr, &id);
+        POLY_CATSCALESEM(&op, &sentence, &status, nullptr, &sentence);
         host.store().verify();
         return status;
     }
@@ -101,4 +105,37 @@ TEST(CatalystScaling, ReportsAnAttributeThatIsNotUsedAndAppliesTheRest)
         EXPECT_TRUE(log.printed().empty());
         EXPECT_EQ(log.prints_of_suppressed(), 0);
     }
+}
+
+TEST(CatalystScaling, TakesNothingFromBlocksThatDescribeNothing)
+{
+    ScalingWorld world;
+    auto& store = world.host.store();
+    const Int k = world.host.components().index("K");
+    const BlockId directory = ST_PROPTAB[7 - 1], block = store.integer(directory, k + 1);
+    EXPECT_EQ(world.scale(std::vector<ScalingEntry>{}), -1) << "a sentence without entries";
+
+    // The words before the first description are counts, and no name.
+    const auto data_of = [&](BlockId sentence) { return store.integer(sentence, 4); };
+    const BlockId counts = lay_scaling_sentence(store, world.host.components(), {{"K", "", 1, 1}});
+    const BlockId names = store.integer(data_of(counts), 12);
+    for (const Int word : {1, 2}) store.set_integer(names, word, store.integer(block, word));
+    EXPECT_EQ(world.scale(counts), 1);
+
+    const std::vector<ScalingEntry> entry{{"K", "CVSFLOW", 3, 5}};
+    for (const BlockId none : {0, -1}) {
+        store.set_integer(directory, k + 1, none);
+        EXPECT_EQ(world.scale(entry), 1) << "no attribute block";
+    }
+    // Any other id is one.
+    store.resize_integers(1, store.integer_length(block));
+    for (Int word = 1; word <= store.integer_length(block); ++word)
+        store.set_integer(1, word, store.integer(block, word));
+    store.set_integer(directory, k + 1, 1);
+    EXPECT_EQ(world.scale(entry), -1);
+    EXPECT_EQ(world.column("K", "CVSFLOW", 1), (Reals{5, 5}));
+
+    store.set_integer(1, 4 + 3, 0);
+    EXPECT_EQ(world.scale({{"K", "CVSFLOW", 7, 7}}), -1) << "an attribute without elements";
+    EXPECT_EQ(world.column("K", "CVSFLOW", 1), (Reals{5, 5}));
 }

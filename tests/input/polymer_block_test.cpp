@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
+#include <polyprops/host.h>
 
 #include <limits>
 
 #include "input/checked_paragraph.h"
+#include "minihost/service_log.h"
 
 using namespace support;
 using namespace minihost;
@@ -121,6 +123,58 @@ TEST(PolymerParagraph, ReadsNothingBeyondAFaultySentence)
     EXPECT_EQ(world.integers(world.block(POLYPROPS_ATTRIBUTE_LAYOUT), 12, 1), (Ints{5 * 2 + 5 + 1}));
     const BlockId requests = world.integers(world.block(POLYPROPS_DISTRIBUTION_DIRECTORY), 2, 1)[0];
     EXPECT_EQ(world.integers(requests, 1, 16), (Ints{3, 7, 7, 7, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1}));
+}
+
+TEST(PolymerParagraph, ReadsListsFromTheFirstToTheLastWordOfASentence)
+{
+    const NamePair p = name_pair("P");
+    const struct {
+        SentenceWords sentence;
+        Ints messages;
+        Ints requests;  // by type
+    } cases[] = {
+        {{1, {1, 0, 1}}, {4}, {0, 0, 0, 0}},
+        {{1, {0, 0, 1, p[0], p[1]}}, {2}, {0, 0, 0, 0}},
+        {{1, {-2, 0, 1, p[0], p[1]}}, {2}, {0, 0, 0, 0}},
+        {{7, {7, 15, 13, 13, 13, 1, p[0], p[1], 0, 0, 0, 0, 0, 0, 2}}, {}, {0, 1, 0, 0}},
+        {{7, {7, 16, 13, 13, 13, 1, p[0], p[1], 0, 0, 0, 0, 0, 0, 2}}, {}, {0, 0, 0, 0}},
+    };
+    for (const auto& [sentence, messages, requests] : cases) {
+        CheckedParagraph world;
+        world.host.messages().suppress(30);
+        if (sentence.kind == 1)
+            world.check({sentence, segments});
+        else
+            world.check({sentence, polymer, segments, attributes});
+        EXPECT_EQ(world.message_numbers(), messages);
+        if (sentence.kind == 1) continue;
+        Ints found;
+        for (const BlockId id : world.integers(world.block(POLYPROPS_DISTRIBUTION_DIRECTORY), 2, 4))
+            found.push_back(id == 0 ? 0 : world.host.store().integer(id, 1));
+        EXPECT_EQ(found, requests);
+    }
+}
+
+TEST(PolymerParagraph, CopiesNoWordsOfAnEmptySentence)
+{
+    CheckedParagraph world;
+    const ServiceLog log;
+    EXPECT_EQ(world.check({SentenceWords{1}, SentenceWords{5}, SentenceWords{6}}), 0);
+    EXPECT_EQ(log.count("UT_GET_SENTENCE"), 3);
+    EXPECT_EQ(log.count("ST_COPY_I") + log.count("ST_COPY_R"), 0);
+}
+
+TEST(PolymerParagraph, WithLessThanNoSentencesIsNoneWithoutSentences)
+{
+    CheckedParagraph world;
+    world.host.paragraph().set({});
+    world.host.store().set_integer(ST_TABLES[1], 3, -1);
+    const Int check = 2;
+    Int status = 0;
+    POLY_POLSEM(nullptr, &check, world.host.semantics_context(), world.host.paragraph().handle(), nullptr,
+                &status);
+    EXPECT_EQ(world.message_numbers(), Ints{});
+    EXPECT_GT(world.host.polymer_block(), 0);
 }
 
 TEST(PolymerParagraph, AcceptsOneThatNamesNeitherChainsNorSegments)

@@ -139,6 +139,10 @@ TEST(BinaryParameterMatrix, NumberOfPositionsNamesTheForm)
         {"negative reference position: no parameter", -1, {1, 2, 0, 4, 8, 298.15}, 0, 0},
     };
     EXPECT_TRUE(std::isnan(one_pair(POLY_KIJ5, 300, 0, {not_a_number, 1})));
+    // The reference temperature serves as P4 too; there is no P5.
+    const Pairs four(600, 4, 2, [](Int, Int) { return Values{1, 2, 0, 300}; });
+    EXPECT_EQ(four.ask(POLY_TBKIJ3)[2], 602);
+    EXPECT_EQ(four.kij4({1, 0}), std::pair(Values{0, 0, 602, 0}, Values{0, 0, 299.5 / 300, 0}));
     const TrapFloatingPoint trap;
     for (const auto& c : cases) {
         EXPECT_EQ(one_pair(POLY_KIJ5, 596.3, c.k, c.block), c.value) << c.name;
@@ -181,6 +185,9 @@ TEST(ParameterCompletion, FillsTheOrderThatIsZero)
     GuardedReals p{7, 0, not_a_number, 7};
     call(POLY_TBPARI, 1, 2, p, 1, 1);
     EXPECT_TRUE(std::isnan(p(2))) << "not a number counts as given";
+    GuardedReals backward{7, not_a_number, 0, 7};
+    call(POLY_TBPARI, 1, 2, backward, 1, 1);
+    EXPECT_TRUE(std::isnan(backward(3)));
 }
 
 }  // namespace

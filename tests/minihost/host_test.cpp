@@ -111,6 +111,14 @@ TEST(Host, RefusesWhatIsWrongWithStreamsAndAttributes)
          },
          "stream CURRENT is defined twice"},
         {[&] { host.select_stream("CURRENT", 2); }, "stream CURRENT has no substream 2"},
+        {[&] { host.select_stream("CURRENT", 0); }, "stream CURRENT has no substream 0"},
+        {[&] { host.select_stream("OTHER"); }, "unknown stream \"OTHER\""},
+        {[&] { host.attributes().find(0, "ZMOM"); }, "component index 0 is not in 1..4"},
+        {[&] { host.attributes().find(5, "ZMOM"); }, "component index 5 is not in 1..4"},
+        {[&] { host.attributes().hide(p, "SFLOW", 1); }, "a hidden attribute needs an offset of 0 or less"},
+        {[&] { host.attributes().hide(p, "ZMOM", 0); }, "attribute \"ZMOM\" is not carried"},
+        {[&] { host.lay_attribute_blocks().values(p, "ZMOM", 1); }, "P does not carry attribute ZMOM"},
+        {[&] { host.components().at(0); }, "component index 0 is not in 1..4"},
         {[&] { host.attributes().carry(p, {"ZMON"}); }, "unknown attribute \"ZMON\""},
         {[&] { host.attributes().carry(p, {"ZMOM"}); },
          "the attributes of a component cannot change: streams already hold attribute values"},
@@ -122,8 +130,10 @@ TEST(Host, RefusesWhatIsWrongWithStreamsAndAttributes)
 
 TEST(Host, RefusesComponentsInError)
 {
-    for (const auto& components :
-         {std::vector<Component>{{.id = ""}}, {{.id = "NINECHARS"}}, {{.id = "A"}, {.id = "A"}}})
+    for (const auto& components : {std::vector<Component>{{.id = ""}},
+                                   {{.id = "NINECHARS"}},
+                                   {{.id = "A"}, {.id = "A"}},
+                                   {{.id = "A", .name = std::string(25, 'N')}}})
         EXPECT_THROW(Host host(components), Error);
     EXPECT_THROW(Host::active(), Error) << "a host that failed leaves none behind";
 }
@@ -134,6 +144,64 @@ TEST(Host, ARefusalTravelsThroughTheLibraryToItsCaller)
     world.host().store().set_integer(world.host().polymer_block(), POLYPROPS_SEGMENT_LIST, 4711);
     EXPECT_EQ(refusal([&] { world.ask(POLY_GETDPN, "P"); }), "store block 4711 does not exist");
     EXPECT_THROW(world.ask(POLY_GETMWW, "P"), Error) << "and the library works as before";
+}
+
+TEST(Host, ServicesRefuseWhatNoLibraryMayAsk)
+{
+    auto world = World{}.segments({"A"}).polymer("P", {{"ZMOM", 1}});
+    auto& host = world.host();
+    host.paragraph().set({});
+    const Int zero = 0, one = 1, two = 2, three = 3, seven = 7, eleven = 11, code = 3030, far = 9999;
+    const NamePair name = name_pair("POLSEM");
+    const Int unknown[] = {text_word("NONE"), text_word(""), text_word("")};
+    const Int level = ST_GLOBAL[8 - 1];
+    Int out = 0;
+    const auto check_level = [&](Int severity, Int first_zero) {
+        ST_ERROR_CHECK(name.data(), &severity, &one, &two, &level, &first_zero, &zero, &two);
+    };
+    const auto sentence = [&](Int number) {
+        Int kind = number;
+        UT_GET_SENTENCE(&number, &kind, &one, &zero, &zero, &zero, &zero, &out, &out, &out, &out, &out, &out,
+                        &out);
+    };
+    const struct {
+        std::function<void()> action;
+        const char* text;
+    } cases[] = {
+        {[&] { check_level(2, 1); }, "ST_ERROR_CHECK: argument 6 is 1; expected 0"},
+        {[&] { check_level(3, 0); }, "message 1 of POLSEM has severity 3; expected 1 or 2"},
+        {[&] { ST_PRINT_ERROR(&zero); }, "a message of 0 lines was printed; expected 1 to 10"},
+        {[&] { ST_PRINT_ERROR(&eleven); }, "a message of 11 lines was printed; expected 1 to 10"},
+        {[&] { PS_FIND_COMPONENT(&name[0], &name[1], &one, &out, &out); },
+         "PS_FIND_COMPONENT: argument 3 is not UT_COMPONENT_IDS"},
+        {[&] { PS_PROCESS_SENTENCE(&code, &two, &one, &one, &one, &out); },
+         "PS_PROCESS_SENTENCE: argument 3 is not the semantics context"},
+        {[&] { ST_FIND_KEYWORD(unknown, &zero); }, "unknown keyword \"NONE\""},
+        {[&] { ST_KEYWORD_TEXT(&one, &zero, &seven); }, "the keyword tables have no item 7 of row 0"},
+        {[&] { KeywordTables::item(1, 1, 0); }, "the keyword tables have no item 0 of row 1"},
+        {[&] { KeywordTables::item(1, 1, 8); }, "the keyword tables have no item 8 of row 1"},
+        {[&] { ST_READ_TABLE(&far, &out, &out, &out, &out); }, "9999 is no entry of the keyword tables"},
+        {[&] { sentence(0); }, "sentence 0 was asked for; the paragraph has 0"},
+        {[&] { sentence(1); }, "sentence 1 was asked for; the paragraph has 0"},
+        {[&] { RP_RESERVE_LINES(&one, &zero, &two, &ST_RPTGLOBAL[2 - 1]); },
+         "RP_RESERVE_LINES: argument 3 is 2; expected 3"},
+        {[&] { ST_COPY_I(&three, &out, &zero); }, ""},
+    };
+    for (const auto& c : cases) EXPECT_EQ(refusal(c.action), c.text);
+    EXPECT_EQ(out, 0) << "nothing is copied";
+}
+
+TEST(Host, WithoutAPolymerBlockOrItsListsHasNoDimensions)
+{
+    World world;
+    auto& host = world.host();
+    host.store().set_integer(host.polymer_block(), POLYPROPS_END_SEGMENT_LIST, 0);
+    EXPECT_EQ(host.dimensions(), AttributeDimensions{});
+    host.set_polymer_block(0);
+    EXPECT_EQ(host.dimensions(), AttributeDimensions{});
+    EXPECT_NE(host.dimensions(), (AttributeDimensions{.segments = 1}));
+    EXPECT_NE(host.dimensions(), (AttributeDimensions{.end_segments = 1}));
+    EXPECT_NE(host.dimensions(), (AttributeDimensions{.sites = 1}));
 }
 
 TEST(ServiceLog, CountsAndFindsRepeatedQuestions)
@@ -147,7 +215,8 @@ TEST(ServiceLog, CountsAndFindsRepeatedQuestions)
     offset(p, "SFLOW");
     EXPECT_EQ(log.count("CC_FIND_ATTR"), 2);
     EXPECT_TRUE(log.repeated("CC_FIND_ATTR").empty());
-    offset(p, "ZMOM");
+    for (int time = 0; time < 2; ++time) offset(p, "ZMOM");
+    EXPECT_THROW(ServiceLog{}, Error) << "logs do not nest";
     EXPECT_EQ(log.repeated("CC_FIND_ATTR"), (std::vector<ServiceCall>{{"CC_FIND_ATTR", p, "ZMOM", 1}}));
 }
 

@@ -50,6 +50,7 @@ TEST(ReportFile, StartsAPageWhenLinesDoNotFitAndRefusesBadOnes)
     EXPECT_TRUE(contains(refusal([&] { write(host, "text", 99); }), "unit 99"));
     EXPECT_TRUE(contains(refusal([&] { write(host, "two\nlines"); }), "line end"));
     EXPECT_TRUE(contains(refusal([&] { host.report().write_line(12, -1, ""); }), "length -1"));
+    EXPECT_TRUE(contains(refusal([&] { host.report().reserve(-1, false); }), "reserved report lines: -1"));
     EXPECT_TRUE(contains(refusal([&] { host.report().set_lines_per_page(0); }), "lines per page: 0"));
 }
 
@@ -73,6 +74,9 @@ TEST(SummaryFile, RefusesTokensThatBreakARule)
         {0, 11, longer, unset, "1 to 10 characters"},
         {7, 2, longer, unset, "beyond the length"},
         {1, 1, longer, unset, "beyond the length"},
+        {1, 4, longer, unset, "expected one blank"},
+        {7, 0, longer, unset, "1 to 10 characters"},
+        {8, 1, &one, unset, "the integer 1"},
         {8, 0, &two, unset, "the integer 1"},
     };
     for (const auto& c : cases) {
@@ -85,6 +89,7 @@ TEST(SummaryFile, RefusesTokensThatBreakARule)
     auto& summary = world.host().summary();
     EXPECT_TRUE(
         contains(refusal([&] { summary.write_header(&summary, longer, 0); }), "YCSDS: unknown context"));
+    EXPECT_TRUE(contains(refusal([&] { summary.write_header(summary.context("C"), longer, 1); }), "not 0"));
 }
 
 TEST(OutputFiles, GiveTheirText)

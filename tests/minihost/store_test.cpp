@@ -47,6 +47,10 @@ TEST_P(StoreModes, RefusesWhatAHostMustRefuse)
     const BlockId one = store.allocate_integers(1);
     const BlockId freed = store.allocate_integers(1);
     store.free(freed);
+    const BlockId reals = store.allocate_reals(1), table = store.allocate_two_part(1, 1);
+    for (const BlockId none : {BlockId{0}, freed, BlockId{99}}) EXPECT_FALSE(store.exists(none));
+    EXPECT_TRUE(store.exists(reals));
+    EXPECT_EQ(store.kind(table), BlockKind::two_part);
     const struct {
         std::function<void()> action;
         const char* text;
@@ -59,11 +63,17 @@ TEST_P(StoreModes, RefusesWhatAHostMustRefuse)
         {[&] { store.resize_integers(one, -3); }, "a store block cannot have -3 words"},
         {[&] { store.allocate_reals(Store::capacity); }, "the store is full: no room for 16000000 words"},
         {[&] { store.integer(one, 2); }, "store block 1 has no integer word 2; it has 1"},
+        {[&] { store.integer(one, 0); }, "store block 1 has no integer word 0; it has 1"},
+        {[&] { store.integers(reals); }, "store block 3 holds reals; asked for as integers"},
+        {[&] { store.integers(table); }, "store block 4 holds integers and reals; asked for as integers"},
+        {[&] { store.integer(reals, 1); }, "store block 3 has no integers"},
+        {[&] { store.real(one, 1); }, "store block 1 has no reals"},
+        {[&] { store.allocate_reals(Store::capacity + 1); }, "the store is full: no room for 16000001 words"},
         {[&] { store.check_run(ST_WORDS + Store::capacity - 1, 2, "CC_INDEX"); },
          "CC_INDEX: store positions 16000000 to 16000001 are out of range"},
     };
     for (const auto& c : cases) EXPECT_EQ(refusal(c.action), c.text);
-    EXPECT_EQ(store.allocate_integers(1), 3) << "a refused allocation gives no id away";
+    EXPECT_EQ(store.allocate_integers(1), 5) << "a refused allocation gives no id away";
 }
 
 TEST(Store, PlainModeReusesFreedSpaceClearedUpToNearlySixteenMillionWords)
@@ -130,6 +140,9 @@ TEST(Store, CheckedModeNamesTheBlockWhoseFenceIsDamaged)
         EXPECT_EQ(refusal([&] { store.verify(); }), "words around store block 2 were overwritten");
         EXPECT_NE(refusal([&] { store.integers(hit); }), "");
         EXPECT_NE(refusal([&] { store.allocate_reals(1); }), "");
+        Store of_reals(Store::Mode::checked);
+        ST_WORDS[of_reals.reals(of_reals.allocate_reals(4)) - 1 + beyond] = 1;
+        EXPECT_EQ(refusal([&] { of_reals.verify(); }), "words around store block 1 were overwritten");
     }
 }
 
@@ -157,6 +170,9 @@ TEST(Store, CheckedModeRefusesARunThatLeavesItsBlock)
     const int64_t outside[2] = {};
     store.check_run(second, 3, "CC_INDEX");
     store.check_run(outside, 2, "CC_INDEX");
+    store.check_run(second, 0, "CC_INDEX");
+    store.check_run(ST_WORDS + Store::capacity, 2, "CC_INDEX");
+    store.check_run(reinterpret_cast<const int64_t*>(sizeof(int64_t)), 2, "CC_INDEX");
     EXPECT_THROW(store.check_run(second, 4, "CC_INDEX"), Error);
 }
 

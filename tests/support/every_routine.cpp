@@ -31,7 +31,7 @@ World world_with(const std::string& attribute, double value)
                               {"SSFLOW", {30, 10}},
                               {"SSMOM", 1600}}));
     world.polymer("R", given({{"MWN", 2000}, {"SFLOW", {30, 10}}}));
-    return world.oligomer("O", {{"A", 2}, {"B", 1}}).conventional("W", 18, "H2O");
+    return world.oligomer("O", {{"A", 2}, {"B", 1}}).oligomer("T", {{"A", 3}}).conventional("W", 18, "H2O");
 }
 
 Arguments::Arguments(World& world, double every_real)
@@ -45,7 +45,8 @@ Arguments::Arguments(World& world, double every_real)
 {
     const auto room = static_cast<std::size_t>(6 * n * n);
     for (Int c = 1; c <= n; ++c) listed.push_back(c);
-    for (const char* id : {"P", "Q", "R", "O"}) flags.at(static_cast<std::size_t>(world.index(id) - 1)) = 1;
+    for (const char* id : {"P", "Q", "R", "O", "T"})
+        flags.at(static_cast<std::size_t>(world.index(id) - 1)) = 1;
     for (std::size_t i = 0; i < room; ++i)
         values.push_back(std::isinf(every_real) ? 1 + 0.25 * static_cast<double>(i % 7) : every_real);
     real_outputs.assign(9, GuardedReals(room));

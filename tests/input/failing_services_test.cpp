@@ -1,0 +1,158 @@
+// A host whose services fail: the k-th call ends in an error, for every k, and the run goes on after it.
+#include <gtest/gtest.h>
+#include <polyprops/host.h>
+
+#include <cstdlib>
+#include <functional>
+
+#include "input/checked_paragraph.h"
+#include "minihost/service_log.h"
+#include "support/every_routine.h"
+#include "support/refusal.h"
+
+// The check frees its scratch memory at its end, which a host that unwinds past it prevents.
+extern "C" __attribute__((weak)) void __lsan_disable();
+extern "C" __attribute__((weak)) void __lsan_enable();
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool memory_can_fail = false;
+static int allocations_until_failure;
+#else
+constexpr bool memory_can_fail = true;
+static int allocations_until_failure = 0;  // 0: none fails
+
+extern "C" void* __libc_calloc(std::size_t count, std::size_t size);
+extern "C" void* calloc(std::size_t count, std::size_t size)
+{
+    if (allocations_until_failure > 0 && --allocations_until_failure == 0) return nullptr;
+    return __libc_calloc(count, size);
+}
+#endif
+
+using namespace support;
+using namespace minihost;
+
+namespace {
+
+// Runs the action with its k-th call of a service failing. False when it makes fewer calls.
+bool fails_at(Int k, const std::function<void()>& action)
+{
+    ServiceLog log;
+    log.fail_at(k);
+    if (__lsan_disable) __lsan_disable();
+    const std::string refused = refusal(action);
+    if (__lsan_enable) __lsan_enable();
+    if (log.count() < k) return false;
+    EXPECT_EQ(refused, log.calls().back().service + " fails");
+    return true;
+}
+
+const std::vector<minihost::Sentence> everything{
+    PolymerSentence{{"P", "NYLON", "Q"}},
+    SegmentSentence{{{"E", 1}, {"A", 2}, {"B", 3}, {"X", 4}}},
+    OligomerSentence{{{"O", "A", 2}, {"", "B", 1}, {"R", "X", 1}}},
+    CatalystSentence{{{"K", 1.5}, {"X", 1}}},
+    SiteSentence{2, {1, 2, 3}, 0.5},
+    AttributeSentence{{{"P", {"ZMOM", "SFLOW"}}, {"Q", {"ZMOM"}}, {"K", {"CPSFLOW", "CVSFLOW"}}}},
+    DistributionSentence{{{"P", 4, {1, 2, 3}, 0.5}, {"X", 1, {0, 0, 0}, 0}}},
+    InitiatorSentence{{"I", "X"}},
+};
+
+// What the paragraph leaves behind, without the ids of its blocks.
+std::vector<std::string> outcome(CheckedParagraph& world)
+{
+    std::vector<std::string> found;
+    for (const Int word : {2, 3, 6, 7, 9, 11, 12, 13, 17}) found.push_back(world.list(word));
+    for (const Int number : world.message_numbers()) found.push_back(std::to_string(number));
+    found.push_back(world.forwarded());
+    return found;
+}
+
+TEST(FailingServices, LeaveAParagraphThatCanBeCheckedAgain)
+{
+    const auto expected = [] {
+        CheckedParagraph world;
+        EXPECT_EQ(world.check(everything), 0);
+        return outcome(world);
+    }();
+    const std::vector<minihost::Sentence> smaller{PolymerSentence{{"P"}}, SegmentSentence{{{"A", 2}}},
+                                                  OligomerSentence{{{"O", "A", 2}}},
+                                                  CatalystSentence{{{"K", 1}}}};
+    for (const auto& before : {std::vector<minihost::Sentence>{}, smaller}) {
+        bool failed = true;
+        for (Int k = 1; failed; ++k) {
+            SCOPED_TRACE("call " + std::to_string(k));
+            CheckedParagraph world;
+            if (!before.empty()) world.check(before);
+            failed = fails_at(k, [&] { world.check(everything); });
+            world.host.store().verify();
+            EXPECT_EQ(world.check(everything), 0);
+            EXPECT_EQ(outcome(world), expected);
+        }
+    }
+}
+
+TEST(FailingServices, BuildNothingWhenASentenceOrMemoryCannotBeHad)
+{
+    for (Int number = 1; number <= std::ssize(everything); ++number) {
+        CheckedParagraph world;
+        world.host.paragraph().fail_at(number);
+        EXPECT_EQ(world.check(everything), 2);
+        EXPECT_LE(world.host.polymer_block(), 0);
+        EXPECT_TRUE(world.host.messages().printed().empty());
+    }
+    if (!memory_can_fail) GTEST_SKIP() << "the sanitizer has its own allocator";
+    for (const int allocation : {1, 2}) {
+        CheckedParagraph world;
+        allocations_until_failure = allocation;
+        EXPECT_EQ(world.check(everything), 2) << "allocation " << allocation;
+        EXPECT_EQ(allocations_until_failure, 0);
+        EXPECT_LE(world.host.polymer_block(), 0);
+    }
+}
+
+TEST(FailingServices, LeaveTheStoreOfAReadingRoutineAsItWas)
+{
+    World world = world_with("none", 0);
+    const auto before = world.host().store().contents();
+    for (const Routine& routine : routines_that_only_read()) {
+        Int k = 1;
+        Arguments arguments{world};
+        while (fails_at(k, [&] { routine.call(arguments); })) ++k;
+        for (const auto& output : arguments.real_outputs) EXPECT_TRUE(output.fence_holds()) << routine.name;
+    }
+    EXPECT_TRUE(world.host().store().contents() == before);
+}
+
+Int occurrences(const std::string& text, const std::string& word)
+{
+    Int count = 0;
+    for (auto at = text.find(word); at != std::string::npos; at = text.find(word, at + 1)) ++count;
+    return count;
+}
+
+TEST(FailingServices, LeaveCountersOfTheSummaryAtMostOneSetBehind)
+{
+    const std::array<double, 4> x{1, 2, 3, 4};
+    const Int n = 4, sections = 0, off = 0;
+    const double scale = 1;
+    bool failed = true;
+    for (Int k = 1; failed; ++k) {
+        SCOPED_TRACE("call " + std::to_string(k));
+        World world = world_with("none", 0);
+        SummaryFile& summary = world.host().summary();
+        const Int sets = ST_SUMGLOBAL[3 - 1], lists = ST_SUMGLOBAL[4 - 1];
+        const void* context = summary.context("C");
+        failed = fails_at(k, [&] {
+            POLY_CSDPLOT(context, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                         nullptr, &n, x.data(), x.data(), &sections, &scale, &off, &off);
+            POLY_WRTPOLSUM(context, &n, x.data(), x.data(), x.data(), x.data(), x.data(), x.data(), x.data());
+        });
+        const Int sets_begun = occurrences(summary.text(), "IDSET") - (ST_SUMGLOBAL[3 - 1] - sets);
+        const Int lists_begun = occurrences(summary.text(), "LSET") - (ST_SUMGLOBAL[4 - 1] - lists);
+        EXPECT_TRUE(0 <= sets_begun && 0 <= lists_begun && sets_begun + lists_begun <= (failed ? 1 : 0))
+            << sets_begun << " data sets, " << lists_begun << " list sets";
+    }
+}
+
+}  // namespace
