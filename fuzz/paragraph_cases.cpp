@@ -21,20 +21,25 @@ using namespace minihost;
 // Numbers from the bytes; zeros when they are used up.
 class Bytes {
 public:
-    Bytes(const std::uint8_t* first, std::size_t size) : next_(first), end_(first + size) {}
+    explicit Bytes(std::string_view text) : text_(text) {}
 
-    Int byte() { return next_ == end_ ? 0 : *next_++; }
+    Int byte()
+    {
+        if (text_.empty()) return 0;
+        const auto first = static_cast<unsigned char>(text_.front());
+        text_.remove_prefix(1);
+        return first;
+    }
     Int below(Int limit)
     {
         const Int high = byte();
         return (256 * high + byte()) % limit;
     }
     bool chance(Int one_in) { return byte() % one_in == 1; }
-    bool used_up() const { return next_ == end_; }
+    bool used_up() const { return text_.empty(); }
 
 private:
-    const std::uint8_t* next_;
-    const std::uint8_t* end_;
+    std::string_view text_;
 };
 
 class ParagraphMaker {
@@ -256,9 +261,9 @@ void suppress_some(MessageLog& messages, Bytes& bytes)
 
 }  // namespace
 
-void check_paragraphs(const std::uint8_t* first, std::size_t size)
+void check_paragraphs(std::string_view text)
 {
-    Bytes bytes{first, size};
+    Bytes bytes{text};
     const Int component_count = 1 + bytes.below(400);
     Host host{components(component_count), {.store_mode = Store::Mode::checked}};
     ParagraphMaker maker{bytes, component_count};

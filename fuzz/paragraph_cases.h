@@ -2,13 +2,12 @@
 // blocks that it built. The fuzz target and the replay of its kept seeds share it.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
+#include <string_view>
 
 namespace polyprops_fuzz {
 
 // Throws when something does not hold: minihost::Error for what the host refuses, std::logic_error for the
 // rest.
-void check_paragraphs(const std::uint8_t* first, std::size_t size);
+void check_paragraphs(std::string_view text);
 
 }  // namespace polyprops_fuzz

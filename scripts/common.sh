@@ -15,8 +15,8 @@ have_header() { echo "#include <$1>" | g++ -std=c++20 -E -x c++ - >/dev/null 2>&
 have_python() { python3 -c 'import sys; sys.exit(sys.version_info < (3, 11))' 2>/dev/null; }
 
 # The Debian packages that are missing: for the program, with the word `tests` for the tests as well, with `browser`
-# for those that look at HTML reports, which are skipped without one, with `coverage` for its measurement, and with `lint`
-# for the checks of the sources.
+# for those that look at HTML reports, which are skipped without one, with `coverage` for its measurement, with
+# `fuzz` for the fuzz targets, and with `lint` for the checks of the sources.
 missing_packages() {
     have_command cmake || echo cmake
     have_command ninja || echo ninja-build
@@ -29,6 +29,11 @@ missing_packages() {
     [[ -f /usr/share/javascript/chart.js/chart.min.js ]] || echo libjs-chart.js
     [[ " $* " != *" browser "* ]] || have_command chromium || echo chromium
     [[ " $* " != *" coverage "* ]] || have_command gcovr || echo gcovr
+    if [[ " $* " == *" fuzz "* ]]; then
+        have_command clang++-14 || echo clang-14
+        compgen -G '/usr/lib/llvm-14/lib/clang/*/lib/linux/libclang_rt.fuzzer*' >/dev/null ||
+            echo libclang-rt-14-dev
+    fi
     if [[ " $* " == *" lint "* ]]; then
         have_command git || echo git
         have_command clang-format || echo clang-format

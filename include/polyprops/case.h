@@ -20,8 +20,7 @@
 // freed, except where a comment says otherwise.
 //
 // Threads. Different handles may be used by different threads at the same time; one handle by one thread at a
-// time. Runs within a process are serialized: there is one
-// embedded host.
+// time. Runs within a process are serialized: there is one embedded host.
 //
 // Units are those of the case file: kmol/h, kg/h, g/mol, K.
 #pragma once
@@ -108,12 +107,17 @@ int polyprops_case_compare(polyprops_case* handle, const char* path, const char*
 // How every later polyprops_case_compare reads its file; an earlier comparison is kept as it was. A NULL
 // `key` restores all defaults. Keys and values are those of the program's options, --gpc-window for "window":
 //
-//   "column"       "m" or "log10m"        content of the first column; the default is by heading and values
-//   "baseline"     "800:2e6"              line through the signal at two molecular weights, g/mol; default
-//   none "window"       "1000:1e6"             molecular weights that are kept, g/mol; default all "negative"
-//   "refuse" or "cut"      a signal below zero; the default is "refuse" "calibration"  "1.4e-4,0.7:4e-4,0.73"
-//   K1,a1:K2,a2 of standards and polymer; default none "exponent"     "0.7"                  Mark-Houwink
-//   exponent for Mv; the default is that of the distribution
+//   "column": "m" or "log10m", the content of the first column; the default is by heading and values
+//
+//   "baseline": "800:2e6", a line through the signal at two molecular weights, g/mol; default none
+//
+//   "window": "1000:1e6", the molecular weights that are kept, g/mol; default all
+//
+//   "negative": "refuse" (the default) or "cut" a signal below zero
+//
+//   "calibration": "1.4e-4,0.7:4e-4,0.73", K1,a1:K2,a2 of standards and polymer; default none
+//
+//   "exponent": "0.7", the Mark-Houwink exponent for Mv; the default is that of the distribution
 //
 // POLYPROPS_NOT_FOUND: there is no such key. POLYPROPS_CASE_ERROR: the value is not valid. Both change
 // nothing.

@@ -34,8 +34,8 @@ public:
 
     void append(std::string_view text)
     {
-        const auto shown = text.substr(0, static_cast<std::size_t>(end_ - next_));
-        next_ = std::replace_copy(shown.begin(), shown.end(), next_, '\0', ' ');
+        const auto shown = std::min(text.size(), static_cast<std::size_t>(end_ - next_));
+        next_ = std::replace_copy(text.data(), text.data() + shown, next_, '\0', ' ');
     }
     void append(const NamePair& name)
     {

@@ -2,8 +2,9 @@
 #include <limits>
 
 #include "case/interface.h"
+#include "fuzz/interface_cases.h"
 #include "fuzz/key_cases.h"
-#include "support/files.h"
+#include "support/kept_seeds.h"
 
 namespace {
 
@@ -215,15 +216,10 @@ TEST(Case, AnswersForAHandleThatIsNull)
     polyprops_run_free(nullptr);
 }
 
-TEST(KeptSeeds, ReadAndChangeKeys)
+TEST(KeptSeeds, RunThroughTheirTargets)
 {
-    int seeds = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(POLYPROPS_FUZZ_SEEDS "/key")) {
-        SCOPED_TRACE(entry.path());
-        EXPECT_NO_THROW(polyprops_fuzz::check_keys(support::content(entry.path())));
-        ++seeds;
-    }
-    EXPECT_GT(seeds, 0);
+    support::replay("key", polyprops_fuzz::check_keys);
+    support::replay("interface", polyprops_fuzz::check_calls);
 }
 
 }  // namespace

@@ -2,15 +2,22 @@
 
 #include <polyprops/polyprops.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace support {
 
 World world_with(const std::string& attribute, double value)
 {
+    return world_with([&](Attribute& each) {
+        if (attribute.empty() || each.name == attribute) each.values.assign(each.values.size(), value);
+    });
+}
+
+World world_with(const std::function<void(Attribute&)>& change)
+{
     const auto given = [&](Attributes attributes) {
-        for (Attribute& each : attributes)
-            if (attribute.empty() || each.name == attribute) each.values.assign(each.values.size(), value);
+        std::ranges::for_each(attributes, change);
         return attributes;
     };
     World world;

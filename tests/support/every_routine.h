@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <limits>
 #include <string>
 #include <vector>
@@ -14,6 +15,8 @@ namespace support {
 // Two segments, polymers with and without preferred attributes, an oligomer and water; `attribute` of the
 // polymers holds `value`, every one when it is empty.
 World world_with(const std::string& attribute, double value);
+// The same with every attribute as `change` leaves it.
+World world_with(const std::function<void(Attribute&)>& change);
 
 // Arguments that fit every routine: what a count counts is its name, all real inputs share their values.
 struct Arguments {
