@@ -17,8 +17,10 @@ class Reals {
 public:
     explicit Reals(std::string_view bytes) : values_(bytes.size() / sizeof(double))
     {
-        std::memcpy(values_.data(), bytes.data(), values_.size() * sizeof(double));
-        if (values_.empty()) values_.push_back(1);
+        if (values_.empty())
+            values_.push_back(1);
+        else
+            std::memcpy(values_.data(), bytes.data(), values_.size() * sizeof(double));
     }
     double next() { return values_[at_++ % values_.size()]; }
     void fill(std::vector<double>& values)

@@ -28,8 +28,10 @@ missing_packages() {
     have_header nlohmann/json.hpp || echo nlohmann-json3-dev
     [[ -f /usr/share/javascript/chart.js/chart.min.js ]] || echo libjs-chart.js
     [[ " $* " != *" browser "* ]] || have_command chromium || echo chromium
-    [[ " $* " != *" coverage "* ]] || have_command gcovr || echo gcovr
-    if [[ " $* " == *" fuzz "* ]]; then
+    if [[ " $* " == *" coverage "* ]]; then
+        have_command llvm-cov-14 || echo llvm-14
+    fi
+    if [[ " $* " == *" fuzz "* || " $* " == *" coverage "* ]]; then
         have_command clang++-14 || echo clang-14
         compgen -G '/usr/lib/llvm-14/lib/clang/*/lib/linux/libclang_rt.fuzzer*' >/dev/null ||
             echo libclang-rt-14-dev
