@@ -36,7 +36,7 @@ void read_diagnostics(const Handle* handle, std::size_t count, const Ask& ask)
     polyprops_diagnostic found{};
     for (std::size_t i = 0; i < count; ++i) {
         require(ask(handle, i, &found) == POLYPROPS_OK, "a counted diagnostic is missing");
-        require(found.file && found.key && std::string{found.text}.size() > 0, "a diagnostic lacks a text");
+        require(found.file && found.key && found.text && *found.text != '\0', "a diagnostic lacks a text");
     }
     require(ask(handle, count, &found) != POLYPROPS_OK, "there is a diagnostic past the last");
 }

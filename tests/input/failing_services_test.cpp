@@ -10,6 +10,13 @@
 #include "support/every_routine.h"
 #include "support/refusal.h"
 
+// Names of the C library and of the sanitizer.
+// NOLINTBEGIN(*-reserved-identifier, readability-identifier-naming, readability-inconsistent-*)
+#ifdef __clang__
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wreserved-identifier"
+#endif
+
 // The check frees its scratch memory at its end, which a host that unwinds past it prevents.
 extern "C" __attribute__((weak)) void __lsan_disable();
 extern "C" __attribute__((weak)) void __lsan_enable();
@@ -28,6 +35,10 @@ extern "C" void* calloc(std::size_t count, std::size_t size)
     return __libc_calloc(count, size);
 }
 #endif
+#ifdef __clang__
+#pragma clang diagnostic pop
+#endif
+// NOLINTEND(*-reserved-identifier, readability-identifier-naming, readability-inconsistent-*)
 
 using namespace support;
 using namespace minihost;

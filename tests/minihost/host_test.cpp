@@ -180,7 +180,7 @@ TEST(Host, ServicesRefuseWhatNoLibraryMayAsk)
              ST_PRINT_ERROR(&eleven);
          },
          "a message of 11 lines was printed; expected 1 to 10"},
-        {[&] { PS_FIND_COMPONENT(&name[0], &name[1], &one, &out, &out); },
+        {[&] { PS_FIND_COMPONENT(name.data(), &name[1], &one, &out, &out); },
          "PS_FIND_COMPONENT: argument 3 is not UT_COMPONENT_IDS"},
         {[&] { PS_PROCESS_SENTENCE(&code, &two, &one, &one, &one, &out); },
          "PS_PROCESS_SENTENCE: argument 3 is not the semantics context"},

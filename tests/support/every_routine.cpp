@@ -84,8 +84,8 @@ const std::vector<Routine>& routines_that_only_read()
 #define IN a.values.data()
 #define OUT(which) a.reals(which)
 #define LIST(which) a.integers(which)
-#define COUNT(which) a.integer.data() + (which)
-#define REAL(which) a.real.data() + (which)
+#define COUNT(which) (a.integer.data() + (which))
+#define REAL(which) (a.real.data() + (which))
     // clang-format off
     static const std::vector<Routine> routines{
         ROUTINE(POLY_GETDPN, &a.one, LISTED, OUT(1)),
