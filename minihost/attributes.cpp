@@ -128,7 +128,6 @@ const AttributeTable::Entry* AttributeTable::find(Int component, std::string_vie
 Int AttributeTable::reported_offset(Int component, std::string_view name) const
 {
     const Entry* entry = find(component, name);
-    if (!entry) return 0;
     if (hidden_.empty()) return entry->offset;
     const auto hidden = hidden_.find({component, std::string(name)});
     return hidden == hidden_.end() ? entry->offset : hidden->second;

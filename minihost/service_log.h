@@ -29,7 +29,6 @@ public:
     const std::vector<ServiceCall>& calls() const { return calls_; }
     Int count(std::string_view service) const;
     Int count() const { return static_cast<Int>(calls_.size()); }
-    void clear() { calls_.clear(); }
 
     // Makes the service of this call, counted from 1, throw an Error; 0: none does.
     void fail_at(Int call) { failing_ = call; }

@@ -38,8 +38,6 @@ public:
     Store(const Store&) = delete;
     Store& operator=(const Store&) = delete;
 
-    Mode mode() const { return mode_; }
-
     // New blocks. Throw Error for a negative length and when the store is full.
     BlockId allocate_integers(Int length, Placement placement = Placement::movable);
     BlockId allocate_reals(Int length, Placement placement = Placement::movable);

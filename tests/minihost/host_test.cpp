@@ -77,6 +77,13 @@ TEST(Host, AttributeLengthsFollowSegmentsEndsAndSites)
         EXPECT_EQ(attribute_length(*find_attribute_kind(name), world.host().dimensions()), length) << name;
 }
 
+TEST(Host, WithoutStreamsHasOffsetsOfAttributes)
+{
+    Host host({{.id = "P", .component_class = ComponentClass::polymer}});
+    host.attributes().carry(1, {"DPN", "ZMOM"});
+    EXPECT_EQ(host.attribute_offset(1, "ZMOM") - host.attribute_offset(1, "DPN"), 1);
+}
+
 TEST(Host, ParameterVectorsExistWhenAComponentGivesThem)
 {
     auto world = World{}.conventional("A", 18).parameter("A", Parameter::dpn, 7);
@@ -118,6 +125,7 @@ TEST(Host, RefusesWhatIsWrongWithStreamsAndAttributes)
         {[&] { host.attributes().hide(p, "SFLOW", 1); }, "a hidden attribute needs an offset of 0 or less"},
         {[&] { host.attributes().hide(p, "ZMOM", 0); }, "attribute \"ZMOM\" is not carried"},
         {[&] { host.lay_attribute_blocks().values(p, "ZMOM", 1); }, "P does not carry attribute ZMOM"},
+        {[&] { host.lay_attribute_blocks().values(p, "SFLOX", 1); }, "P does not carry attribute SFLOX"},
         {[&] { host.components().at(0); }, "component index 0 is not in 1..4"},
         {[&] { host.attributes().carry(p, {"ZMON"}); }, "unknown attribute \"ZMON\""},
         {[&] { host.attributes().carry(p, {"ZMOM"}); },

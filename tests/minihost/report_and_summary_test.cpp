@@ -28,6 +28,9 @@ void write(Host& host, std::string_view line, std::int32_t unit = ST_FILES[27 - 
 
 TEST(ReportFile, StartsAPageWhenLinesDoNotFitAndRefusesBadOnes)
 {
+    World unreserved;
+    write(unreserved.host(), "one");
+    EXPECT_EQ(unreserved.host().report().pages(), (std::vector<ReportPage>{{"one"}}));
     World world;
     auto& host = world.host();
     host.report().set_lines_per_page(3);

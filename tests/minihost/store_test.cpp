@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <polyprops/host.h>
 
+#include <cstdlib>
 #include <functional>
 
 #include "minihost/embedded_host.h"
@@ -47,6 +48,7 @@ TEST_P(StoreModes, RefusesWhatAHostMustRefuse)
     const BlockId one = store.allocate_integers(1);
     const BlockId freed = store.allocate_integers(1);
     store.free(freed);
+    EXPECT_EQ(store.contents().size(), 1);
     const BlockId reals = store.allocate_reals(1), table = store.allocate_two_part(1, 1);
     for (const BlockId none : {BlockId{0}, freed, BlockId{99}}) EXPECT_FALSE(store.exists(none));
     EXPECT_TRUE(store.exists(reals));
@@ -74,6 +76,21 @@ TEST_P(StoreModes, RefusesWhatAHostMustRefuse)
     };
     for (const auto& c : cases) EXPECT_EQ(refusal(c.action), c.text);
     EXPECT_EQ(store.allocate_integers(1), 5) << "a refused allocation gives no id away";
+}
+
+TEST(Store, IsCheckedWhenTheEnvironmentSaysSo)
+{
+    const char* const before = std::getenv("POLYPROPS_CHECKED_STORE");
+    const std::string kept = before ? before : "";
+    const std::pair<const char*, Store::Mode> settings[] = {
+        {"", Store::Mode::plain}, {"0", Store::Mode::plain}, {"1", Store::Mode::checked}};
+    for (const auto& [setting, mode] : settings) {
+        setenv("POLYPROPS_CHECKED_STORE", setting, 1);
+        EXPECT_EQ(Store::default_mode(), mode) << setting;
+    }
+    unsetenv("POLYPROPS_CHECKED_STORE");
+    EXPECT_EQ(Store::default_mode(), Store::Mode::plain);
+    if (before) setenv("POLYPROPS_CHECKED_STORE", kept.c_str(), 1);
 }
 
 TEST(Store, PlainModeReusesFreedSpaceClearedUpToNearlySixteenMillionWords)
