@@ -69,7 +69,7 @@ public:
     // The attribute of a component, null when it does not carry it.
     const Entry* find(Int component, std::string_view name) const;
 
-    // The offset that the library gets, 0 when the component does not carry the attribute.
+    // The offset that the library gets, of an attribute that the component carries.
     Int reported_offset(Int component, std::string_view name) const;
 
     const std::vector<Entry>& carried_by(Int component) const;

@@ -28,10 +28,10 @@ void write(Host& host, std::string_view line, std::int32_t unit = ST_FILES[27 - 
 
 TEST(ReportFile, StartsAPageWhenLinesDoNotFitAndRefusesBadOnes)
 {
-    World unreserved;
-    write(unreserved.host(), "one");
-    EXPECT_EQ(unreserved.host().report().pages(), (std::vector<ReportPage>{{"one"}}));
-    World world;
+    World unreserved, world;
+    auto& bare = unreserved.host();
+    write(bare, "one");
+    EXPECT_EQ(bare.report().pages(), (std::vector<ReportPage>{{"one"}}));
     auto& host = world.host();
     host.report().set_lines_per_page(3);
     host.report().set_title("CASE");

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 namespace support {
 
@@ -63,12 +64,14 @@ Arguments::Arguments(World& world, double every_real)
 std::vector<Int> Arguments::results() const
 {
     std::vector<Int> all{integer.begin(), integer.end()};
-    const auto append = [&all](double value) { all.push_back(std::bit_cast<Int>(value)); };
-    for (const double value : real) append(value);
-    for (const auto& output : real_outputs)
-        for (const double value : output.values()) append(value);
-    for (const auto& output : integer_outputs)
-        for (const Int value : output.values()) all.push_back(value);
+    const auto append = [&all](const auto& written) {
+        const auto size = all.size();
+        all.resize(size + written.size());
+        std::memcpy(all.data() + size, written.data(), written.size() * sizeof(Int));
+    };
+    append(real);
+    for (const auto& output : real_outputs) append(output.values());
+    for (const auto& output : integer_outputs) append(output.values());
     return all;
 }
 
