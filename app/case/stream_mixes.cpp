@@ -131,9 +131,11 @@ private:
         double by_mw = 0;
         for (const auto& [stream, factor] : parts_) {
             const auto part = moments_of(*stream);
+            if (!has_mw(part)) return;
             mass += factor * part.mass;
             by_mw += factor * part.mass * mw(part);
         }
+        if (!has_mw(whole) || !(mass > 0)) return;
         const double by_mass = by_mw / mass;
         if (!(std::abs(mw(whole) - by_mass) > mass_average_tolerance * by_mass)) return;
         input_.warnings.push_back(
@@ -145,12 +147,8 @@ private:
              Severity::warning});
     }
 
-    // NaN where a moment is not known or zero.
-    static double mw(const ChainMoments& m)
-    {
-        const double segments = m.first.value_or(0);
-        return m.second.value_or(0) / segments * (m.mass / segments);
-    }
+    static bool has_mw(const ChainMoments& m) { return m.second && m.first.value_or(0) > 0; }
+    static double mw(const ChainMoments& m) { return *m.second / *m.first * (m.mass / *m.first); }
 
     ChainMoments moments_of(const Stream& stream) const
     {
