@@ -36,6 +36,7 @@ int run_program(int argc, char** argv)
 
 }  // namespace
 
+// NOLINTNEXTLINE(bugprone-exception-escape): only writing the message of an exception can throw another
 int main(int argc, char** argv)
 {
     const auto command = [&] {
