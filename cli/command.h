@@ -77,7 +77,7 @@ int guarded(const Command& command, std::FILE* errors)
     try {
         return command();
     } catch (const std::bad_alloc& /*error*/) {
-        return fail("out of memory", errors);
+        return fail("not enough memory", errors);
     } catch (const std::exception& error) {
         return fail(error.what(), errors);
     }

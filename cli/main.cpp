@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "cli/check_command.h"
+#include "cli/command.h"
 #include "cli/convert_command.h"
 #include "cli/fit_command.h"
 #include "cli/process.h"
@@ -35,12 +36,14 @@ int run_program(int argc, char** argv)
 
 }  // namespace
 
+// NOLINTNEXTLINE(bugprone-exception-escape): only writing the message of an exception can throw another
 int main(int argc, char** argv)
-try {
-    if (const auto missing = cli::prepare_process(); !missing.empty()) return cli::fail(missing, stderr);
-    const int status = run_program(argc, argv);
-    std::cout.flush();
-    return cli::checked_output(status);
-} catch (const std::exception& error) {
-    return cli::fail(error.what(), stderr);
+{
+    const auto command = [&] {
+        if (const auto missing = cli::prepare_process(); !missing.empty()) return cli::fail(missing, stderr);
+        const int status = run_program(argc, argv);
+        std::cout.flush();
+        return cli::checked_output(status);
+    };
+    return cli::guarded(command, stderr);
 }

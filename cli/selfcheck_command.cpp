@@ -19,12 +19,8 @@
 
 namespace cli {
 
-namespace {
-
-// Equal masses of polystyrene of 10 000, 30 000 and 100 000 g/mol, each of one chain length; a site whose
-// chains end with the probability 0.1 on the grid 10, 100; a pair at its reference temperature.
-constexpr std::string_view built_in_case = R"(
-title = "PolymerInput-in case"
+const std::string_view built_in_case = R"(
+title = "Built-in case"
 
 [components]
 STY-R = { class = "segment", molecular_weight = 104.152 }
@@ -52,6 +48,8 @@ leading_positions = 5
 leading_symmetry = "antisymmetric"
 temperatures = [300]
 )";
+
+namespace {
 
 struct Answer {
     const char* key;
@@ -93,10 +91,10 @@ bool check(const Answer& answer, const std::vector<app::ResultNumber>& all, std:
     return agrees;
 }
 
-bool check_all(std::FILE* out)
+bool check_all(std::FILE* out, std::string_view case_text)
 {
     app::Diagnostics diagnostics;
-    const auto input = app::CaseDocument{built_in_case, "built-in"}.read(diagnostics);
+    const auto input = app::CaseDocument{case_text, "built-in"}.read(diagnostics);
     for (const auto& line : diagnostics.lines("built-in")) fmt::print(out, "FAILED  {}\n", line);
     if (!diagnostics.empty()) return false;
     const auto report = app::make_report(input, app::evaluate(input));
@@ -134,12 +132,12 @@ void print_versions(std::FILE* out)
 
 }  // namespace
 
-int selfcheck(std::FILE* out)
+int selfcheck(std::FILE* out, std::string_view case_text)
 {
     bool is_good = false;
     print_versions(out);
     try {
-        is_good = check_all(out);
+        is_good = check_all(out, case_text);
     } catch (const std::exception& error) {
         fmt::print(out, "FAILED  {}\n", error.what());
     }

@@ -64,6 +64,7 @@ void add_sweep_command(CLI::App& program, int& status)
     command->add_option("--out", options->out, "CSV file, a row for each case")
         ->required()
         ->type_name("FILE");
+    add_csv_safe(*command, options->csv_texts);
     command->add_option("--processes", options->processes, "Cases at a time (default: one for each core)")
         ->check(CLI::Range(1, 1024));
     command->callback([options, &status] { status = sweep(*options, stderr); });

@@ -115,15 +115,8 @@ Compositions with_closures(std::vector<Composition> bases)
 
 std::string_view text(Basis basis)
 {
-    switch (basis) {
-        case Basis::apparent:
-            return "apparent";
-        case Basis::true_chains:
-            return "true";
-        case Basis::segment:
-            return "segment";
-    }
-    return {};
+    if (basis == Basis::apparent) return "apparent";
+    return basis == Basis::true_chains ? "true" : "segment";
 }
 
 Compositions compositions(const StreamList& list, const Host& host)

@@ -36,16 +36,11 @@ double value_of(const Property& property, const StreamList& list, Component chai
     if (own != property.own_values.end()) return own->value;
     if (!has_segments(list, chain)) return unknown;
     const auto values = by_component(property.segment_values, host);
-    switch (property.averaging) {
-        case Averaging::number:
-            return routines::number_average(list.counts, chain, values, unknown);
-        case Averaging::mass:
-            return routines::weighted_average(list.counts, chain, values, list.molecular_weight, unknown);
-        case Averaging::weight_factors:
-            return routines::weighted_average(list.counts, chain, values,
-                                              by_component(property.weight_factors, host), unknown);
-    }
-    return unknown;
+    if (property.averaging == Averaging::number)
+        return routines::number_average(list.counts, chain, values, unknown);
+    const auto weights = property.averaging == Averaging::mass ? list.molecular_weight
+                                                               : by_component(property.weight_factors, host);
+    return routines::weighted_average(list.counts, chain, values, weights, unknown);
 }
 
 }  // namespace

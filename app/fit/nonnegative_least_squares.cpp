@@ -18,7 +18,6 @@ constexpr double gradient_rounding = 1e-13;
 VectorXd passive_solution(const MatrixXd& a, const VectorXd& b, const std::vector<Index>& passive)
 {
     VectorXd x = VectorXd::Zero(a.cols());
-    if (passive.empty()) return x;
     const MatrixXd columns = a(Eigen::all, passive);
     x(passive) = columns.colPivHouseholderQr().solve(b);
     return x;

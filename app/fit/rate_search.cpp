@@ -55,7 +55,6 @@ public:
     {
     }
 
-    Index inputs() const { return sites_; }
     Index values() const { return signal_.size(); }
 
     VectorXd bounded(const VectorXd& log_rates) const

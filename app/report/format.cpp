@@ -9,15 +9,8 @@ namespace app {
 
 std::string formatted(const Report& report, Format format, CsvTexts texts)
 {
-    switch (format) {
-        case Format::text:
-            return format_text(report);
-        case Format::csv:
-            return format_csv(report, texts);
-        case Format::json:
-            return format_json(report);
-    }
-    return {};
+    if (format == Format::text) return format_text(report);
+    return format == Format::csv ? format_csv(report, texts) : format_json(report);
 }
 
 std::string format_measured_curve(const DistributionResults& distribution)

@@ -13,15 +13,9 @@ namespace {
 
 std::string heading(Basis basis)
 {
-    switch (basis) {
-        case Basis::apparent:
-            return "Composition on the apparent basis";
-        case Basis::true_chains:
-            return "Composition on the true basis: polymers by their chains";
-        case Basis::segment:
-            return "Composition on the segment basis: chains by their segments";
-    }
-    return {};
+    if (basis == Basis::apparent) return "Composition on the apparent basis";
+    return basis == Basis::true_chains ? "Composition on the true basis: polymers by their chains"
+                                       : "Composition on the segment basis: chains by their segments";
 }
 
 // A row that ends with numbers by column.

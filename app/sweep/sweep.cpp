@@ -161,11 +161,13 @@ private:
         }
     }
 
+    std::string field(const std::string& text) const { return csv_field(text, options_.csv_texts); }
+
     std::string header() const
     {
         std::string line = "case";
-        for (const auto& range : grid_.ranges()) line += "," + csv_field(range.key);
-        for (const auto& column : columns_) line += "," + csv_field(column);
+        for (const auto& range : grid_.ranges()) line += "," + field(range.key);
+        for (const auto& column : columns_) line += "," + field(column);
         return line + ",error";
     }
 
@@ -178,7 +180,7 @@ private:
 
     std::string failed_row(std::size_t number, const std::string& why) const
     {
-        return lead(number) + std::string(columns_.size(), ',') + "," + csv_field(why);
+        return lead(number) + std::string(columns_.size(), ',') + "," + field(why);
     }
 
     // Runs in a process of its own.
@@ -201,7 +203,7 @@ private:
                     fmt::format("{} results have no column: the unchanged case lacks them", unknown));
             auto line = lead(number);
             for (const auto& value : values) line += "," + value;
-            return line + "," + csv_field(one_line(errors));
+            return line + "," + field(one_line(errors));
         } catch (const std::bad_alloc& /*error*/) {
             throw;  // not a property of the case
         } catch (const std::exception& error) {
@@ -214,7 +216,7 @@ private:
     {
         auto line = fmt::format("{:016x} {:016x}", checksum(text_), checksum(header()));
         for (const auto& range : grid_.ranges()) line += " " + range.text();
-        return line;
+        return options_.csv_texts == CsvTexts::guarded ? line + " csv-safe" : line;
     }
 
     SweepOutcome conclude(SweepJournal& journal) const

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "app/report/result_numbers.h"
+
 namespace app {
 
 struct SweepOptions {
@@ -13,6 +15,7 @@ struct SweepOptions {
     std::vector<std::string> sets;  // KEY=a:b:n
     std::filesystem::path out;
     std::size_t processes = 0;  // 0: one for each core
+    CsvTexts csv_texts = CsvTexts::exact;
 };
 
 struct SweepOutcome {

@@ -1,6 +1,7 @@
 #include "app/report/output_files.h"
 
 #include "app/io/file_contents.h"
+#include "app/io/visible_text.h"
 #include "cli/program.h"
 #include "cli/selfcheck_command.h"
 
@@ -111,11 +112,11 @@ TEST(Csv, ProtectsTextsThatSpreadsheetsWouldCompute)
 TEST(Pages, HoldAsManyLinesAsTheCaseSays)
 {
     const auto e = evaluated(
-        "title = \"Two\\nlines\\u001B\"\n[settings]\nlines_per_page = 5\n"
+        "title = \"Two\\n\\r\\flines\\u001B\"\n[settings]\nlines_per_page = 5\n"
         "[components]\nP = { molecular_weight = 1 }\n[parameters.S]\ncomponents = [\"P\"]\ntemperatures = "
         "[300]\n");
     const auto report = files_of(e).front().content;
-    EXPECT_EQ(report.find("Two lines\\u001B "), 0u);
+    EXPECT_EQ(report.find("Two   lines\\u001B "), 0u);
     std::istringstream pages{report};
     for (std::string page; std::getline(pages, page, '\f');) EXPECT_LE(count(page, "\n"), 5 + 2u) << page;
     EXPECT_GT(count(report, "\f"), 1u);
@@ -138,12 +139,61 @@ TEST(Html, EscapesEveryText)
     EXPECT_EQ(html.find("{{"), std::string::npos);
 }
 
-TEST(Selfcheck, AgreesWithKnownAnswers)
+TEST(Selfcheck, NamesEveryAnswerThatIsNotTheKnownOne)
 {
-    const support::Capture out;
-    EXPECT_EQ(cli::selfcheck(out.file), cli::exit_success) << out.text();
-    EXPECT_GT(count(out.text(), "\nok  "), 5u);
-    EXPECT_EQ(out.text().find("FAILED"), std::string::npos);
+    const std::string built_in{cli::built_in_case};
+    const struct {
+        std::string text;
+        std::size_t good, failed;
+        const char* shown;
+    } rows[] = {
+        {built_in, 9, 0, "Everything agrees."},
+        {with(built_in, "BLEND", "OTHER"), 6, 3, "FAILED  streams.BLEND.chain_averages.PS.mn = absent"},
+        {with(built_in, "tau = 0.1", "tau = 0.2"), 6, 3, "composite.pn = 5, expected 10 (1/tau)"},
+        {"[components]\n[plants]\n", 0, 3, "FAILED  built-in:2:"},
+        {"[components", 0, 1, "FAILED  built-in:1:"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.shown);
+        const support::Capture out;
+        EXPECT_EQ(cli::selfcheck(out.file, row.text) == cli::exit_success, row.failed == 0);
+        const auto seen = out.text();
+        EXPECT_EQ(count(seen, "\nok  "), row.good) << seen;
+        EXPECT_EQ(count(seen, "\nFAILED"), row.failed) << seen;
+        EXPECT_NE(seen.find(row.shown), std::string::npos) << seen;
+    }
+}
+
+TEST(Commands, SayInWordsThatMemoryIsShort)
+{
+    const support::Capture errors;
+    EXPECT_EQ(cli::guarded([]() -> int { throw std::bad_alloc{}; }, errors.file), cli::exit_case_error);
+    EXPECT_EQ(errors.text(), "polyprops: not enough memory\n");
+}
+
+TEST(Texts, ShowWhatTerminalsAndPagesMustNotReceive)
+{
+    const struct {
+        std::string text, visible, readable;
+        bool is_refused;
+    } rows[] = {
+        {"a\u00E9\u20AC\U0001F600", "a\u00E9\u20AC\U0001F600", "a\u00E9\u20AC\U0001F600", false},
+        {"a\r\n\tb", "a\\u000D\\u000A\\u0009b", "a\r\n\tb", true},
+        {"\x1B\x7F", "\\u001B\\u007F", "\uFFFD\uFFFD", true},
+        {"\u0080\u009F\u00A0", "\\u0080\\u009F\u00A0", "\uFFFD\uFFFD\u00A0", true},
+        {"\u2028\u2029", "\\u2028\\u2029", "\uFFFD\uFFFD", true},
+        {"\u202A\u202E\u202F", "\\u202A\\u202E\u202F", "\u202A\u202E\u202F", false},
+        {"\u2066\u2069\u206A", "\\u2066\\u2069\u206A", "\u2066\u2069\u206A", false},
+        {"\xC0\xAF", "\\xC0\\xAF", "\uFFFD\uFFFD", true},                                // too long
+        {"\xED\xA0\x80", "\\xED\\xA0\\x80", "\uFFFD\uFFFD\uFFFD", true},                 // a surrogate
+        {"\xF4\x90\x80\x80", "\\xF4\\x90\\x80\\x80", "\uFFFD\uFFFD\uFFFD\uFFFD", true},  // past the last
+        {"\xFF\xE2\x82", "\\xFF\\xE2\\x82", "\uFFFD\uFFFD\uFFFD", true},                 // cut off
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(app::visible(row.text), row.visible);
+        EXPECT_EQ(app::readable(row.text), row.readable);
+        EXPECT_EQ(app::has_control_characters(row.text), row.is_refused) << row.visible;
+    }
 }
 
 }  // namespace

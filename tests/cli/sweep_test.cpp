@@ -101,6 +101,30 @@ TEST_F(SweepFiles, AFailingCaseHasItsErrorInItsRow)
     EXPECT_EQ(all[0].at("streams.S.chain_averages.P.mn"), "");
     EXPECT_EQ(all[2].at("streams.S.chain_averages.P.mn"), "1200");
     EXPECT_EQ(all[2].at("error"), "");
+
+    std::ofstream{options.file} << with(swept, "P = 12", "P = 0");
+    options.sets = {"streams.S.flows.P=0:12:2"};
+    EXPECT_EQ(sweep().errors, "polyprops: 1 of 2 cases failed; their rows hold the error\n");
+    EXPECT_NE(rows().at(1).at("error").find(" results have no column: the unchanged case lacks them"),
+              std::string::npos);
+}
+
+// A row, kept or new, is of the form that the sweep asks for.
+TEST_F(SweepFiles, ProtectsErrorsThatSpreadsheetsWouldCompute)
+{
+    const std::filesystem::path file{"=case.toml"};
+    std::ofstream{file} << swept;
+    options.file = file;
+    options.sets = {"components.P.molecular_weight=-1:-1:1"};
+    for (const auto& [texts, start] :
+         {std::pair{app::CsvTexts::exact, "=case.toml:"}, {app::CsvTexts::guarded, "'=case.toml:"}}) {
+        options.csv_texts = texts;
+        EXPECT_EQ(sweep().status, cli::exit_case_error);
+        const auto all = rows();
+        EXPECT_EQ(all.at(0).at("error").find(start), 0u) << all.at(0).at("error");
+        EXPECT_EQ(all.at(0).at("components.P.molecular_weight"), "-1");
+    }
+    std::filesystem::remove(file);
 }
 
 TEST_F(SweepFiles, GoesOnFromSoundRowsOnly)

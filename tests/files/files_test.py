@@ -74,6 +74,10 @@ class Files(unittest.TestCase):
             ((*fit, *gpc, "--out", "set"), "set/case.fit.json is the input file curve.csv"),
             (("sweep", "case.toml", *SET, "--out", "case.toml"), "is the input file case.toml"),
             (("sweep", "case.toml", *SET, "--out", "set"), "set is a directory; expected a file"),
+        ] + [
+            (("fit", "case.toml", *gpc, "--sites", sites),
+             f'"{sites}"; expected a number of sites or a range such as 1:8, 20 at most')
+            for sites in ("x", "0", "21", "3:2", "1;2", "1:x", "1:2x", "1:99999999999999999999", "1:21")
         ]
         names = self.names()
         for arguments, reason in refused:
@@ -160,7 +164,8 @@ class Files(unittest.TestCase):
 
     def test_a_failed_write_shows_in_the_status(self):
         commands = [("--help",), ("--version",), ("run", "--help"), ("selfcheck",), ("run", "case.toml"),
-                    ("check", "case.toml"), ("fit", "case.toml", "--gpc", "curve.csv", "--sites", "1")]
+                    ("check", "case.toml"),
+                    ("convert", "case.toml", "--stream", "S", "--from", "apparent", "--to", "true"), ("fit", "case.toml", "--gpc", "curve.csv", "--sites", "1")]
         reading, writing = os.pipe()
         os.close(reading)
         with open("/dev/full", "w", encoding="utf-8") as full, os.fdopen(writing, "w") as closed_pipe:
@@ -216,6 +221,15 @@ class Files(unittest.TestCase):
         self.assertIn("File too large",
                       self.run_program("run", "case.toml", "--out", "out", preexec_fn=limit, status=1).stderr)
         self.assertEqual(self.names(), ["case.toml", "curve.csv"])
+
+    def test_a_terminal_shows_the_progress_of_a_sweep(self):
+        reading, writing = os.openpty()
+        self.run_program("sweep", "case.toml", *SET, "--out", "s.csv", stderr=writing)
+        shown = os.read(reading, 4096).decode()
+        for number in (reading, writing):
+            os.close(number)
+        self.assertIn("\r1 of 6 cases", shown)
+        self.assertTrue(shown.endswith("\r6 of 6 cases\r\n"), shown)
 
     def test_a_hangup_ends_a_sweep_as_an_interruption_does(self):
         process = subprocess.Popen([PROGRAM, "sweep", "case.toml", "--set", "streams.S.flows.P=1:9:100000", "--out",
