@@ -6,17 +6,9 @@ namespace app {
 
 std::string_view text(ComponentClass kind)
 {
-    switch (kind) {
-        case ComponentClass::conventional:
-            return "conventional";
-        case ComponentClass::polymer:
-            return "polymer";
-        case ComponentClass::oligomer:
-            return "oligomer";
-        case ComponentClass::segment:
-            return "segment";
-    }
-    return {};
+    if (kind == ComponentClass::polymer) return "polymer";
+    if (kind == ComponentClass::oligomer) return "oligomer";
+    return kind == ComponentClass::segment ? "segment" : "conventional";
 }
 
 const Component* Case::find(std::string_view id) const

@@ -50,20 +50,10 @@ void check_reference(const Case& input, std::string_view path, const PlacedName&
     }
 }
 
-// Where a component of a class has to be listed; empty for a conventional one.
+// Where a component of a class has to be listed.
 std::string_view list_of(ComponentClass kind)
 {
-    switch (kind) {
-        case ComponentClass::polymer:
-            return "polymers.polymers";
-        case ComponentClass::oligomer:
-            return "polymers.oligomers";
-        case ComponentClass::segment:
-            return "polymers.segments";
-        case ComponentClass::conventional:
-            break;
-    }
-    return {};
+    return kind == ComponentClass::polymer ? "polymers.polymers" : "polymers.oligomers";
 }
 
 // A polymer or oligomer in no list would pass for a conventional component.

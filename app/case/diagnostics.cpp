@@ -41,15 +41,8 @@ std::size_t distance(std::string_view a, std::string_view b)
 
 std::string_view text(Severity severity)
 {
-    switch (severity) {
-        case Severity::error:
-            return "error";
-        case Severity::message:
-            return "message";
-        case Severity::warning:
-            return "warning";
-    }
-    return {};
+    if (severity == Severity::error) return "error";
+    return severity == Severity::message ? "message" : "warning";
 }
 
 std::string line(const Diagnostic& diagnostic, std::string_view file)

@@ -22,28 +22,16 @@ constexpr Word<bool> symmetries[] = {{"symmetric", false}, {"antisymmetric", tru
 // The routines know the short forms by the number of positions.
 std::optional<std::int64_t> positions_of(ParameterForm form)
 {
-    switch (form) {
-        case ParameterForm::linear:
-            return 2;
-        case ParameterForm::reciprocal:
-            return 4;
-        case ParameterForm::general:
-            break;
-    }
+    if (form == ParameterForm::linear) return 2;
+    if (form == ParameterForm::reciprocal) return 4;
     return {};
 }
 
 // Coefficients are at the first positions.
 std::int64_t coefficient_count(const ParameterSet& set)
 {
-    switch (set.form) {
-        case ParameterForm::linear:
-            return 2;
-        case ParameterForm::reciprocal:
-            return 3;
-        case ParameterForm::general:
-            break;
-    }
+    if (set.form == ParameterForm::linear) return 2;
+    if (set.form == ParameterForm::reciprocal) return 3;
     return std::min<std::int64_t>(set.positions, 5);
 }
 

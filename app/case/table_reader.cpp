@@ -61,15 +61,8 @@ std::string shown(const toml::node& node)
 
 std::string_view expectation(Range range)
 {
-    switch (range) {
-        case Range::any:
-            return "a finite number";
-        case Range::not_negative:
-            return "a finite number, 0 or greater";
-        case Range::positive:
-            return "a finite number greater than 0";
-    }
-    return {};
+    if (range == Range::any) return "a finite number";
+    return range == Range::positive ? "a finite number greater than 0" : "a finite number, 0 or greater";
 }
 
 std::string expectation(WholeRange range)
