@@ -39,12 +39,6 @@ std::size_t distance(std::string_view a, std::string_view b)
 
 }  // namespace
 
-std::string_view text(Severity severity)
-{
-    if (severity == Severity::error) return "error";
-    return severity == Severity::message ? "message" : "warning";
-}
-
 std::string line(const Diagnostic& diagnostic, std::string_view file)
 {
     const auto& [source, text, severity, own_file] = diagnostic;

@@ -28,7 +28,6 @@ struct SourcePosition {
 
 // A message is one of the library's own input messages; like an error it sets the exit status.
 enum class Severity { error, message, warning };
-std::string_view text(Severity severity);
 
 struct Diagnostic {
     SourcePosition source;

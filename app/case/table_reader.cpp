@@ -45,18 +45,28 @@ std::string joined(const std::string& path, std::string_view key)
 
 namespace {
 
+std::string quoted_start(std::string text)
+{
+    constexpr std::size_t longest = 40;
+    if (text.size() > longest) {
+        auto end = longest - 3;
+        while ((static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) --end;  // no part of a character
+        text = text.substr(0, end) + "...";
+    }
+    return fmt::format("\"{}\"", text);
+}
+
 // The value as the file shows it, kept short.
 std::string shown(const toml::node& node)
 {
     if (node.is_table()) return "a table";
     if (node.is_array()) return "an array";
     if (const auto* number = node.as_floating_point()) return fmt::format("{}", number->get());
+    if (const auto* text = node.as_string()) return quoted_start(text->get());
     std::ostringstream out;
     out.exceptions(std::ios::badbit);  // exhausted memory must not shorten the text
     node.visit([&](const auto& value) { out << value; });
-    auto text = out.str();
-    if (text.size() > 40) text = text.substr(0, 37) + "...";
-    return node.is_string() ? fmt::format("\"{}\"", *node.value<std::string>()) : text;
+    return out.str();
 }
 
 std::string_view expectation(Range range)
@@ -68,7 +78,7 @@ std::string_view expectation(Range range)
 std::string expectation(WholeRange range)
 {
     const WholeRange any;
-    if (range.least == any.least && range.greatest == any.greatest) return "a whole number";
+    if (range.least == any.least) return "a whole number";
     return fmt::format("a whole number from {} to {}", range.least, range.greatest);
 }
 
