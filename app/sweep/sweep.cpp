@@ -52,8 +52,7 @@ private:
 std::string one_line(const std::vector<std::string>& lines)
 {
     auto text = fmt::format("{}", fmt::join(lines, "; "));
-    std::ranges::replace_if(
-        text, [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    std::ranges::replace(text, '\n', ' ');
     return text;
 }
 

@@ -37,6 +37,9 @@ TEST(Check, BadInputIsAnsweredWithEveryMessageOnce)
         seen += shortened(errors);
     }
     EXPECT_EQ(seen, support::stored("cli/bad_input.txt"));
+    const auto json = check(examples / "bad-input.toml", Format::json);
+    EXPECT_EQ(json.status, cli::exit_case_error);
+    EXPECT_GT(Json::parse(json.out)["messages"].size(), 0u) << json.out;
 }
 
 TEST(Check, HasNothingToSayOfTheOtherExamples)

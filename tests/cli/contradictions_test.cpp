@@ -353,6 +353,51 @@ TEST(Warnings, AreInEveryFormAndCountWhenAskedFor)
     EXPECT_EQ(converted.errors, errors);
 }
 
+// Commands that need no more than a case and a measured curve.
+struct Command {
+    const char* name;
+    std::function<int(cli::Strictness, std::FILE*, std::FILE*)> start;
+};
+std::vector<Command> commands(const std::filesystem::path& file, const std::filesystem::path& measured)
+{
+    cli::FitCommandOptions fit;
+    fit.file = file;
+    fit.gpc = measured;
+    fit.segment_weight = 100;
+    fit.format = Format::json;
+    return {
+        {"check", [file](auto strictness, auto* out,
+                         auto* errors) { return cli::check(file, Format::json, out, errors, strictness); }},
+        {"convert",
+         [file](auto strictness, auto* out, auto* errors) {
+             return cli::convert(file, {"S", app::Basis::apparent, app::Basis::true_chains}, Format::json,
+                                 out, errors, strictness);
+         }},
+        {"fit",
+         [fit](auto strictness, auto* out, auto* errors) mutable {
+             fit.strictness = strictness;
+             return cli::fit(fit, out, errors);
+         }},
+    };
+}
+
+TEST(Commands, StopAtACaseWithErrors)
+{
+    const File file{"[components]\nW = { class = 7 }\n"};
+    for (const auto& command : commands(file.path, file.path)) {
+        const auto start = [&](const auto&, Format, std::FILE* out, std::FILE* errors) {
+            return command.start(cli::Strictness::normal, out, errors);
+        };
+        const auto [status, out, errors] = support::capture(start, file.path, Format::json);
+        EXPECT_EQ(status, cli::exit_case_error) << command.name;
+        EXPECT_EQ(out, "") << command.name;
+        EXPECT_NE(
+            errors.find(file.path.string() + ":2:7: components.W.class is 7; expected a text in quotes"),
+            std::string::npos)
+            << errors;
+    }
+}
+
 // A warning of the reader, about chains and a moment given as well.
 TEST(Warnings, OfTheCaseFileAreGivenByEveryCommand)
 {
@@ -368,34 +413,12 @@ chains.P = { mass = 1000, mn = 10000, dispersity = 2 }
 attributes.P.SMOM = 2000.1
 )"};
     const File measured{"M S\n1e3 0.5\n2e3 3\n4e3 6\n8e3 5\n2e4 0.5\n", "measured"};
-    cli::FitCommandOptions fit;
-    fit.file = file.path;
-    fit.gpc = measured.path;
-    fit.segment_weight = 100;
-    const struct {
-        const char* command;
-        std::function<int(cli::Strictness, std::FILE*, std::FILE*)> start;
-    } rows[] = {
-        {"check", [&](auto strictness, auto* out,
-                      auto* errors) { return cli::check(file.path, Format::json, out, errors, strictness); }},
-        {"convert",
-         [&](auto strictness, auto* out, auto* errors) {
-             return cli::convert(file.path, {"S", app::Basis::apparent, app::Basis::true_chains},
-                                 Format::json, out, errors, strictness);
-         }},
-        {"fit",
-         [&](auto strictness, auto* out, auto* errors) {
-             fit.format = Format::json;
-             fit.strictness = strictness;
-             return cli::fit(fit, out, errors);
-         }},
-    };
     const std::string text =
         "streams.S.attributes.P.SMOM is 2000.1, but 2000 follows from streams.S.chains.P: a difference of "
         "0.005 %; the given value is used";
-    for (const auto& row : rows)
+    for (const auto& row : commands(file.path, measured.path))
         for (const auto strictness : {cli::Strictness::normal, cli::Strictness::strict}) {
-            SCOPED_TRACE(row.command);
+            SCOPED_TRACE(row.name);
             const auto command = [&](const auto&, Format, std::FILE* out, std::FILE* errors) {
                 return row.start(strictness, out, errors);
             };

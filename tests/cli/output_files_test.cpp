@@ -75,13 +75,14 @@ TEST_F(OutputDirectory, IsAsItWasWhenOneFileCannotBeWritten)
 TEST_F(OutputDirectory, KeepsDistributionsApart)
 {
     const std::string curve = "points = 2\nlongest_chain = 9\nsites = [{ tau = 1, amount = 1 }]\n";
-    const auto files =
-        files_of(evaluated("[components]\nP = { molecular_weight = 1 }\n[distributions.\"A 1\"]\n" + curve +
-                           "[distributions.A_1]\n" + curve + "[distributions.A_1_2]\n" + curve +
-                           "[distributions.fit]\n" + curve));
+    const auto files = files_of(evaluated(
+        "[components]\nP = { molecular_weight = 1 }\n[distributions.\"A 1\"]\n" + curve +
+        "[distributions.A_1]\n" + curve + "[distributions.A_1_2]\n" + curve + "[distributions.fit]\n" +
+        curve + "[distributions.b-" + std::string(200, 'c') + "]\n" + curve));
     Lines names;
     for (std::size_t i = 5; i < files.size(); ++i) names.push_back(files[i].name);
-    EXPECT_EQ(names, (Lines{"n.A_1.csv", "n.A_1_2.csv", "n.A_1_2_2.csv", "n.fit_2.csv"}));
+    EXPECT_EQ(names, (Lines{"n.A_1.csv", "n.A_1_2.csv", "n.A_1_2_2.csv", "n.fit_2.csv",
+                            "n.b-" + std::string(98, 'c') + ".csv"}));
 }
 
 // The second site of A and the first of `A: site x` would have the same curve name.

@@ -109,6 +109,16 @@ TEST_F(SweepFiles, AFailingCaseHasItsErrorInItsRow)
               std::string::npos);
 }
 
+TEST_F(SweepFiles, NeedsAnUnchangedCaseWithoutErrors)
+{
+    options.file = examples / "bad-input.toml";
+    options.sets = {"streams.FEED.flows.WATER=1:2:2"};
+    const auto seen = sweep();
+    EXPECT_EQ(seen.status, cli::exit_case_error);
+    EXPECT_NE(seen.errors.find("bad-input.toml:"), std::string::npos) << seen.errors;
+    EXPECT_FALSE(std::filesystem::exists(options.out));
+}
+
 // A row, kept or new, is of the form that the sweep asks for.
 TEST_F(SweepFiles, ProtectsErrorsThatSpreadsheetsWouldCompute)
 {
@@ -242,7 +252,7 @@ TEST(SweepRange, ReadsKeyAndValues)
     EXPECT_EQ(range.value(6), 0.5);
     EXPECT_DOUBLE_EQ(range.value(3), -499.75);
     for (const auto* text :
-         {"a=1:2", "a=1:2:0", "a=1:2:3:4", "=1:2:3", "a", "a=1:x:3", "a=1:inf:3", "a=1:2:2.5"})
+         {"a=1:2", "a=1:2:0", "a=1:2:3:4", "=1:2:3", "a", "a=1:x:3", "a=1:inf:3", "a=1:2:2.5", "a=1:2:x"})
         EXPECT_THROW(app::parse_range(text), std::invalid_argument) << text;
     EXPECT_THROW(app::SweepGrid({{"a", 0, 1, 2}, {"a", 0, 1, 2}}), std::invalid_argument);
     EXPECT_THROW(app::SweepGrid({{"a", 0, 1, 1u << 31}, {"b", 0, 1, 1u << 31}}), std::invalid_argument);

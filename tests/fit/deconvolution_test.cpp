@@ -277,6 +277,28 @@ TEST(FitCommand, PrintsTheSitesOfTheExample)
               std::string::npos);
 }
 
+TEST(FitCommand, PrintsAFreeBeta)
+{
+    const File input{
+        "[components]\nP = { molecular_weight = 100 }\n[distributions.D]\npoints = 200\n"
+        "longest_chain = 20000\nsegment_weight = 100\nsites = [{ tau = 1e-3, beta = 2e-3, amount = 1 }]\n",
+        "beta.toml"};
+    const File exported{"", "exported"};
+    cli::RunOptions run_options;
+    run_options.export_gpc = exported.path;
+    ASSERT_EQ(run(run_options, input.path, Format::json).status, 0);
+    cli::FitCommandOptions options;
+    options.gpc = exported.path;
+    options.fit = {1, 1, true};
+    const auto seen = fit(options, input.path, Format::json);
+    ASSERT_EQ(seen.status, 0) << seen.errors;
+    const auto section = Json::parse(seen.out)["fits"][0];
+    const auto& site = section["fit_sites"][0];
+    EXPECT_NEAR(site["beta"].get<double>(), 2e-3, 1e-5);
+    EXPECT_LE(site["beta_low"].get<double>(), site["beta_high"].get<double>());
+    EXPECT_NE(section["sites"].get<std::string>().find(", beta = 0.0"), std::string::npos);
+}
+
 TEST(FitCommand, TakesWhatTheCaseSaysAndNamesWhatItLacks)
 {
     const std::string components = "[components]\nP = { molecular_weight = 100 }\n";
@@ -296,6 +318,7 @@ TEST(FitCommand, TakesWhatTheCaseSaysAndNamesWhatItLacks)
          {},
          "",
          "has no distribution to take the segment weight from; expected the option --segment-weight\n"},
+        {components + "[streams.S]\nflows = { P = 1 }\n", 100, "E", "has no distribution"},
         {components + distribution, 100, "E", "has no distribution \"E\"; expected one of D\n"},
     };
     const File measured{curve, "measured"};
