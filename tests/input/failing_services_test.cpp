@@ -69,6 +69,20 @@ const std::vector<minihost::Sentence> everything{
     InitiatorSentence{{"I", "X"}},
 };
 
+// Of what it reserves, the paragraph keeps reals only for the four sentences that may hold some.
+TEST(Sentences, OfNamesAndIntegersAreCopiedWithoutReals)
+{
+    const auto blocks_with_reals = [](const std::vector<minihost::Sentence>& sentences) {
+        CheckedParagraph world;
+        const ServiceLog log;
+        world.check(sentences);
+        return log.count("ST_ALLOC_M");
+    };
+    const auto without = blocks_with_reals({everything[0], everything[1], everything[5], everything[7]});
+    EXPECT_EQ(without + 4, blocks_with_reals(everything));
+    EXPECT_EQ(without, 4);
+}
+
 // What the paragraph leaves behind, without the ids of its blocks.
 std::vector<std::string> outcome(CheckedParagraph& world)
 {
