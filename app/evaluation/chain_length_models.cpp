@@ -79,6 +79,8 @@ public:
             mass += height(x);
             sum += height(x) * std::pow(x, k);
         }
+        // So narrow that all chains have one length, to every digit.
+        if (mass == 0) return std::pow(nu_, k);
         return sum / mass;
     }
     double height(double x) const
