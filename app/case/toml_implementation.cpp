@@ -1,8 +1,8 @@
 // The one place where toml++ is compiled. Its table of blanks takes some characters, such as U+035E, for
 // unreachable, which is undefined behaviour: they are no blanks. Constructors of its parse error copy a text
 // and yet are declared noexcept: without memory they would end the process, so here they are compiled as
-// functions that may throw. It asserts, or lets the compiler assume, that a key begins as one, and reports the
-// key of `[[[` that does not right after: the report is enough.
+// functions that may throw. It asserts, or lets the compiler assume, that a key begins as one, and reports
+// the key of `[[[` that does not right after: the report is enough.
 #define TOML_IMPLEMENTATION
 #include <toml++/impl/preprocessor.h>
 
