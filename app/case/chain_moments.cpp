@@ -134,6 +134,7 @@ private:
     std::optional<Averages> read_averages(double m0)
     {
         const auto& f = fraction_;
+        if (f.dispersity && *f.dispersity < 1) return {};  // reported when it was read
         const Number by_dpn = f.dpn ? Number{*f.dpn * m0} : Number{};
         const Number mn = f.mn ? f.mn : by_dpn;
         const Number mw = mn && f.dispersity ? Number{*mn * *f.dispersity} : Number{};
@@ -149,6 +150,9 @@ private:
     {
         const auto& f = fraction_;
         if (f.mw && f.dispersity) return with_mz(*f.mw / *f.dispersity, *f.mw, m0);
+        const auto& smaller = f.mw ? f.mw : mn;
+        if (f.mz && smaller && *f.mz < *smaller)
+            return too_small("mz", *f.mz, f.mw ? "mw" : f.mn ? "mn" : "dpn", *smaller);
         if (const auto dispersity = dispersity_by_mz(mn)) {
             const double mw = *f.mz / z_ratio(*f.type, *dispersity);
             return with_mz(mw / *dispersity, mw, m0);
@@ -204,18 +208,20 @@ private:
         return names.empty() ? "no averages" : fmt::format("{}", fmt::join(names, ", "));
     }
 
+    std::nullopt_t too_small(std::string_view low, double a, std::string_view high, double b)
+    {
+        return refuse(
+            fmt::format(": {} is {:.6g} g/mol; expected at least {}, {:.6g} g/mol", low, a, high, b));
+    }
+
     // The averages of any distribution rise: m0 ≤ Mn ≤ Mw ≤ Mz.
     std::optional<Averages> in_order(Averages averages, double m0)
     {
         const auto& [mn, mw, mz] = averages;
         const auto is_less = [](double a, double b) { return a < b * (1 - rounding); };
-        const auto fault = [&](const char* low, double a, const char* high, double b) {
-            return refuse(
-                fmt::format(": {} is {:.6g} g/mol; expected at least {}, {:.6g} g/mol", low, a, high, b));
-        };
-        if (is_less(mn, m0)) return fault("Mn", mn, "the mean segment weight", m0);
-        if (is_less(mw, mn)) return fault("Mw", mw, "Mn", mn);
-        if (mz && is_less(*mz, mw)) return fault("Mz", *mz, "Mw", mw);
+        if (is_less(mn, m0)) return too_small("Mn", mn, "the mean segment weight", m0);
+        if (is_less(mw, mn)) return too_small("Mw", mw, "Mn", mn);
+        if (mz && is_less(*mz, mw)) return too_small("Mz", *mz, "Mw", mw);
         // Chains of one length have one average.
         if (!mz && !is_less(mn, mw)) averages.mz = mw;
         return averages;
