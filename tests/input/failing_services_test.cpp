@@ -144,7 +144,7 @@ TEST(FailingServices, LeaveTheStoreOfAReadingRoutineAsItWas)
         Int k = 1;
         Arguments arguments{world};
         while (fails_at(k, [&] { routine.call(arguments); })) ++k;
-        for (const auto& output : arguments.real_outputs) EXPECT_TRUE(output.fence_holds()) << routine.name;
+        EXPECT_TRUE(arguments.fences_hold()) << routine.name;
     }
     EXPECT_TRUE(world.host().store().contents() == before);
 }

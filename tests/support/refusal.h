@@ -1,4 +1,3 @@
-// What the embedded host says when it refuses.
 #pragma once
 
 #include <functional>
@@ -9,11 +8,12 @@
 namespace support {
 
 // The text of the error that an action throws, empty without one.
-inline std::string refusal(const std::function<void()>& action)
+template <typename Error = minihost::Error>
+std::string refusal(const std::function<void()>& action)
 {
     try {
         action();
-    } catch (const minihost::Error& error) {
+    } catch (const Error& error) {
         return error.what();
     }
     return "";
