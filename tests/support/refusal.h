@@ -1,7 +1,10 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "minihost/error.h"
 
@@ -17,6 +20,11 @@ std::string refusal(const std::function<void()>& action)
         return error.what();
     }
     return "";
+}
+
+inline void expect_refusals(const std::vector<std::pair<std::function<void()>, std::string>>& cases)
+{
+    for (const auto& [action, text] : cases) EXPECT_EQ(refusal(action), text);
 }
 
 }  // namespace support
