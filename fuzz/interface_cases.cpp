@@ -1,44 +1,18 @@
-#include "fuzz/interface_cases.h"
-
-#include <polyprops/case.h>
-
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <memory>
-#include <stdexcept>
 #include <string>
 #include <utility>
 
+#include "fuzz/case_handles.h"
+
 namespace polyprops_fuzz {
 namespace {
-
-void require(bool holds, const char* what)
-{
-    if (!holds) throw std::logic_error(what);
-}
-
-struct Free {
-    void operator()(polyprops_case* handle) const { polyprops_case_free(handle); }
-    void operator()(polyprops_run* handle) const { polyprops_run_free(handle); }
-};
 
 std::pair<std::string, std::string> split(std::string_view text, char separator)
 {
     const auto at = std::min(text.rfind(separator), text.size());
     return {std::string{text.substr(0, at)}, std::string{text.substr(std::min(at + 1, text.size()))}};
-}
-
-template <typename Handle, typename Ask>
-void read_diagnostics(const Handle* handle, std::size_t count, const Ask& ask)
-{
-    polyprops_diagnostic found{};
-    for (std::size_t i = 0; i < count; ++i) {
-        require(ask(handle, i, &found) == POLYPROPS_OK, "a counted diagnostic is missing");
-        require(found.file && found.key && found.text && *found.text != '\0', "a diagnostic lacks a text");
-    }
-    require(ask(handle, count, &found) != POLYPROPS_OK, "there is a diagnostic past the last");
 }
 
 // Two cases and two runs, in any state that calls of the interface leave them in.
@@ -82,16 +56,13 @@ public:
             const auto* const handle = input.get();
             const int status = polyprops_case_status(handle);
             require(handle || status == POLYPROPS_OUT_OF_MEMORY, "a NULL handle has another status");
-            const std::size_t found = polyprops_case_diagnostic_count(handle);
-            require(status != POLYPROPS_CASE_ERROR || found > 0, "an error has no diagnostic");
-            read_diagnostics(handle, found, polyprops_case_diagnostic);
+            require(status != POLYPROPS_CASE_ERROR || polyprops_case_diagnostic_count(handle) > 0,
+                    "an error has no diagnostic");
+            read_diagnostics(handle);
         }
     }
 
 private:
-    using CaseHandle = std::unique_ptr<polyprops_case, Free>;
-    using RunHandle = std::unique_ptr<polyprops_run, Free>;
-
     static void read_text(CaseHandle& input, const std::string& name, std::string_view& rest)
     {
         const auto end = std::min(rest.find("\n.\n"), rest.size());
@@ -148,25 +119,13 @@ private:
 
     static void read_run(polyprops_run* run, const std::string& key)
     {
-        const std::size_t found = polyprops_run_diagnostic_count(run);
-        read_diagnostics(run, found, polyprops_run_diagnostic);
+        read_diagnostics(run);
+        read_results(run);
         double value = 0;
         polyprops_run_number(run, key.c_str(), &value);
         const double* values = nullptr;
-        std::size_t rows = 0;
-        std::size_t columns = 0;
+        std::size_t rows = 0, columns = 0, size = 0;
         polyprops_run_array(run, key.c_str(), &values, &rows, &columns);
-        for (std::size_t i = 0; i < polyprops_run_array_count(run); ++i) {
-            const char* const name = polyprops_run_array_key(run, i);
-            require(polyprops_run_array(run, name, &values, &rows, &columns) == POLYPROPS_OK,
-                    "an array has no values");
-            require(rows * columns == 0 || values[rows * columns - 1] == values[rows * columns - 1],
-                    "an array ends with what is not a number");
-        }
-        for (std::size_t i = 0; i < polyprops_run_number_count(run); ++i)
-            require(polyprops_run_number(run, polyprops_run_number_key(run, i), &value) == POLYPROPS_OK,
-                    "a number has no value");
-        std::size_t size = 0;
         polyprops_run_text(run, static_cast<int>(key.size()) - 1, &size);
     }
 
@@ -180,8 +139,7 @@ void check_calls(std::string_view lines)
 {
     Calls calls;
     for (int left = 12; left > 0 && !lines.empty(); --left) {
-        const auto line = lines.substr(0, lines.find('\n'));
-        lines.remove_prefix(std::min(line.size() + 1, lines.size()));
+        const auto line = take_line(lines);
         calls.make(line, lines);
         calls.check();
     }

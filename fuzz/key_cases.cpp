@@ -1,13 +1,8 @@
-#include "fuzz/key_cases.h"
-
-#include <polyprops/case.h>
-
-#include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <memory>
-#include <stdexcept>
 #include <string>
+
+#include "fuzz/case_handles.h"
 
 namespace polyprops_fuzz {
 namespace {
@@ -37,19 +32,6 @@ components = ["P"]
 temperatures = [300, 350]
 )";
 
-void require(bool holds, const char* what)
-{
-    if (!holds) throw std::logic_error(what);
-}
-
-using CaseHandle = std::unique_ptr<polyprops_case, void (*)(polyprops_case*)>;
-using RunHandle = std::unique_ptr<polyprops_run, void (*)(polyprops_run*)>;
-
-CaseHandle make_case()
-{
-    return {polyprops_case_from_text(case_text.data(), case_text.size(), "case.toml"), polyprops_case_free};
-}
-
 void check_change(polyprops_case* input, const std::string& key, double value)
 {
     double before = 0;
@@ -69,40 +51,35 @@ void check_change(polyprops_case* input, const std::string& key, double value)
 
 void check_run(const polyprops_case* input, const std::string& key)
 {
-    const RunHandle run{polyprops_case_run(input), polyprops_run_free};
+    const RunHandle run{polyprops_case_run(input)};
     require(run != nullptr, "there is no run");
     double value = 0;
     const double* values = nullptr;
-    std::size_t rows = 0;
-    std::size_t columns = 0;
+    std::size_t rows = 0, columns = 0, size = 0;
     polyprops_run_number(run.get(), key.c_str(), &value);
     polyprops_run_array(run.get(), key.c_str(), &values, &rows, &columns);
     for (const int format : {POLYPROPS_TEXT, POLYPROPS_CSV, POLYPROPS_JSON}) {
-        std::size_t size = 0;
         const char* text = polyprops_run_text(run.get(), format, &size);
         const bool has_results = polyprops_run_number_count(run.get()) > 0;
         require(!has_results || (text && size > 0), "results have no text");
     }
     if (polyprops_run_status(run.get()) == POLYPROPS_OK)
         for (std::size_t i = 0; i < polyprops_run_number_count(run.get()); ++i) {
-            const char* name = polyprops_run_number_key(run.get(), i);
-            require(polyprops_run_number(run.get(), name, &value) == POLYPROPS_OK, "a key has no number");
+            polyprops_run_number(run.get(), polyprops_run_number_key(run.get(), i), &value);
             require(std::isfinite(value), "a result of a good run is not finite");
         }
-    polyprops_diagnostic found;
-    for (std::size_t i = 0; polyprops_run_diagnostic(run.get(), i, &found) == POLYPROPS_OK; ++i)
-        require(found.text && found.file && found.key, "a diagnostic lacks a text");
+    read_diagnostics(run.get());
+    read_results(run.get());
 }
 
 }  // namespace
 
 void check_keys(std::string_view lines)
 {
-    const auto input = make_case();
+    const CaseHandle input{polyprops_case_from_text(case_text.data(), case_text.size(), "case.toml")};
     require(polyprops_case_status(input.get()) == POLYPROPS_OK, "the case of the keys has errors");
     for (int left = 8; left > 0 && !lines.empty(); --left) {
-        const auto line = lines.substr(0, lines.find('\n'));
-        lines.remove_prefix(std::min(line.size() + 1, lines.size()));
+        const auto line = take_line(lines);
         const std::string key{line.substr(0, line.rfind('='))};
         if (key.size() == line.size()) {
             check_run(input.get(), key);

@@ -1,16 +1,13 @@
-#include "fuzz/paragraph_cases.h"
-
 #include <polyprops/host.h>
 #include <polyprops/polymer_block.h>
 #include <polyprops/polyprops.h>
 
-#include <algorithm>
 #include <limits>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "fuzz/cases.h"
 #include "minihost/embedded_host.h"
 
 namespace polyprops_fuzz {
@@ -59,14 +56,14 @@ public:
 
 private:
     // Entries run through the components with a stride, so that few bytes make long lists; some stray.
-    template <typename Entry, typename Make>
-    std::vector<Entry> entries(Make make, Int most = 600)
+    template <typename Make>
+    auto entries(Make make, Int most = 600)
     {
         const Int count = bytes_.chance(4) ? bytes_.below(most) : bytes_.byte() % 8;
         const Int start = bytes_.below(components_);
         const Int stride = bytes_.byte() % 4;
-        std::vector<Entry> result;
-        for (Int i = 0; i < count; ++i) {
+        std::vector<decltype(make(id(0), 0))> result;
+        for (int i = 0; i < count; ++i) {
             const Int index =
                 bytes_.chance(8) ? bytes_.below(components_ + 9) : (start + i * stride) % components_;
             result.push_back(make(id(index), i));
@@ -79,7 +76,7 @@ private:
 
     std::vector<std::string> ids()
     {
-        return entries<std::string>([](const std::string& id, Int) { return id; });
+        return entries([](const std::string& id, Int) { return id; });
     }
     std::vector<std::string> attribute_names()
     {
@@ -98,30 +95,28 @@ private:
             case 1:
                 return PolymerSentence{ids()};
             case 2:
-                return SegmentSentence{entries<SegmentSentence::Entry>([&](const std::string& id, Int) {
+                return SegmentSentence{entries([&](const std::string& id, Int) {
                     return SegmentSentence::Entry{id, bytes_.byte() % 6};
                 })};
             case 3:
                 // A forwarded entry costs five blocks, and the fenced store looks at all of them each time.
-                return AttributeSentence{entries<AttributeSentence::Entry>(
+                return AttributeSentence{entries(
                     [&](const std::string& id, Int) {
                         return AttributeSentence::Entry{id, attribute_names()};
                     },
                     40)};
             case 4:
-                return OligomerSentence{entries<OligomerSentence::Entry>([&](const std::string& id, Int i) {
-                    return OligomerSentence::Entry{bytes_.chance(3) ? "" : id, any_id(),
-                                                   static_cast<double>(i)};
+                return OligomerSentence{entries([&](const std::string& id, double i) {
+                    return OligomerSentence::Entry{bytes_.chance(3) ? "" : id, any_id(), i};
                 })};
             case 5:
-                return CatalystSentence{entries<CatalystSentence::Entry>([&](const std::string& id, Int i) {
-                    return CatalystSentence::Entry{id, static_cast<double>(i)};
+                return CatalystSentence{entries([](const std::string& id, double i) {
+                    return CatalystSentence::Entry{id, i};
                 })};
             case 6:
                 return SiteSentence{number(), {number(), number(), number()}, 0.5};
             case 7:
-                return DistributionSentence{entries<DistributionSentence::Entry>([&](const std::string& id,
-                                                                                     Int i) {
+                return DistributionSentence{entries([&](const std::string& id, Int i) {
                     return DistributionSentence::Entry{id, bytes_.byte() % 6, {number(), number(), i}, 1.0};
                 })};
             case 8:
@@ -155,11 +150,6 @@ private:
     Bytes& bytes_;
     Int components_;
 };
-
-void require(bool holds, const char* what)
-{
-    if (!holds) throw std::logic_error(what);
-}
 
 // The blocks behind the words of the polymer block.
 class BuiltBlocks {

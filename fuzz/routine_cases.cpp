@@ -1,12 +1,8 @@
-#include "fuzz/routine_cases.h"
-
-#include <algorithm>
-#include <array>
 #include <cstring>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "fuzz/cases.h"
 #include "support/every_routine.h"
 
 namespace polyprops_fuzz {
@@ -46,13 +42,6 @@ void require(bool holds, const char* what, const support::Routine& routine)
     if (!holds) throw std::logic_error(routine.name + ": " + what);
 }
 
-bool fences_hold(const support::Arguments& arguments)
-{
-    const auto holds = [](const auto& output) { return output.fence_holds(); };
-    return std::ranges::all_of(arguments.real_outputs, holds) &&
-           std::ranges::all_of(arguments.integer_outputs, holds);
-}
-
 }  // namespace
 
 void check_routines(std::string_view bytes)
@@ -69,7 +58,7 @@ void check_routines(std::string_view bytes)
         auto arguments = before;
         auto again = before;
         routine.call(arguments);
-        require(fences_hold(arguments), "wrote beside its outputs", routine);
+        require(arguments.fences_hold(), "wrote beside its outputs", routine);
         require(arguments.listed == before.listed && arguments.flags == before.flags, "changed its inputs",
                 routine);
         routine.call(again);

@@ -1,7 +1,8 @@
-// libFuzzer target of the cases that the build names: an exception that leaves them is a finding.
+// libFuzzer target of the check that the build names: an exception that leaves it is a finding.
 #include <cstddef>
 #include <cstdint>
-#include POLYPROPS_FUZZ_HEADER
+
+#include "fuzz/cases.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {

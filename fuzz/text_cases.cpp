@@ -1,10 +1,6 @@
-#include "fuzz/text_cases.h"
-
-#include <algorithm>
 #include <cmath>
 #include <nlohmann/json.hpp>
 #include <set>
-#include <stdexcept>
 #include <string>
 
 #include "app/case/case_document.h"
@@ -16,14 +12,10 @@
 #include "app/report/format.h"
 #include "app/report/make_report.h"
 #include "app/report/output_files.h"
+#include "fuzz/cases.h"
 
 namespace polyprops_fuzz {
 namespace {
-
-void require(bool holds, const char* what)
-{
-    if (!holds) throw std::logic_error(what);
-}
 
 bool fits_a_terminal(std::string text)
 {

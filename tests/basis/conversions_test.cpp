@@ -1,10 +1,4 @@
-#include <gtest/gtest.h>
-#include <polyprops/polyprops.h>
-
-#include <cmath>
-
-#include "support/arguments.h"
-#include "support/world.h"
+#include "support/routine_calls.h"
 
 namespace {
 

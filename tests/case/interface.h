@@ -1,26 +1,23 @@
 // The case layer's handles with owners, and its answers as values.
 #pragma once
 
-#include <gtest/gtest.h>
-#include <polyprops/case.h>
-
 #include <bit>
 #include <cstdio>
-#include <filesystem>
-#include <memory>
+#include <map>
+#include <nlohmann/json.hpp>
+#include <span>
 #include <string>
 #include <vector>
 
+#include "fuzz/case_handles.h"
 #include "support/files.h"
 
 namespace case_test {
 
-struct Free {
-    void operator()(polyprops_case* handle) const { polyprops_case_free(handle); }
-    void operator()(polyprops_run* handle) const { polyprops_run_free(handle); }
-};
-using CasePointer = std::unique_ptr<polyprops_case, Free>;
-using RunPointer = std::unique_ptr<polyprops_run, Free>;
+using CasePointer = polyprops_fuzz::CaseHandle;
+using RunPointer = polyprops_fuzz::RunHandle;
+
+using Json = nlohmann::json;
 
 inline const std::filesystem::path examples{POLYPROPS_EXAMPLES};
 
@@ -74,6 +71,33 @@ inline std::vector<std::string> diagnostics(const CasePointer& handle)
 inline std::vector<std::string> diagnostics(const RunPointer& handle)
 {
     return lines(handle, polyprops_run_diagnostic_count(handle.get()), polyprops_run_diagnostic);
+}
+
+// Values of an array, column by column.
+struct Array {
+    std::span<const double> values;
+    std::size_t rows = 0;
+    std::size_t columns = 0;
+};
+
+inline Array array(const RunPointer& handle, const std::string& key)
+{
+    const double* values = nullptr;
+    Array found;
+    EXPECT_EQ(polyprops_run_array(handle.get(), key.c_str(), &values, &found.rows, &found.columns),
+              POLYPROPS_OK)
+        << key;
+    found.values = {values, found.rows * found.columns};
+    return found;
+}
+
+inline std::vector<std::string> array_keys(const RunPointer& handle)
+{
+    std::vector<std::string> all;
+    for (std::size_t i = 0; i < polyprops_run_array_count(handle.get()); ++i)
+        all.emplace_back(polyprops_run_array_key(handle.get(), i));
+    EXPECT_EQ(polyprops_run_array_key(handle.get(), all.size()), nullptr);
+    return all;
 }
 
 inline double number(const RunPointer& handle, const std::string& key)

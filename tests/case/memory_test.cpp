@@ -27,11 +27,8 @@ void* allocate(std::size_t size, std::size_t alignment = alignof(std::max_align_
 
 }  // namespace
 
+// Those of arrays call these; the sanitizers have their own.
 void* operator new(std::size_t size)
-{
-    return allocate(size);
-}
-void* operator new[](std::size_t size)
 {
     return allocate(size);
 }
@@ -40,26 +37,16 @@ void* operator new(std::size_t size, std::align_val_t alignment)
     return allocate(size, static_cast<std::size_t>(alignment));
 }
 void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept
-{
-    try {
-        return allocate(size);
-    } catch (const std::bad_alloc&) {
-        return nullptr;
-    }
+try {
+    return allocate(size);
+} catch (const std::bad_alloc&) {
+    return nullptr;
 }
 void operator delete(void* memory) noexcept
 {
     std::free(memory);
 }
-void operator delete[](void* memory) noexcept
-{
-    std::free(memory);
-}
 void operator delete(void* memory, std::size_t /*size*/) noexcept
-{
-    std::free(memory);
-}
-void operator delete[](void* memory, std::size_t /*size*/) noexcept
 {
     std::free(memory);
 }
@@ -113,41 +100,49 @@ constexpr const char* weight = "streams.BLEND.chain_averages.PS.mw";
 
 // The life of a case: statuses, and those answers that were given.
 struct Life {
-    bool has_case = false, has_run = false;
+    bool has_case = false, has_run = false, has_failed = false;
     int spoil = 0, mend = 0, set = 0, get = 0, run = 0;
     std::size_t run_diagnostics = 0;
     double moment_kept = 0;
     std::optional<double> mw;
     std::optional<std::string> json;
-    bool has_failed = false;
 };
 
-// Allocation number `failing` fails, and so do later ones if memory stays exhausted.
+// Allocation number `failing` fails, 0 for none, and so do later ones if memory stays exhausted.
+template <typename Action>
+void with_failing(long failing, bool stays, const Action& action)
+{
+    has_failed = false;
+    stays_exhausted = stays;
+    allocations_left = failing;
+    action();
+    allocations_left = 0;
+}
+
 Life live(long failing, bool stays)
 {
     static const std::string text = whole_case;
     Life life;
-    stays_exhausted = stays;
-    has_failed = false;
-    allocations_left = failing;
-    polyprops_case* input = polyprops_case_from_text(text.data(), text.size(), "c.toml");
-    life.spoil = polyprops_case_set(input, count, 2.5);
-    life.mend = polyprops_case_set(input, count, 3);
-    life.set = polyprops_case_set(input, moment, 14000);
-    life.get = polyprops_case_get(input, moment, &life.moment_kept);
-    polyprops_run* run = polyprops_case_run(input);
-    life.run = polyprops_run_status(run);
-    const char* json = polyprops_run_json(run);
-    double mw = 0;
-    if (polyprops_run_number(run, weight, &mw) == POLYPROPS_OK) life.mw = mw;
-    life.run_diagnostics = polyprops_run_diagnostic_count(run);
-    allocations_left = 0;
+    CasePointer input;
+    RunPointer run;
+    const char* json = nullptr;
+    with_failing(failing, stays, [&] {
+        input = from_text(text);
+        life.spoil = polyprops_case_set(input.get(), count, 2.5);
+        life.mend = polyprops_case_set(input.get(), count, 3);
+        life.set = polyprops_case_set(input.get(), moment, 14000);
+        life.get = polyprops_case_get(input.get(), moment, &life.moment_kept);
+        run = case_test::run(input);
+        life.run = polyprops_run_status(run.get());
+        json = polyprops_run_json(run.get());
+        double mw = 0;
+        if (polyprops_run_number(run.get(), weight, &mw) == POLYPROPS_OK) life.mw = mw;
+        life.run_diagnostics = polyprops_run_diagnostic_count(run.get());
+    });
     life.has_case = input != nullptr;
     life.has_run = run != nullptr;
     life.has_failed = has_failed;
     if (json) life.json = json;
-    polyprops_run_free(run);
-    polyprops_case_free(input);
     return life;
 }
 
@@ -156,9 +151,7 @@ void expect_consistent(const Life& life, const Life& sound)
     for (const int status : {life.spoil, life.mend, life.set, life.get})
         EXPECT_TRUE(status == POLYPROPS_OUT_OF_MEMORY || (life.has_case && status == POLYPROPS_OK)) << status;
     const double kept = life.set == POLYPROPS_OK ? 14000 : 12906;
-    if (life.get == POLYPROPS_OK) {
-        EXPECT_EQ(life.moment_kept, kept);
-    }
+    EXPECT_EQ(life.moment_kept, life.get == POLYPROPS_OK ? kept : 0);
     if (life.run == POLYPROPS_OUT_OF_MEMORY) {
         EXPECT_EQ(life.run_diagnostics, life.has_run ? 1u : 0u);
         EXPECT_FALSE(life.mw || life.json);
@@ -168,12 +161,8 @@ void expect_consistent(const Life& life, const Life& sound)
     const bool has_results = life.spoil != POLYPROPS_OK || life.mend == POLYPROPS_OK;
     EXPECT_EQ(life.run_diagnostics, has_results ? sound.run_diagnostics : 1);
     EXPECT_EQ(life.mw.has_value(), has_results);
-    if (life.mw) {
-        EXPECT_DOUBLE_EQ(*life.mw, 104 * kept / 28);
-    }
-    if (life.json && has_results && life.set == POLYPROPS_OK) {
-        EXPECT_EQ(*life.json, *sound.json);
-    }
+    EXPECT_DOUBLE_EQ(life.mw.value_or(104 * kept / 28), 104 * kept / 28);
+    EXPECT_TRUE(!life.json || !has_results || life.set != POLYPROPS_OK || life.json == sound.json);
 }
 
 TEST(Memory, EveryAllocationMayFailAndTheCaseStaysWhole)
@@ -184,7 +173,7 @@ TEST(Memory, EveryAllocationMayFailAndTheCaseStaysWhole)
     constexpr long stride = 3;
 #endif
     const Life sound = live(0, false);
-    ASSERT_EQ(sound.run, POLYPROPS_CASE_ERROR) << "ABS is no component";
+    ASSERT_TRUE(sound.run == POLYPROPS_CASE_ERROR && sound.json) << "ABS is no component";
     expect_consistent(sound, sound);
     for (const bool stays : {false, true}) {
         long failing = 0;
@@ -196,8 +185,7 @@ TEST(Memory, EveryAllocationMayFailAndTheCaseStaysWhole)
             expect_consistent(life, sound);
         } while (life.has_failed && !HasFailure());
         EXPECT_GT(failing, 1000);
-        ASSERT_TRUE(life.json);
-        EXPECT_EQ(*life.json, *sound.json);
+        EXPECT_EQ(life.json, sound.json);
     }
 }
 
@@ -211,15 +199,9 @@ TEST(Memory, FailuresNeverChangeADiagnostic)
     for (const auto& text : texts) {
         const auto sound = diagnostics(from_text(text));
         for (long failing = 1; failing == 1 || has_failed; ++failing) {
-            has_failed = stays_exhausted = false;
-            allocations_left = failing;
-            const auto input = from_text(text);
-            allocations_left = 0;
-            if (input) {
-                EXPECT_EQ(diagnostics(input), sound);
-            } else {
-                EXPECT_TRUE(has_failed);
-            }
+            CasePointer input;
+            with_failing(failing, false, [&] { input = from_text(text); });
+            EXPECT_TRUE(input ? diagnostics(input) == sound : has_failed.load());
         }
     }
 }

@@ -30,6 +30,7 @@ std::vector<std::string> fields(const std::string& line)
 // Each line is a single number, or the next element of a curve.
 void expect_numbers(const std::string& csv, const RunPointer& results)
 {
+    const auto curves = array_keys(results);
     std::map<std::string, std::size_t> elements;
     std::size_t single = 0;
     std::istringstream lines{csv};
@@ -41,10 +42,9 @@ void expect_numbers(const std::string& csv, const RunPointer& results)
         if (f[7].empty()) continue;  // a result without a value
         const double printed = std::strtod(f[7].c_str(), nullptr);
         const auto curve = f[0] + "s." + f[1] + "." + f[2] + "." + f[6];
-        const double* values = nullptr;
-        std::size_t rows = 0, columns = 0;
-        if (polyprops_run_array(results.get(), curve.c_str(), &values, &rows, &columns) == POLYPROPS_OK) {
-            ASSERT_LT(elements[curve], rows);
+        if (std::ranges::count(curves, curve) == 1) {
+            const auto values = array(results, curve).values;
+            ASSERT_LT(elements[curve], values.size());
             expect_same(values[elements[curve]++], printed, line);
             continue;
         }
@@ -56,6 +56,11 @@ void expect_numbers(const std::string& csv, const RunPointer& results)
     }
     EXPECT_EQ(single, polyprops_run_number_count(results.get()));
     EXPECT_GT(single, 0u);
+    for (const auto& [curve, count] : elements)
+        EXPECT_EQ(std::pair(array(results, curve).rows, array(results, curve).columns),
+                  std::pair(count, 1ul));
+    const auto is_curve = [](const std::string& key) { return key.starts_with("distributions."); };
+    EXPECT_EQ(elements.size(), std::ranges::count_if(curves, is_curve));
 }
 
 TEST(Program, PrintsAndWritesTheResultsOfTheInterface)

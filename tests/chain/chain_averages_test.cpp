@@ -1,12 +1,6 @@
 // Degree of polymerization, mean segment weight, molecular weights and polydispersity of single components.
-#include <gtest/gtest.h>
 
-#include <cmath>
-
-#include "polyprops/polyprops.h"
-#include "support/arguments.h"
-#include "support/asked_once.h"
-#include "support/world.h"
+#include "support/routine_calls.h"
 
 using namespace support;
 
@@ -18,12 +12,6 @@ World copolymer(const Attributes& attributes)
     auto world = World{}.segments({{"A", 100}, {"B", 50}}).polymer("P", attributes, 1000);
     return world.parameter("P", Parameter::dpn, 7).parameter("P", Parameter::pdi, 3);
 }
-
-struct Case {
-    const char* name;
-    Attributes attributes;
-    double expected;
-};
 
 // DPN, MRF, MWN, MRT, PDI and MWW by component; each routine asks the host once for a fact.
 using Averages = std::vector<Values>;
@@ -39,88 +27,85 @@ Averages averages(World world, const std::vector<std::string>& ids)
     return all;
 }
 
-TEST(DegreeOfPolymerization, PrefersAttributeThenMomentsThenOne)
+struct Question {
+    const char* name;
+    World world;
+    double expected;
+    const char* id = "P";
+};
+void expect_answers(auto* routine, const std::vector<Question>& questions)
+{
+    for (auto q : questions) EXPECT_EQ(q.world.ask(routine, q.id), q.expected) << q.name;
+}
+
+TEST(DegreeOfPolymerization, OfPolymersPrefersAttributeThenMomentsThenOne)
 {
     const Attribute z{"ZMOM", 2}, f{"FMOM", 100};
     const double above_one = std::nextafter(1.0, 2.0), below_missing = std::nextafter(missing, 0.0);
-    const Case cases[] = {
-        {"own attribute just above 1 wins over moments", {{"DPN", above_one}, z, f}, above_one},
-        {"exactly 1 is not usable: parameter, not moments", {{"DPN", 1.0}, z, f}, 7},
-        {"just below missing is usable", {{"DPN", below_missing}}, below_missing},
-        {"missing is not usable: parameter", {{"DPN", missing}, z, f}, 7},
-        {"zeroth moment at the zero bound", {{"ZMOM", zero_bound}, f}, 1},
-        {"never below one", {{"ZMOM", 100}, {"FMOM", 50}}, 1},
-        {"neither zeroth moment nor end segments", {f, {"SFLOW", {1, 1}}}, 1},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(copolymer(c.attributes).ask(POLY_GETDPN, "P"), c.expected) << c.name;
+    auto ends = World{}.segments({{"E", 15, SegmentType::end}, "R", {"F", 29, SegmentType::end}});
+    auto more_ends = World{}.segments({"R"}).end_segments({"R", "R", "R"});
+    expect_answers(
+        POLY_GETDPN,
+        {{"own attribute just above 1 wins over moments", copolymer({{"DPN", above_one}, z, f}), above_one},
+         {"exactly 1 is not usable: parameter, not moments", copolymer({{"DPN", 1.0}, z, f}), 7},
+         {"just below missing is usable", copolymer({{"DPN", below_missing}}), below_missing},
+         {"missing is not usable: parameter", copolymer({{"DPN", missing}, z, f}), 7},
+         {"zeroth moment at the zero bound", copolymer({{"ZMOM", zero_bound}, f}), 1},
+         {"never below one", copolymer({{"ZMOM", 100}, {"FMOM", 50}}), 1},
+         {"neither zeroth moment nor end segments", copolymer({f, {"SFLOW", {1, 1}}}), 1},
+         {"half the flows of the entries 1 and 2, as many as end segments, whatever their places",
+          ends.polymer("P", {{"SFLOW", {3, 1, 96}}}), 50},
+         {"more end segments than segments", more_ends.polymer("P", {{"SFLOW", 10}}), 2},
+         {"the polymer count of the run decides, not the polymer list",
+          copolymer({{"DPN", 9}}).parameter("P", Parameter::dpn, 0.5).polymer_count(0), 0.5}});
 }
 
-TEST(DegreeOfPolymerization, TakesHalfTheFlowsOfLeadingEndSegmentsForMissingChains)
+TEST(DegreeOfPolymerization, OfOligomersCountsTheMakeUpOfThoseLeftAtOne)
 {
-    // The flows are taken by the entry numbers of the end segments, here 1 and 2, whatever their places among
-    // the segments.
-    auto world = World{}.segments({{"E", 15, SegmentType::end}, "R", {"F", 29, SegmentType::end}});
-    EXPECT_EQ(world.polymer("P", {{"SFLOW", {3, 1, 96}}}).ask(POLY_GETDPN, "P"), 50);
-
-    auto more_ends_than_segments = World{}.segments({"R"}).end_segments({"R", "R", "R"});
-    EXPECT_EQ(more_ends_than_segments.polymer("P", {{"SFLOW", 10}}).ask(POLY_GETDPN, "P"), 2);
-}
-
-TEST(DegreeOfPolymerization, LimitsOthersToOneOnlyInARunWithChains)
-{
-    // The polymer count of the run decides, not the polymer list.
-    auto uncounted = copolymer({{"DPN", 9}}).parameter("P", Parameter::dpn, 0.5).polymer_count(0);
-    EXPECT_EQ(uncounted.ask(POLY_GETDPN, "P"), 0.5);
-
-    auto oligomers = World{}.segments({"A"}).oligomer("O", {{"A", 3}}).conventional("W");
-    EXPECT_EQ(oligomers.parameter("W", Parameter::dpn, 0.5).ask(POLY_GETDPN, {"W", "O"}), (Values{1, 3}));
-}
-
-TEST(DegreeOfPolymerization, CountsTheMakeUpOfOligomersLeftAtOne)
-{
-    const std::pair<double, double> cases[] = {{1 + 0.9e-10, 5}, {1 + 2e-10, 1 + 2e-10}, {0.5, 1}};
-    for (const auto& [parameter, expected] : cases) {
+    const auto oligomer = [](double parameter) {
         auto world = World{}.segments({"A", "B"}).oligomer("O", {{"A", 2}, {"B", 3}});
-        EXPECT_EQ(world.parameter("O", Parameter::dpn, parameter).ask(POLY_GETDPN, "O"), expected);
-    }
+        return world.parameter("O", Parameter::dpn, parameter);
+    };
+    auto part = World{}.segments({{"A", 100}}).oligomer("O", {{"A", 0.25}}).conventional("W");
+    part.parameter("W", Parameter::dpn, 0.5);
     auto unlisted = copolymer({}).component("O", ComponentClass::oligomer, 77);
-    EXPECT_EQ(unlisted.parameter("O", Parameter::dpn, 1 + 1e-11).ask(POLY_GETDPN, "O"), 1 + 1e-11);
-    EXPECT_EQ(unlisted.ask(POLY_GETMWN, "O"), 77 * (1 + 1e-11));
-    auto part_of_a_segment = World{}.segments({{"A", 100}}).oligomer("O", {{"A", 0.25}});
-    EXPECT_EQ(part_of_a_segment.ask(POLY_GETDPN, "O"), 1);
-    EXPECT_EQ(part_of_a_segment.ask(POLY_GETMRF, "O"), 100);
+    unlisted.parameter("O", Parameter::dpn, 1 + 1e-11);
+    expect_answers(POLY_GETDPN, {{"within the tolerance", oligomer(1 + 0.9e-10), 5, "O"},
+                                 {"outside of it", oligomer(1 + 2e-10), 1 + 2e-10, "O"},
+                                 {"below one", oligomer(0.5), 1, "O"},
+                                 {"part of a segment", part, 1, "O"},
+                                 {"others in a run with chains", part, 1, "W"},
+                                 {"not listed", unlisted, 1 + 1e-11, "O"}});
+    expect_answers(POLY_GETMRF, {{"part of a segment", part, 100, "O"}});
+    expect_answers(POLY_GETMWN, {{"not listed", unlisted, 77 * (1 + 1e-11), "O"}});
 }
 
 TEST(MeanSegmentWeight, PrefersAttributeThenFractionsThenFlowsThenPlainMean)
 {
-    const Case cases[] = {
-        {"attribute just above 1", {{"MWSEG", 1.25}, {"SFRAC", {1, 0}}}, 1.25},
-        {"attribute of 1 is not usable", {{"MWSEG", 1.0}, {"SFRAC", {0.2, 0.6}}}, 62.5},
-        {"missing attribute", {{"MWSEG", missing}, {"SFRAC", {0.2, 0.6}}}, 62.5},
-        {"fractions before flows", {{"SFRAC", {0, 3}}, {"SFLOW", {3, 0}}}, 50},
-        {"a missing element counts as an equal share", {{"SFRAC", {missing, 1.5}}}, 62.5},
-        {"total at the zero bound", {{"SFRAC", {zero_bound, 0}}}, 75},
-        {"total above the zero bound", {{"SFRAC", {std::nextafter(zero_bound, 1.0), 0}}}, 100},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(copolymer(c.attributes).ask(POLY_GETMRF, "P"), c.expected) << c.name;
-    auto hidden = copolymer({{"SFRAC", {1, 0}}, {"SFLOW", {3, 1}}}).hidden_attribute("P", "SFRAC", -1);
-    EXPECT_EQ(hidden.ask(POLY_GETMRF, "P"), 75) << "only an offset of exactly 0 turns to the flows";
-    EXPECT_EQ(World{}.segments({{"A", 100}}).polymer("P", {}, 1000).ask(POLY_GETMRF, "P"), 100);
-    EXPECT_EQ(World{}.polymer("P", {}, 1000).ask(POLY_GETMRF, "P"), 1000) << "no segments";
-    EXPECT_EQ(copolymer({{"MWSEG", 60}}).without_polymer_block().ask(POLY_GETMRF, "P"), 1000);
+    const auto hidden = copolymer({{"SFRAC", {1, 0}}, {"SFLOW", {3, 1}}}).hidden_attribute("P", "SFRAC", -1);
     auto unlisted = World{}.segments({"A"}).component("P", ComponentClass::polymer, 1000);
-    EXPECT_EQ(unlisted.attributes("P", {{"MWSEG", 60}}).ask(POLY_GETMRF, "P"), 1000) << "no chains listed";
-}
-
-TEST(MeanSegmentWeight, TakesTheMakeUpOfWhateverStandsInTheOligomerList)
-{
-    auto world = World{}.segments({{"A", 100}}).oligomer("O", {{"A", 1}}, 9);
-    world.class_of("O", ComponentClass::conventional);
-    world.oligomer("Z", {{"A", 0}}, 9).class_of("Z", ComponentClass::polymer);
-    world.oligomer("M", {{"A", 1}}).class_of("M", ComponentClass::polymer).attributes("M", {{"MWSEG", 60}});
-    EXPECT_EQ(world.ask(POLY_GETMRF, {"O", "Z", "M"}), (Values{100, 0, 60}));
+    auto oligomers = World{}.segments({{"A", 100}}).oligomer("O", {{"A", 1}}, 9).oligomer("Z", {{"A", 0}}, 9);
+    oligomers.class_of("O", ComponentClass::conventional).class_of("Z", ComponentClass::polymer);
+    oligomers.oligomer("M", {{"A", 1}}).class_of("M", ComponentClass::polymer);
+    oligomers.attributes("M", {{"MWSEG", 60}});
+    expect_answers(
+        POLY_GETMRF,
+        {{"attribute just above 1", copolymer({{"MWSEG", 1.25}, {"SFRAC", {1, 0}}}), 1.25},
+         {"attribute of 1 is not usable", copolymer({{"MWSEG", 1.0}, {"SFRAC", {0.2, 0.6}}}), 62.5},
+         {"missing attribute", copolymer({{"MWSEG", missing}, {"SFRAC", {0.2, 0.6}}}), 62.5},
+         {"fractions before flows", copolymer({{"SFRAC", {0, 3}}, {"SFLOW", {3, 0}}}), 50},
+         {"a missing element counts as an equal share", copolymer({{"SFRAC", {missing, 1.5}}}), 62.5},
+         {"total at the zero bound", copolymer({{"SFRAC", {zero_bound, 0}}}), 75},
+         {"total above it", copolymer({{"SFRAC", {std::nextafter(zero_bound, 1.0), 0}}}), 100},
+         {"only an offset of exactly 0 turns to the flows", hidden, 75},
+         {"one segment", World{}.segments({{"A", 100}}).polymer("P", {}, 1000), 100},
+         {"no segments", World{}.polymer("P", {}, 1000), 1000},
+         {"no polymer block", copolymer({{"MWSEG", 60}}).without_polymer_block(), 1000},
+         {"no chains listed", unlisted.attributes("P", {{"MWSEG", 60}}), 1000},
+         // The make-up of whatever the oligomer list names.
+         {"conventional", oligomers, 100, "O"},
+         {"polymer", oligomers, 0, "Z"},
+         {"polymer with an attribute", oligomers, 60, "M"}});
 }
 
 TEST(ChainAverages, OfAListWithAllKindsOfComponents)
@@ -138,13 +123,12 @@ TEST(ChainAverages, OfAListWithAllKindsOfComponents)
 TEST(ChainAverages, FromFlowsNeedZerothMomentAndMassWithinTheirBounds)
 {
     const Attribute s{"SMOM", 50}, flows{"SFLOW", {6, 2}};
-    const Attributes unusable[] = {
-        {s, flows}, {{"ZMOM", missing}, s, flows}, {{"ZMOM", zero_bound}, s, flows}};
-    for (const auto& moments : unusable) {
-        EXPECT_EQ(copolymer(moments).ask(POLY_GETMRT, "P"), 1000);
-        EXPECT_EQ(copolymer(moments).ask(POLY_GETPDI, "P"), 3);
+    for (const Attributes& unusable :
+         {Attributes{s, flows}, {{"ZMOM", missing}, s, flows}, {{"ZMOM", zero_bound}, s, flows}}) {
+        expect_answers(POLY_GETMRT, {{"unusable", copolymer(unusable), 1000}});
+        expect_answers(POLY_GETPDI, {{"unusable", copolymer(unusable), 3}});
     }
-    EXPECT_EQ(copolymer({{"ZMOM", 2}, flows}).ask(POLY_GETMRT, "P"), 350);
+    expect_answers(POLY_GETMRT, {{"without second moment", copolymer({{"ZMOM", 2}, flows}), 350}});
 
     // The mass has to be above the zero bound for MRT; for PDI both flows and mass may be the bound itself.
     // Streams of the embedded host refuse a NaN, so the molecular weight carries it.
@@ -171,9 +155,8 @@ TEST(ChainAverages, ReturnParametersWithoutPolymerData)
     }
     auto unlisted = World{}.segments({"A", "B"}).component("P", ComponentClass::polymer, 1000);
     unlisted.attributes("P", moments).parameter("P", Parameter::pdi, 3);
-    EXPECT_EQ(unlisted.ask(POLY_GETMRT, "P"), 1000);
-    EXPECT_EQ(unlisted.ask(POLY_GETPDI, "P"), 3);
-
+    expect_answers(POLY_GETMRT, {{"not listed", unlisted, 1000}});
+    expect_answers(POLY_GETPDI, {{"not listed", unlisted, 3}});
     auto bare = World{}.conventional("W", 18).without(Parameter::dpn).without(Parameter::pdi);
     EXPECT_EQ(averages(bare, {"W"}), (Averages{{1, 18, 18, 18, 1, 18}}));
     EXPECT_EQ(bare.without(Parameter::molecular_weight).ask(POLY_GETMWN, "W"), 0);

@@ -1,9 +1,4 @@
-#include <gtest/gtest.h>
-#include <polyprops/host.h>
-#include <polyprops/polyprops.h>
-
-#include "support/arguments.h"
-#include "support/world.h"
+#include "support/routine_calls.h"
 
 namespace {
 

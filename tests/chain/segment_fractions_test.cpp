@@ -1,11 +1,4 @@
-#include <gtest/gtest.h>
-
-#include <cmath>
-
-#include "polyprops/polyprops.h"
-#include "support/arguments.h"
-#include "support/asked_once.h"
-#include "support/world.h"
+#include "support/routine_calls.h"
 
 using namespace support;
 

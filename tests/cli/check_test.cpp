@@ -20,10 +20,7 @@ std::string shortened(std::string text)
 
 Outcome check(const std::filesystem::path& file, Format format)
 {
-    const auto command = [](const auto& path, Format form, std::FILE* out, std::FILE* errors) {
-        return cli::check(path, form, out, errors);
-    };
-    return support::capture(command, file, format);
+    return support::capture([](const auto&... arguments) { return cli::check(arguments...); }, file, format);
 }
 
 TEST(Check, BadInputIsAnsweredWithEveryMessageOnce)
@@ -50,6 +47,7 @@ TEST(Check, HasNothingToSayOfTheOtherExamples)
         const auto [status, out, errors] = check(file.path(), Format::text);
         EXPECT_EQ(status, cli::exit_success);
         EXPECT_EQ(errors, "");
+        EXPECT_EQ(run_json(file.path())["warnings"], Json::array());
         EXPECT_EQ(out.find("\nPolymers\n") == out.npos, file.path().stem() == "interaction-parameters")
             << out;
     }
@@ -134,67 +132,49 @@ TEST(Check, ShowsWhatWasBuiltInEveryForm)
         EXPECT_NE(csv.find(line), std::string::npos) << line;
 }
 
-// "NUMBER at LINE:COLUMN" of each message of a case.
+// Place and number of each message of a case.
 Lines places(const std::string& text)
 {
     Lines places;
     for (const auto& [source, hint, message] : app::evaluate_input(parsed(text)).messages)
-        places.push_back(std::to_string(message.number) + " at " + std::to_string(source.line) + ":" +
-                         std::to_string(source.column));
+        places.push_back("c.toml:" + std::to_string(source.line) + ":" + std::to_string(source.column) +
+                         ": " + std::to_string(message.number));
     return places;
 }
 
 TEST(Check, FindsTheEntryThatAMessageMeansAmongThoseOfOneId)
 {
-    struct Row {
-        const char* name;
-        const char* old;
-        const char* replacement;
-        Lines places;
-    };
-    const Row rows[] = {
-        {"each repeat, not the first",
-         "[\"P\"]",
-         "[\"P\", \"X\", \"P\", \"X\", \"P\"]",
-         {"4 at 11:18", "5 at 11:23", "4 at 11:28", "5 at 11:33"}},
-        {"an unknown oligomer once for each of its segments, at its ID",
-         "{ id = \"O\", segments = { A-R = 1.5 } }",
-         "{ id = \"U\", segments = { A-R = 1, B-E = 1 } }, { segments = { A-R = 1 } }, { id = \"U\", "
-         "segments = { A-R = 1 } }",
-         {"7 at 15:7", "7 at 15:7", "7 at 15:7", "7 at 15:82"}},
-        {"a segment under the oligomer that names it",
-         "{ segments = { B-E = 2 } }",
-         "{ segments = { U = 2 } }, { id = \"O\", segments = [{ id = \"CAT\", count = 1 }, { id = \"U\", "
-         "count = 1 }] }",
-         {"8 at 14:20", "9 at 14:57", "8 at 14:84"}},
-        {"the attribute list that misses the attribute",
-         "{ component = \"P\", names = [\"ZMOM\", \"SFLOW\"] }",
-         "{ component = \"P\", names = [\"ZMOM\", \"SFLOW\"] }, { component = \"P\", names = [\"ZMOM\"] }, "
-         "{ component = \"P\", names = [\"SFLOW\"] }",
-         {"25 at 25:55", "24 at 25:94"}},
-        {"one unknown ID in three lists",
-         "catalysts = [{ id = \"CAT\", value = 0.25 }]\ninitiators = [\"INI\"]",
-         "catalysts = [{ id = \"CAT\" }, { id = \"CATALYST\" }]\ninitiators = [\"INI\", \"CATALYST\"]",
-         {"10 at 17:32", "10 at 18:22"}},
-        {"the second of two scalings",
-         "first = 2.0",
-         "first = 2.0\n[[catalyst_scaling]]\ncomponent = \"CAT\"\nattribute = \"ZMOM\"",
-         {"1 at 34:1"}},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(places(with(catalyzed, row.old, row.replacement)), row.places);
-    }
+    expect_each(R"(
+# Each repeat, not the first.
+["P"] -> ["P", "X", "P", "X", "P"] => 11:18: 4 => 11:23: 5 => 11:28: 4 => 11:33: 5
+# An unknown oligomer once for each of its segments, at its ID.
+{ id = "O", segments = { A-R = 1.5 } } -> { id = "U", segments = { A-R = 1, B-E = 1 } },
+    { segments = { A-R = 1 } }, { id = "U", segments = { A-R = 1 } }
+    => 15:7: 7 => 15:7: 7 => 15:7: 7 => 15:82: 7
+# A segment under the oligomer that names it.
+{ segments = { B-E = 2 } } -> { segments = { U = 2 } }, { id = "O", segments = [{ id = "CAT", count = 1 },
+    { id = "U", count = 1 }] }
+    => 14:20: 8 => 14:57: 9 => 14:84: 8
+# The attribute list that misses the attribute.
+"SFLOW"] } -> "SFLOW"] }, { component = "P", names = ["ZMOM"] }, { component = "P", names = ["SFLOW"] }
+    => 25:55: 25 => 25:94: 24
+# One unknown ID in three lists.
+id = "CAT", value = 0.25 } -> id = "CAT" }, { id = "CATALYST" } & "INI"] -> "INI", "CATALYST"]
+    => 17:32: 10 => 18:22: 10
+# The second of two scalings.
+first = 2.0 -> first = 2.0\n[[catalyst_scaling]]\ncomponent = "CAT"\nattribute = "ZMOM" => 34:1: 1
+)",
+                catalyzed, places);
 }
 
 TEST(Check, PrintsMessagesUpToTheLevelOfTheCase)
 {
-    auto text = with(catalyzed, "[polymers]", "[settings]\nmessage_level = 1\n[polymers]");
-    text = with(text, "[\"P\"]", "[\"P\", \"X\"]");
-    EXPECT_EQ(places(text), Lines{});
-    text = with(text, "attribute = \"CVSFLOW\"", "attribute = \"ZMOM\"");
-    EXPECT_EQ(places(text), Lines{"1 at 32:1"});
-    EXPECT_EQ(places(with(text, "message_level = 1", "message_level = 0")), Lines{});
+    expect_each(R"(
+["P"] -> ["P", "X"]
+["P"] -> ["P", "X"] & attribute = "CVSFLOW" -> attribute = "ZMOM" => 32:1: 1
+["P"] -> ["P", "X"] & attribute = "CVSFLOW" -> attribute = "ZMOM" & message_level = 1 -> message_level = 0
+)",
+                with(catalyzed, "[polymers]", "[settings]\nmessage_level = 1\n[polymers]"), places);
 }
 
 TEST(Run, GoesOnWithoutTheEntriesInError)

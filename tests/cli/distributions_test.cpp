@@ -1,6 +1,5 @@
 #include <cmath>
 
-#include "app/report/format.h"
 #include "cli/program.h"
 
 namespace {
@@ -9,6 +8,19 @@ using namespace cli_test;
 
 // Two components, of which distributions need none.
 const std::string head = "[components]\nP = { molecular_weight = 100 }\nQ = { molecular_weight = 50 }\n";
+
+// m0 = 10 g/mol, Mn = 1000, Mw = 2000.
+const std::string stream = R"([components]
+S = { class = "segment", molecular_weight = 10 }
+C = { class = "polymer", molecular_weight = 10 }
+[polymers]
+segments = [{ id = "S", type = "repeat" }]
+polymers = ["C"]
+attributes = [{ component = "C", names = ["ZMOM", "FMOM", "SMOM", "SFLOW"] }]
+[streams.F]
+flows = { C = 100 }
+attributes.C = { ZMOM = 1, FMOM = 100, SMOM = 20000, SFLOW = [100] }
+)";
 
 app::DistributionResults distribution(const std::string& text)
 {
@@ -55,9 +67,8 @@ TEST(Distribution, IdleSiteKeepsItsShareOfTheWhole)
         "increments = [[{ tau = 0.01, amount = 1 }, { tau = 0.001, amount = 1 }],"
         "[{ amount = 2 }, { amount = 0 }], [{ amount = 0 }, { beta = 0.002, amount = 4 }]]");
     const auto side_by_side = distribution(
-        "sites = [{ tau = 0.01, amount = 3 }, { tau = 0.001, amount = 1 }, { tau = 0.001, beta = 0.002, "
-        "amount = 4 "
-        "}]");
+        "sites = [{ tau = 0.01, amount = 3 }, { tau = 0.001, amount = 1 },"
+        "{ tau = 0.001, beta = 0.002, amount = 4 }]");
     expect_same(paused.composite().values, side_by_side.composite().values);
     expect_same(curve(paused, "site 1").values, curve(side_by_side, "site 1").values);
     EXPECT_NEAR(paused.composite().on_grid->area, 1, 1e-3);
@@ -67,12 +78,10 @@ TEST(Distribution, IdleSiteKeepsItsShareOfTheWhole)
 
 TEST(Distribution, EveryCurveIsItsPartOfTheComposite)
 {
-    const auto mixed = distribution(
-        "segment_weight = 100\ncomponents = [{ name = \"C\", type = \"schulz-zimm\", mn = 30000, dispersity "
-        "= 1.5, "
-        "amount = 4 }]\n"
-        "[[distributions.D.sections]]\nname = \"R1\"\nsites = [{ name = \"A\", tau = 0.01, amount = 1 }]\n"
-        "[[distributions.D.sections]]\nname = \"R2\"\nsites = [{ name = \"A\", tau = 0.001, amount = 3 }]\n");
+    const auto mixed = distribution(R"(segment_weight = 100
+components = [{ name = "C", type = "schulz-zimm", mn = 30000, dispersity = 1.5, amount = 4 }]
+sections = [{ name = "R1", sites = [{ name = "A", tau = 0.01, amount = 1 }] },
+            { name = "R2", sites = [{ name = "A", tau = 0.001, amount = 3 }] }])");
     ASSERT_EQ(mixed.curves.size(), 6u);
     const auto& first = curve(mixed, "section R1");
     const auto& second = curve(mixed, "section R2");
@@ -98,28 +107,26 @@ TEST(Distribution, EveryCurveIsItsPartOfTheComposite)
 TEST(Distribution, ComponentsHaveCurvesOfTheirAverages)
 {
     const struct {
-        const char* component;
+        std::string component;
         double pn, pw;
     } rows[] = {
-        {"type = \"log-normal\", dpn = 500, dispersity = 2", 500, 1000},
-        {"type = \"schulz-zimm\", dpn = 500, dispersity = 1.2", 500, 600},
-        {"type = \"poisson\", dpn = 100", 100, 100.99},
+        {"type = 'log-normal', dpn = 500, dispersity = 2", 500, 1000},
+        {"type = 'schulz-zimm', dpn = 500, dispersity = 1.2", 500, 600},
+        {"type = 'poisson', dpn = 100", 100, 100.99},
     };
-    for (const auto& r : rows) {
-        SCOPED_TRACE(r.component);
-        for (const char* form : {"weight-fraction", "gpc"}) {
-            const auto results =
-                evaluated(head + "[distributions.D]\npoints = 20000\nlongest_chain = 2e4\nform = \"" + form +
-                          "\"\ncomponents = [{ " + r.component + ", amount = 2 }]\n")
-                    .results.distributions.front();
-            const auto& composite = results.composite();
+    for (const auto& r : rows)
+        for (const std::string form : {"weight-fraction", "gpc"}) {
+            SCOPED_TRACE(r.component + form);
+            const auto e =
+                evaluated(head + "[distributions.D]\npoints = 20000\nlongest_chain = 2e4\nform = '" + form +
+                          "'\ncomponents = [{ " + r.component + ", amount = 2 }]\n");
+            const auto& composite = e.results.distributions.front().composite();
             EXPECT_NEAR(composite.averages->pn, r.pn, 1e-9 * r.pn);
             EXPECT_NEAR(composite.averages->pw, r.pw, 1e-9 * r.pw);
             EXPECT_NEAR(composite.on_grid->area, 1, 1e-4);
             EXPECT_NEAR(composite.on_grid->pn, r.pn, 1.1);  // lengths of right-hand ends, one segment apart
             EXPECT_NEAR(composite.on_grid->pw, r.pw, 1.1);
         }
-    }
 }
 
 TEST(Distribution, GpcFormHasTheAveragesOfTheStandardForm)
@@ -133,13 +140,15 @@ TEST(Distribution, GpcFormHasTheAveragesOfTheStandardForm)
     EXPECT_NEAR(gpc.composite().values[100], gpc.lengths[100] * standard.composite().values[100], 1e-12);
 }
 
+// Without components, too.
 TEST(Distribution, IdleSiteHasEmptyCellsInEveryForm)
 {
-    const auto e = evaluated(head +
-                             "[distributions.D]\npoints = 50\nlongest_chain = 1000\n"
-                             "sites = [{ tau = 0.01, amount = 1 }, { tau = 0.1, amount = 0 }]\n");
-    EXPECT_TRUE(e.diagnostics().empty());
-    const auto row = Json::parse(app::format_json(e.report))["distributions"][0]["distribution_averages"][2];
+    const auto e = evaluated(
+        "[distributions.D]\npoints = 50\nlongest_chain = 1000\nsegment_weight = 10\n"
+        "sites = [{ tau = 0.01, amount = 1 }, { tau = 0.1, amount = 0 }]\n");
+    EXPECT_EQ(e.diagnostics(), Lines{});
+    EXPECT_EQ(number(e, "distributions.D.distribution_averages.composite.mn"), 1000);
+    const auto row = json(e)["distributions"][0]["distribution_averages"][2];
     EXPECT_EQ(row["amount"], 0);
     EXPECT_TRUE(row["pn"].is_null());
     EXPECT_NE(app::format_csv(e.report).find("distribution_averages,site 2,,,pn,,1\n"), std::string::npos);
@@ -150,69 +159,42 @@ TEST(Distribution, IdleSiteHasEmptyCellsInEveryForm)
 // Mass above 1000 segments: e^−1·2 = 73.6 % with tau = 0.001; below 1: 1 − e^−0.2·1.2 = 1.75 % with 0.2.
 TEST(Distribution, WarnsOfMassOutsideTheGridShortChainsMomentsAndUnusedKeys)
 {
-    const std::string grid = "[distributions.D]\npoints = 50\nlongest_chain = 1000\n";
-    const std::string stream =
-        "S = { class = \"segment\", molecular_weight = 10 }\nC = { class = \"polymer\", molecular_weight = "
-        "10 }\n"
-        "[polymers]\nsegments = [{ id = \"S\", type = \"repeat\" }]\npolymers = [\"C\"]\n"
-        "attributes = [{ component = \"C\", names = [\"ZMOM\", \"FMOM\", \"SMOM\", \"SFLOW\"] }]\n"
-        "[streams.F]\nflows = { C = 100 }\nattributes.C = { ZMOM = 1, FMOM = 100, SMOM = 20000, SFLOW = "
-        "[100] }\n";
-    const std::string coarse =
-        " on the grid, but 1 in closed form; they differ by 1335 % of its mass, more than 10 %: the curve is "
-        "narrower "
-        "than the steps of the grid; expected more points or a smaller longest_chain";
-    const struct {
-        std::string text;
-        Lines expected;
-    } rows[] = {
-        {grid + "sites = [{ tau = 0.001, amount = 1 }]\n",
-         {"c.toml:4:16: distributions.D: 73.6 % of the mass of composite is outside the grid, 5e-05 % below "
-          "1 and "
-          "73.6 % above 1000 segments; expected at most 1 %",
-          "c.toml:4:16: distributions.D: 73.6 % of the mass of site 1 is outside the grid, 5e-05 % below 1 "
-          "and "
-          "73.6 % above 1000 segments; expected at most 1 %"}},
-        {grid + "mark_houwink_exponent = 0.7\nsites = [{ tau = 0.01, amount = 1 }]\n",
-         {"c.toml:4:16: distributions.D.mark_houwink_exponent is not used: there is no segment weight to "
-          "give Mv in "
-          "g/mol; expected a segment_weight, or a stream with polymer"}},
-        {stream + grid + "stream = \"F\"\nsites = [{ tau = 0.01, amount = 1 }]\n", {}},
-        {stream + grid + "stream = \"F\"\nsites = [{ tau = 0.01, beta = 1e-7, amount = 1 }]\n",
-         {"c.toml:16:1: distributions.D: Pn of composite is 99.9995 by its parameters and 100 by the "
-          "moments of "
-          "stream F; the relative difference is -5e-06, more than 1e-06",
-          "c.toml:16:1: distributions.D: Pw of composite is 199.999 by its parameters and 200 by the "
-          "moments of "
-          "stream F; the relative difference is -5e-06, more than 1e-06"}},
-        {stream + grid + "stream = \"F\"\nsegment_weight = 5\nsites = [{ tau = 0.01, amount = 1 }]\n",
-         {"c.toml:16:1: distributions.D.segment_weight is 5 g/mol, but the mean segment weight of the "
-          "polymer of "
-          "stream F is 10 g/mol; they differ by 50 % of the larger; the distribution uses its "
-          "segment_weight"}},
-        // A step of the grid near 500 segments is 70 segments, the width of the curve 1.6, and a point is
-        // near its peak.
-        {grid + "components = [{ name = \"N\", type = \"log-normal\", dpn = 500, dispersity = 1.00001, "
-                "amount = 1 }]\n",
-         {"c.toml:4:16: distributions.D: composite has an area of 14.3485" + coarse,
-          "c.toml:4:16: distributions.D: component N has an area of 14.3485" + coarse}},
-        {stream + grid +
-             "stream = \"F\"\nsites = [{ tau = 0.01, amount = 1 }]\n"
-             "components = [{ type = \"poisson\", mn = 10, amount = 1 }]\n",
-         {"c.toml:18:15: distributions.D: component 1 is left out: mn is 10; expected more than a segment "
-          "weighs, 10 "
-          "g/mol"}},
-    };
-    for (const auto& r : rows) EXPECT_EQ(evaluated(head + r.text).diagnostics(), r.expected) << r.text;
-}
-
-TEST(Distribution, NeedsNothingElse)
-{
-    const auto e = evaluated(
-        "[distributions.D]\npoints = 50\nlongest_chain = 1000\nsegment_weight = 10\n"
-        "sites = [{ tau = 0.01, amount = 1 }]\n");
-    EXPECT_EQ(e.diagnostics(), Lines{});
-    EXPECT_EQ(number(e, "distributions.D.distribution_averages.composite.mn"), 1000);
+    const auto good = stream +
+                      "[distributions.D]\npoints = 50\nlongest_chain = 1000\nstream = \"F\"\n"
+                      "sites = [{ tau = 0.01, amount = 1 }]\n";
+    const auto seen = [](const std::string& text) { return evaluated(text).diagnostics(); };
+    EXPECT_EQ(seen(good), Lines{});
+    expect_each(R"(
+tau = 0.01 -> tau = 0.001 & stream = "F"\n ->
+    => 11:16: distributions.D: 73.6 % of the mass of composite is outside the grid, 5e-05 % below 1 and 73.6 %
+       above 1000 segments; expected at most 1 %
+    => 11:16: distributions.D: 73.6 % of the mass of site 1 is outside the grid, 5e-05 % below 1 and 73.6 %
+       above 1000 segments; expected at most 1 %
+stream = "F" -> mark_houwink_exponent = 0.7
+    => 11:16: distributions.D.mark_houwink_exponent is not used: there is no segment weight to give Mv in
+       g/mol; expected a segment_weight, or a stream with polymer
+tau = 0.01 -> tau = 0.01, beta = 1e-7
+    => 14:1: distributions.D: Pn of composite is 99.9995 by its parameters and 100 by the moments of stream F;
+       the relative difference is -5e-06, more than 1e-06
+    => 14:1: distributions.D: Pw of composite is 199.999 by its parameters and 200 by the moments of stream F;
+       the relative difference is -5e-06, more than 1e-06
+sites -> segment_weight = 5\nsites
+    => 14:1: distributions.D.segment_weight is 5 g/mol, but the mean segment weight of the polymer of stream F
+       is 10 g/mol; they differ by 50 % of the larger; the distribution uses its segment_weight
+# A step of the grid near 500 segments is 70 segments, the width of the curve 1.6, and a point is near its peak.
+stream = "F" -> & sites = [{ tau = 0.01 -> components = [{ name = "N", type = "log-normal", dpn = 500,
+    dispersity = 1.00001
+    => 11:16: distributions.D: composite has an area of 14.3485 on the grid, but 1 in closed form; they differ
+       by 1335 % of its mass, more than 10 %: the curve is narrower than the steps of the grid; expected more
+       points or a smaller longest_chain
+    => 11:16: distributions.D: component N has an area of 14.3485 on the grid, but 1 in closed form; they
+       differ by 1335 % of its mass, more than 10 %: the curve is narrower than the steps of the grid;
+       expected more points or a smaller longest_chain
+sites -> components = [{ type = "poisson", mn = 10, amount = 1 }]\nsites
+    => 15:15: distributions.D: component 1 is left out: mn is 10; expected more than a segment weighs, 10
+       g/mol
+)",
+                good, seen);
 }
 
 // Whole lengths with tau = 0.0125 and beta = 0.0025: (1 + 0.015)/0.01375 = 73.8182, where 1/0.01375
@@ -233,50 +215,43 @@ TEST(Distribution, NotesThatChainsAreShort)
 // Mz = TMOM/SMOM·m0 = 300·10; Mv with a = 1 is Mw.
 TEST(Streams, HaveMzOfTheirThirdMomentAndMvOfTheirExponent)
 {
-    const std::string text =
-        "[components]\nS = { class = \"segment\", molecular_weight = 10 }\n"
-        "C = { class = \"polymer\", molecular_weight = 10, mark_houwink_exponent = 1 }\n"
-        "[polymers]\nsegments = [{ id = \"S\", type = \"repeat\" }]\npolymers = [\"C\"]\n"
-        "attributes = [{ component = \"C\", names = [\"ZMOM\", \"FMOM\", \"SMOM\", \"TMOM\", \"SFLOW\"] }]\n"
-        "[streams.F]\nflows = { C = 100 }\n"
-        "attributes.C = { ZMOM = 1, FMOM = 100, SMOM = 20000, TMOM = 6e6, SFLOW = [100] }\n";
+    auto text = with(stream, "polymer\", molecular_weight = 10",
+                     "polymer\", molecular_weight = 10, mark_houwink_exponent = 1");
+    text = with(with(text, "\"SFLOW", "\"TMOM\", \"SFLOW"), "SFLOW =", "TMOM = 6e6, SFLOW =");
     const auto e = evaluated(text);
     EXPECT_DOUBLE_EQ(number(e, "streams.F.chain_averages.C.mz"), 3000);
     EXPECT_NEAR(number(e, "streams.F.chain_averages.C.mv"), 2000, 1e-9);
-    const auto without = evaluated(with(with(text, "TMOM = 6e6, ", ""), ", mark_houwink_exponent = 1", ""));
-    const auto row = Json::parse(app::format_json(without.report))["streams"][0]["chain_averages"][0];
+    const auto without = evaluated(stream);
+    const auto row = json(without)["streams"][0]["chain_averages"][0];
     EXPECT_TRUE(row["mz"].is_null());
     EXPECT_FALSE(row.contains("mv"));
 }
 
 TEST(Parameters, CompletesByTheSymmetryOfThePositionAndEvaluatesEachForm)
 {
-    struct Case {
-        const char* name;
-        const char* set;
+    const struct {
+        std::string name, set;
         double forward, backward, slope;  // at 300 K of P, Q; of Q, P; T·dK/dT of P, Q
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"antisymmetric up to position 1",
-         "leading_positions = 1\nleading_symmetry = \"antisymmetric\"\n"
-         "pairs = [{ components = [\"P\", \"Q\"], values = [2, 3, 0, 0, 0, 600] }]",
+         "leading_positions = 1\nleading_symmetry = 'antisymmetric'\n"
+         "pairs = [{ components = ['P', 'Q'], values = [2, 3, 0, 0, 0, 600] }]",
          2 + 3 / 0.5, -2 + 3 / 0.5, -6},
         {"both orders given stay as they are",
-         "pairs = [{ components = [\"P\", \"Q\"], values = [2, 0, 0, 0, 0, 300] },"
-         "{ components = [\"Q\", \"P\"], values = [5, 0, 0, 0, 0, 300] }]",
+         "pairs = [{ components = ['P', 'Q'], values = [2, 0, 0, 0, 0, 300] },"
+         "{ components = ['Q', 'P'], values = [5, 0, 0, 0, 0, 300] }]",
          2, 5, 0},
         {"linear, at 298.15 K",
-         "form = \"linear\"\npairs = [{ components = [\"Q\", \"P\"], values = [1, 298.15] }]", 301, 301, 300},
+         "form = 'linear'\npairs = [{ components = ['Q', 'P'], values = [1, 298.15] }]", 301, 301, 300},
         {"reciprocal, reference at the last position",
-         "form = \"reciprocal\"\nreference_position = 4\n"
-         "pairs = [{ components = [\"P\", \"Q\"], values = [1, 2, 3, 600] }]",
+         "form = 'reciprocal'\nreference_position = 4\n"
+         "pairs = [{ components = ['P', 'Q'], values = [1, 2, 3, 600] }]",
          1 + 1 + 6, 8, 1 - 6},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         const auto e =
-            evaluated(head + "[parameters.S]\ncomponents = [\"P\", \"Q\"]\ntemperatures = [300]\n" +
-                      std::string{c.set});
+            evaluated(head + "[parameters.S]\ncomponents = ['P', 'Q']\ntemperatures = [300]\n" + c.set);
         const std::string path = "parameters.S.binary_parameter";
         EXPECT_DOUBLE_EQ(number(e, path + "s.300.P.Q"), c.forward);
         EXPECT_DOUBLE_EQ(number(e, path + "s.300.Q.P"), c.backward);

@@ -9,18 +9,23 @@
 
 #include "app/case/case_document.h"
 #include "app/evaluation/evaluation.h"
+#include "app/host_setup/loaded_case.h"
+#include "app/report/format.h"
 #include "app/report/make_report.h"
 #include "app/report/result_numbers.h"
 #include "cli/run_command.h"
 #include "support/capture.h"
+#include "support/change_rows.h"
 #include "support/files.h"
 
 namespace cli_test {
 
 using app::Format;
+using support::expect_each;
 using support::Outcome;
+using support::with;
 using Json = nlohmann::json;
-using Lines = std::vector<std::string>;
+using Lines = support::Texts;
 
 inline const std::filesystem::path examples{POLYPROPS_EXAMPLES};
 
@@ -58,14 +63,6 @@ inline Json run_json(const std::filesystem::path& file)
     return Json::parse(out);
 }
 
-// The text with the first `old` replaced; it has to be there.
-inline std::string with(std::string text, const std::string& old, const std::string& replacement)
-{
-    const auto at = text.find(old);
-    EXPECT_NE(at, std::string::npos) << old;
-    return text.replace(at, old.size(), replacement);
-}
-
 // A case without errors in its text.
 inline app::Case parsed(const std::string& text)
 {
@@ -73,6 +70,17 @@ inline app::Case parsed(const std::string& text)
     auto input = app::CaseDocument{text, "c.toml"}.read(diagnostics);
     EXPECT_TRUE(diagnostics.empty()) << diagnostics.lines("c.toml").front();
     return input;
+}
+
+// What the reader says of a text, or what its streams lack.
+inline Lines diagnose(const std::string& text)
+{
+    app::Diagnostics diagnostics;
+    const auto input = app::CaseDocument{text, "c.toml"}.read(diagnostics);
+    if (!diagnostics.empty()) return diagnostics.lines("c.toml");
+    app::LoadedCase loaded{input};
+    EXPECT_TRUE(loaded.messages().empty());
+    return loaded.add_streams(input).lines("c.toml");
 }
 
 struct Evaluation {
@@ -99,6 +107,11 @@ inline Evaluation evaluated(app::Case input)
 inline Evaluation evaluated(const std::string& text)
 {
     return evaluated(parsed(text));
+}
+
+inline Json json(const Evaluation& e)
+{
+    return Json::parse(app::format_json(e.report));
 }
 
 // The number of a report at the path that a sweep heads its column with.

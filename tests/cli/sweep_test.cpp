@@ -40,27 +40,27 @@ protected:
     }
     ~SweepFiles() override { std::filesystem::remove_all(directory); }
 
-    Outcome sweep() const
+    Outcome sweep(Lines sets)
     {
+        options.sets = std::move(sets);
         const support::Capture errors;
         const int status = cli::sweep(options, errors.file);
         return {status, "", errors.text()};
     }
 
-    // Rows of the result by case number, cells by column.
-    std::vector<std::map<std::string, std::string>> rows() const
+    // A column of the result.
+    Lines column(const std::string& name) const
     {
         std::istringstream lines{app::file_contents(options.out)};
-        std::vector<std::map<std::string, std::string>> all;
-        std::string header;
-        std::getline(lines, header);
+        Lines cells;
+        std::size_t at = 0;
         for (std::string line; std::getline(lines, line);) {
-            auto& row = all.emplace_back();
-            std::istringstream names{header}, cells{line};
-            for (std::string name; std::getline(names, name, ',');)
-                std::getline(cells, row[name], name == "error" ? '\n' : ',');
+            const auto row = support::parts(line, ",");
+            if (cells.empty()) at = std::ranges::find(row, name) - row.begin();
+            cells.push_back(row.at(at));
         }
-        return all;
+        cells.erase(cells.begin());
+        return cells;
     }
 
     std::filesystem::path directory = support::scratch() / "polyprops_sweep";
@@ -68,52 +68,42 @@ protected:
     app::SweepOptions options{directory / "case.toml", {}, directory / "s.csv", 3};
 };
 
+const std::string zmom = "streams.S.attributes.P.ZMOM", mn = "streams.S.chain_averages.P.mn";
+
 TEST_F(SweepFiles, RunsEveryCombinationInOrder)
 {
-    options.sets = {"streams.S.attributes.P.ZMOM=1:2:3", "streams.S.attributes.P.SFLOW[1]=12:24:2"};
-    const auto seen = sweep();
+    const auto seen = sweep({zmom + "=1:2:3", "streams.S.attributes.P.SFLOW[1]=12:24:2"});
     ASSERT_EQ(seen.status, 0) << seen.errors;
     EXPECT_EQ(seen.errors, "");
-    const double mn[] = {1200, 2400, 800, 1600, 600, 1200};
-    const auto all = rows();
-    ASSERT_EQ(all.size(), 6u);
-    for (std::size_t i = 0; i < all.size(); ++i) {
-        EXPECT_EQ(all[i].at("case"), std::to_string(i + 1));
-        EXPECT_EQ(all[i].at("streams.S.attributes.P.ZMOM"),
-                  (std::vector<std::string>{"1", "1.5", "2"})[i / 2]);
-        EXPECT_DOUBLE_EQ(std::stod(all[i].at("streams.S.chain_averages.P.mn")), mn[i]);
-        EXPECT_EQ(all[i].at("error"), "");
-    }
+    EXPECT_EQ(column("case"), (Lines{"1", "2", "3", "4", "5", "6"}));
+    EXPECT_EQ(column(zmom), (Lines{"1", "1", "1.5", "1.5", "2", "2"}));
+    EXPECT_EQ(column(mn), (Lines{"1200", "2400", "800", "1600", "600", "1200"}));
+    EXPECT_EQ(column("error"), Lines(6));
     EXPECT_FALSE(std::filesystem::exists(partial));
 }
 
 TEST_F(SweepFiles, AFailingCaseHasItsErrorInItsRow)
 {
-    options.sets = {"components.P.molecular_weight=-1:1:3"};
-    const auto seen = sweep();
+    const auto seen = sweep({"components.P.molecular_weight=-1:1:3"});
     EXPECT_EQ(seen.status, cli::exit_case_error);
     EXPECT_EQ(seen.errors, "polyprops: 2 of 3 cases failed; their rows hold the error\n");
-    const auto all = rows();
-    ASSERT_EQ(all.size(), 3u);
-    EXPECT_NE(all[0].at("error").find(
-                  "components.P.molecular_weight is -1; expected a finite number greater than 0"),
+    const auto errors = column("error");
+    EXPECT_EQ(column(mn), (Lines{"", "", "1200"}));
+    EXPECT_NE(errors[0].find("components.P.molecular_weight is -1; expected a finite number greater than 0"),
               std::string::npos);
-    EXPECT_EQ(all[0].at("streams.S.chain_averages.P.mn"), "");
-    EXPECT_EQ(all[2].at("streams.S.chain_averages.P.mn"), "1200");
-    EXPECT_EQ(all[2].at("error"), "");
+    EXPECT_EQ(errors[2], "");
 
     std::ofstream{options.file} << with(swept, "P = 12", "P = 0");
-    options.sets = {"streams.S.flows.P=0:12:2"};
-    EXPECT_EQ(sweep().errors, "polyprops: 1 of 2 cases failed; their rows hold the error\n");
-    EXPECT_NE(rows().at(1).at("error").find(" results have no column: the unchanged case lacks them"),
+    EXPECT_EQ(sweep({"streams.S.flows.P=0:12:2"}).errors,
+              "polyprops: 1 of 2 cases failed; their rows hold the error\n");
+    EXPECT_NE(column("error")[1].find(" results have no column: the unchanged case lacks them"),
               std::string::npos);
 }
 
 TEST_F(SweepFiles, NeedsAnUnchangedCaseWithoutErrors)
 {
     options.file = examples / "bad-input.toml";
-    options.sets = {"streams.FEED.flows.WATER=1:2:2"};
-    const auto seen = sweep();
+    const auto seen = sweep({"streams.FEED.flows.WATER=1:2:2"});
     EXPECT_EQ(seen.status, cli::exit_case_error);
     EXPECT_NE(seen.errors.find("bad-input.toml:"), std::string::npos) << seen.errors;
     EXPECT_FALSE(std::filesystem::exists(options.out));
@@ -122,24 +112,22 @@ TEST_F(SweepFiles, NeedsAnUnchangedCaseWithoutErrors)
 // A row, kept or new, is of the form that the sweep asks for.
 TEST_F(SweepFiles, ProtectsErrorsThatSpreadsheetsWouldCompute)
 {
-    const std::filesystem::path file{"=case.toml"};
-    std::ofstream{file} << swept;
-    options.file = file;
-    options.sets = {"components.P.molecular_weight=-1:-1:1"};
+    options.file = "=case.toml";
+    std::ofstream{options.file} << swept;
     for (const auto& [texts, start] :
          {std::pair{app::CsvTexts::exact, "=case.toml:"}, {app::CsvTexts::guarded, "'=case.toml:"}}) {
         options.csv_texts = texts;
-        EXPECT_EQ(sweep().status, cli::exit_case_error);
-        const auto all = rows();
-        EXPECT_EQ(all.at(0).at("error").find(start), 0u) << all.at(0).at("error");
-        EXPECT_EQ(all.at(0).at("components.P.molecular_weight"), "-1");
+        EXPECT_EQ(sweep({"components.P.molecular_weight=-1:-1:1"}).status, cli::exit_case_error);
+        EXPECT_TRUE(column("error")[0].starts_with(start)) << column("error")[0];
+        EXPECT_EQ(column("components.P.molecular_weight"), Lines{"-1"});
     }
-    std::filesystem::remove(file);
+    std::filesystem::remove(options.file);
 }
 
 TEST_F(SweepFiles, GoesOnFromSoundRowsOnly)
 {
-    options.sets = {"streams.S.attributes.P.ZMOM=1:4:4"};
+    const Lines sets{zmom + "=1:4:4"};
+    options.sets = sets;
     // The last step fails, as if the disk were full: all rows are kept.
     std::filesystem::create_directories(options.out);
     EXPECT_THROW(app::sweep(options, [](std::size_t, std::size_t) {}), std::runtime_error);
@@ -148,7 +136,7 @@ TEST_F(SweepFiles, GoesOnFromSoundRowsOnly)
     std::istringstream journal{app::file_contents(partial)};
     for (std::string line; std::getline(journal, line);) lines.push_back(line + "\n");
     ASSERT_EQ(lines.size(), 5u);
-    EXPECT_EQ(sweep().status, 0);
+    EXPECT_EQ(sweep(sets).status, 0);
     const auto table = app::file_contents(options.out);
 
     std::string all, flipped = lines[2], head = lines[0];
@@ -173,7 +161,7 @@ TEST_F(SweepFiles, GoesOnFromSoundRowsOnly)
         SCOPED_TRACE(name);
         std::filesystem::remove(options.out);
         std::ofstream{partial} << text;
-        const auto seen = sweep();
+        const auto seen = sweep(sets);
         EXPECT_EQ(seen.status, 0) << seen.errors;
         EXPECT_EQ(app::file_contents(options.out), table);
         EXPECT_FALSE(std::filesystem::exists(partial));
@@ -186,32 +174,25 @@ TEST_F(SweepFiles, KeepsTheRowsOfItsGridForOneProcess)
     {
         const app::SweepJournal journal{options.out, "sweep", 3};
         EXPECT_EQ(journal.rows(), (std::map<std::size_t, std::string>{{3, "3,kept"}}));
-        const auto other = ::fork();
-        if (other == 0) {
-            try {
-                const app::SweepJournal second{options.out, "sweep", 3};
-            } catch (const std::runtime_error&) {
+        EXPECT_EXIT(
+            try { app::SweepJournal(options.out, "sweep", 3); } catch (const std::runtime_error&) {
                 ::_exit(7);
-            }
-            ::_exit(0);
-        }
-        int status = 0;
-        ::waitpid(other, &status, 0);
-        EXPECT_EQ(WEXITSTATUS(status), 7) << "two sweeps at once";
+            },
+            testing::ExitedWithCode(7), "")
+            << "two sweeps at once";
     }
     EXPECT_TRUE(app::SweepJournal(options.out, "sweep", 2).rows().empty()) << "a case outside the grid";
 }
 
 TEST_F(SweepFiles, AnInterruptionEndsItWithTheRowsThatItHas)
 {
-    options.sets = {"streams.S.attributes.P.ZMOM=1:2:100000"};
     const auto user = ::fork();
     if (user == 0) {  // waits for a row behind the head
         while (std::ranges::count(support::content(partial), '\n') < 2) ::usleep(1000);
         ::kill(::getppid(), SIGINT);
         ::_exit(0);
     }
-    const auto seen = sweep();
+    const auto seen = sweep({zmom + "=1:2:100000"});
     ::waitpid(user, nullptr, 0);
     EXPECT_EQ(seen.status, cli::exit_interrupted);
     const auto kept = std::ranges::count(support::content(partial), '\n') - 1;
@@ -227,8 +208,8 @@ TEST_F(SweepFiles, RefusesTheRowsOfAnotherSweepAndKeysThatLeadNowhere)
         app::SweepJournal{options.out, "something else", 1}.add(1, "1,2");
     }
     const auto other = app::file_contents(partial);
-    options.sets = {"streams.S.attributes.P.ZMOM=1:4:4"};
-    EXPECT_NE(sweep().errors.find("s.csv.partial: belongs to another sweep"), std::string::npos);
+    EXPECT_NE(sweep({zmom + "=1:4:4"}).errors.find("s.csv.partial: belongs to another sweep"),
+              std::string::npos);
     EXPECT_EQ(app::file_contents(partial), other);
     const std::pair<std::string, std::string> rows[] = {
         {"streams.S.flows.Q", "; did you mean \"streams.S.flows.P\"?"},
@@ -236,8 +217,7 @@ TEST_F(SweepFiles, RefusesTheRowsOfAnotherSweepAndKeysThatLeadNowhere)
         {"title", ""},
     };
     for (const auto& [key, suggestion] : rows) {
-        options.sets = {key + "=1:4:4"};
-        const auto seen = sweep();
+        const auto seen = sweep({key + "=1:4:4"});
         EXPECT_EQ(seen.status, cli::exit_usage);
         EXPECT_EQ(seen.errors,
                   "polyprops: the key \"" + key + "\" leads to no number of the case" + suggestion + "\n");

@@ -1,19 +1,11 @@
-#include <gtest/gtest.h>
-#include <polyprops/polyprops.h>
-
 #include <algorithm>
 #include <cfloat>
-#include <cmath>
-#include <limits>
 
-#include "support/arguments.h"
-#include "support/world.h"
+#include "support/routine_calls.h"
 
 namespace {
 
 using namespace support;
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 Values grid(Int n, double longest_chain)
 {

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <sstream>
 
-#include "fuzz/text_cases.h"
+#include "fuzz/cases.h"
 #include "support/files.h"
 
 namespace {

@@ -1,8 +1,6 @@
 #include "support/kept_seeds.h"
 
-#include "fuzz/paragraph_cases.h"
-#include "fuzz/routine_cases.h"
-#include "fuzz/text_cases.h"
+#include "fuzz/cases.h"
 
 TEST(KeptSeeds, RunThroughTheirTargets)
 {

@@ -1,6 +1,3 @@
-#include <gtest/gtest.h>
-#include <polyprops/host.h>
-
 #include "input/checked_paragraph.h"
 
 using namespace support;

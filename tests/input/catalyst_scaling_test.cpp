@@ -1,9 +1,3 @@
-#include <gtest/gtest.h>
-#include <polyprops/host.h>
-
-#include <cmath>
-#include <limits>
-
 #include "input/checked_paragraph.h"
 
 using namespace support;
@@ -12,7 +6,6 @@ using namespace minihost;
 namespace {
 
 constexpr double bound = 1e35;
-constexpr double not_a_number = std::numeric_limits<double>::quiet_NaN();
 
 // K carries CPSFLOW with two site types, P a single ZMOM and two SZMOM; W carries nothing.
 struct ScalingWorld : CheckedParagraph {
@@ -33,7 +26,7 @@ struct ScalingWorld : CheckedParagraph {
         host.store().verify();
         return status;
     }
-    Reals column(const char* id, const char* attribute, Int column)
+    Values column(const char* id, const char* attribute, Int column)
     {
         return host.attribute_blocks().values(host.components().index(id), attribute, column);
     }
@@ -47,7 +40,7 @@ TEST(CatalystScaling, WritesTheSecondValueIntoColumnOneAndTheFirstIntoColumnThre
         const char* name;
         double first;
         double second;
-        Reals columns;
+        Values columns;
     };
     const double below = std::nextafter(bound, 0);
     const Case cases[] = {
@@ -68,10 +61,10 @@ TEST(CatalystScaling, WritesTheSecondValueIntoColumnOneAndTheFirstIntoColumnThre
         EXPECT_TRUE(world.host.messages().printed().empty());
         for (Int column = 1; column <= 3; ++column) {
             const double expected = columns[static_cast<std::size_t>(column - 1)];
-            EXPECT_EQ(world.column("K", "CPSFLOW", column), Reals(2, expected));
-            EXPECT_EQ(world.column("P", "ZMOM", column), Reals(1, expected));
-            EXPECT_EQ(world.column("P", "SZMOM", column), Reals(2, expected));
-            EXPECT_EQ(world.column("K", "CVSFLOW", column), Reals(2, 0.0));
+            EXPECT_EQ(world.column("K", "CPSFLOW", column), Values(2, expected));
+            EXPECT_EQ(world.column("P", "ZMOM", column), Values(1, expected));
+            EXPECT_EQ(world.column("P", "SZMOM", column), Values(2, expected));
+            EXPECT_EQ(world.column("K", "CVSFLOW", column), Values(2, 0.0));
         }
     }
 }
@@ -84,7 +77,7 @@ TEST(CatalystScaling, ReportsAnAttributeThatIsNotUsedAndAppliesTheRest)
         {"K", "DPN", 1, 1}, {"W", "CPSFLOW", 1, 1}, {"K", "CPSFLOW", 1, 2}, {"K", "CPSFLOW", 6, 7}};
     EXPECT_EQ(world.scale(entries, 5), 77) << "not its own operation";
     EXPECT_TRUE(log.printed().empty());
-    EXPECT_EQ(world.column("K", "CPSFLOW", 1), (Reals{0, 0}));
+    EXPECT_EQ(world.column("K", "CPSFLOW", 1), (Values{0, 0}));
 
     EXPECT_EQ(world.scale(entries), 1);
     ASSERT_EQ(log.printed().size(), 2u);
@@ -96,7 +89,7 @@ TEST(CatalystScaling, ReportsAnAttributeThatIsNotUsedAndAppliesTheRest)
               Lines{"      Component \"K       \" does not use attribute \"DPN     \".  Sentence ignored."});
     EXPECT_EQ(log.printed()[1].lines,
               Lines{"      Component \"W       \" does not use attribute \"CPSFLOW \".  Sentence ignored."});
-    EXPECT_EQ(world.column("K", "CPSFLOW", 1), (Reals{7, 7})) << "the later entry holds";
+    EXPECT_EQ(world.column("K", "CPSFLOW", 1), (Values{7, 7})) << "the later entry holds";
 
     for (const Int answer : {0, 2}) {
         log.clear();
@@ -133,9 +126,9 @@ TEST(CatalystScaling, TakesNothingFromBlocksThatDescribeNothing)
         store.set_integer(1, word, store.integer(block, word));
     store.set_integer(directory, k + 1, 1);
     EXPECT_EQ(world.scale(entry), -1);
-    EXPECT_EQ(world.column("K", "CVSFLOW", 1), (Reals{5, 5}));
+    EXPECT_EQ(world.column("K", "CVSFLOW", 1), (Values{5, 5}));
 
     store.set_integer(1, 4 + 3, 0);
     EXPECT_EQ(world.scale({{"K", "CVSFLOW", 7, 7}}), -1) << "an attribute without elements";
-    EXPECT_EQ(world.column("K", "CVSFLOW", 1), (Reals{5, 5}));
+    EXPECT_EQ(world.column("K", "CVSFLOW", 1), (Values{5, 5}));
 }

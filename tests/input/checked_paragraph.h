@@ -3,18 +3,10 @@
 #pragma once
 
 #include <polyprops/polymer_block.h>
-#include <polyprops/polyprops.h>
 
-#include <string>
-#include <vector>
-
-#include "minihost/embedded_host.h"
+#include "support/routine_calls.h"
 
 namespace support {
-
-using minihost::Int;
-using Ints = std::vector<Int>;
-using Reals = std::vector<double>;
 
 // Components W, segments A B C D E, polymers P Q, oligomers O R, catalyst K, initiator I, with the indices 1
 // to 12 in this order.
@@ -26,6 +18,10 @@ struct CheckedParagraph {
     Int check(const std::vector<minihost::Sentence>& sentences, Int op = 2)
     {
         host.paragraph().set(sentences);
+        return check_again(op);
+    }
+    Int check_again(Int op = 2)
+    {
         host.messages().clear();
         host.property_sentences().clear();
         Int status = 0;
@@ -47,9 +43,9 @@ struct CheckedParagraph {
         for (Int k = 0; k < count; ++k) words.push_back(host.store().integer(id, first + k));
         return words;
     }
-    Reals reals(minihost::BlockId id, Int count)
+    Values reals(minihost::BlockId id, Int count)
     {
-        Reals words;
+        Values words;
         for (Int k = 1; k <= count; ++k) words.push_back(host.store().real(id, k));
         return words;
     }
@@ -60,6 +56,13 @@ struct CheckedParagraph {
         for (const Int index : integers(block(word), 2, host.store().integer(block(word), 1)))
             text += (text.empty() ? "" : " ") + (index == 0 ? "-" : host.components().at(index).id);
         return text;
+    }
+    // Of the words of segments, polymers, oligomers, catalysts, segments by type and initiators.
+    std::vector<std::string> lists()
+    {
+        std::vector<std::string> all;
+        for (const Int word : {2, 3, 6, 7, 9, 11, 12, 13, 17}) all.push_back(list(word));
+        return all;
     }
     // "P:ZMOM,SFLOW" for each forwarded sentence.
     std::string forwarded()

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "input/checked_paragraph.h"
 
 using namespace support;

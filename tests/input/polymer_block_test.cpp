@@ -1,15 +1,11 @@
-#include <gtest/gtest.h>
-#include <polyprops/host.h>
-
-#include <limits>
-
 #include "input/checked_paragraph.h"
-#include "minihost/service_log.h"
 
 using namespace support;
 using namespace minihost;
 
 namespace {
+
+using Texts = std::vector<std::string>;
 
 const PolymerSentence polymer{{"P"}};
 const SegmentSentence segments{{{"A", 2}}};
@@ -22,28 +18,20 @@ TEST(PolymerParagraph, ListsSegmentsAndOligomersByIndexAndTheRestByOrderOfInput)
     const SegmentSentence unsorted{
         {{"E", 1}, {"B", 4}, {"A", 1}, {"D", 3}, {"X", 1}, {"C", 9}, {"B", 2}, {"W", 2}}};
     // A blank ID repeats the last one written, also when that was in error; of two counts the later holds.
-    const OligomerSentence oligomers{{{"R", "C", 5},
-                                      {"O", "A", 2},
-                                      {"", "B", 1},
-                                      {"", "A", 3},
-                                      {"X", "A", 7},
-                                      {"", "B", 8},
-                                      {"P", "X", 4}}};
+    const std::vector<OligomerSentence::Entry> oligomers{
+        {"R", "C", 5}, {"O", "A", 2}, {"", "B", 1}, {"", "A", 3}, {"X", "A", 7}, {"", "B", 8}, {"P", "X", 4}};
     CheckedParagraph world;
     // Of two sentences of a kind the last holds; no kind has the number 9.
     world.check({SegmentSentence{{{"I", 1}}}, PolymerSentence{{"P", "X"}}, attributes,
-                 SentenceWords{9, {1, 2, 3}}, unsorted, PolymerSentence{{"Q", "X", "P", "Q"}}, oligomers,
-                 CatalystSentence{{{"W", 1.5}, {"X", 2.5}, {"K", 3.5}}}, InitiatorSentence{{"X", "I"}}});
+                 SentenceWords{9, {1, 2, 3}}, unsorted, PolymerSentence{{"Q", "X", "P", "Q"}},
+                 OligomerSentence{oligomers}, CatalystSentence{{{"W", 1.5}, {"X", 2.5}, {"K", 3.5}}},
+                 InitiatorSentence{{"X", "I"}}});
     EXPECT_EQ(world.message_numbers(), (Ints{4, 5, 6, 11, 7, 7, 8, 10, 10, 31, 31}));
-    // Other tests take the words from the header; this one and the next state them.
-    const std::pair<Int, const char*> lists[] = {{2, "W A B C D E"}, {3, "Q P"}, {6, "P O R"},
-                                                 {7, "W - K"},       {9, "E A"}, {11, "D"},
-                                                 {12, "B"},          {13, "W"},  {17, "- I"}};
-    for (const auto& [word, ids] : lists) EXPECT_EQ(world.list(word), ids) << "word " << word;
+    EXPECT_EQ(world.lists(), (Texts{"W A B C D E", "Q P", "P O R", "W - K", "E A", "D", "B", "W", "- I"}));
     EXPECT_EQ(world.integers(world.block(POLYPROPS_SEGMENT_LIST), 8, 6), (Ints{2, 1, 4, 9, 3, 1}));
     EXPECT_EQ(world.reals(world.block(POLYPROPS_OLIGOMER_LIST), 18),
-              (Reals{0, 0, 0, 0, 0, 0, 0, 3, 1, 0, 0, 0, 0, 0, 0, 5, 0, 0}));
-    EXPECT_EQ(world.reals(world.block(POLYPROPS_CATALYST_LIST), 3), (Reals{1.5, 0, 3.5}));
+              (Values{0, 0, 0, 0, 0, 0, 0, 3, 1, 0, 0, 0, 0, 0, 0, 5, 0, 0}));
+    EXPECT_EQ(world.reals(world.block(POLYPROPS_CATALYST_LIST), 3), (Values{1.5, 0, 3.5}));
 }
 
 TEST(PolymerParagraph, CountsEntriesForItsParametersAndAttributeGroups)
@@ -62,7 +50,7 @@ TEST(PolymerParagraph, CountsEntriesForItsParametersAndAttributeGroups)
     EXPECT_EQ(world.integers(world.block(16), 1, 5), (Ints{4, 0, 0, 0, 0}));
     const BlockId parameters = world.block(8);
     EXPECT_EQ(world.integers(parameters, 1, 13), (Ints{3, 2, 6, 2, 1, 1, 1, 2, 1, 0, 21, 22, 23}));
-    EXPECT_EQ(world.reals(parameters, 1), (Reals{0.25}));
+    EXPECT_EQ(world.reals(parameters, 1), (Values{0.25}));
     const BlockId layout = world.block(14);
     // Six words, one more than segments, for each of five groups; four, one more than site types, for six.
     EXPECT_EQ(world.integers(layout, 2, 22),
@@ -74,7 +62,7 @@ TEST(PolymerParagraph, CountsEntriesForItsParametersAndAttributeGroups)
     EXPECT_EQ(world.block(POLYPROPS_PARAMETERS), parameters);
     EXPECT_EQ(world.integers(parameters, 1, 13), (Ints{0, 1, 1, 2, 1, 1, 1, 2, 1, 0, 21, 22, 23}))
         << "what would be zero now stays as it was, but for the site types";
-    EXPECT_EQ(world.reals(parameters, 1), (Reals{0}));
+    EXPECT_EQ(world.reals(parameters, 1), (Values{0}));
     EXPECT_FALSE(world.host.store().exists(layout)) << "a replaced table is freed";
     EXPECT_EQ(world.integers(world.block(POLYPROPS_ATTRIBUTE_LAYOUT), 2, 22),
               (Ints{1, 3, 5, 7, 9, 11, 12, 13, 14, 15, 16, 2, 2, 2, 2, 2, 1, 1, 1, 1, 1, 1}));
@@ -94,9 +82,9 @@ TEST(PolymerParagraph, FilesDistributionRequestsByType)
     EXPECT_EQ((Ints{directory[0], directory[1], directory[3]}), (Ints{4, 0, 0}));
     constexpr Int p = 7, q = 8;
     EXPECT_EQ(world.integers(directory[2], 1, 6), (Ints{1, q, 2, 4, 5, 6}));
-    EXPECT_EQ(world.reals(directory[2], 1), (Reals{1.5}));
+    EXPECT_EQ(world.reals(directory[2], 1), (Values{1.5}));
     EXPECT_EQ(world.integers(directory[4], 1, 11), (Ints{2, p, q, 4, 4, 1, 7, 2, 8, 3, 9}));
-    EXPECT_EQ(world.reals(directory[4], 2), (Reals{0.5, 2.5}));
+    EXPECT_EQ(world.reals(directory[4], 2), (Values{0.5, 2.5}));
 
     world.check({polymer, segments, attributes});
     EXPECT_EQ(world.integers(world.block(POLYPROPS_DISTRIBUTION_DIRECTORY), 1, 5), (Ints{4, 0, 0, 0, 0}));
@@ -119,7 +107,7 @@ TEST(PolymerParagraph, ReadsNothingBeyondAFaultySentence)
     EXPECT_EQ(world.message_numbers(), (Ints{31}));
     EXPECT_EQ(world.list(POLYPROPS_POLYMER_LIST), "P");
     EXPECT_EQ(world.list(POLYPROPS_INITIATOR_LIST), "");
-    EXPECT_EQ(world.reals(world.block(POLYPROPS_CATALYST_LIST), 1), (Reals{0}));
+    EXPECT_EQ(world.reals(world.block(POLYPROPS_CATALYST_LIST), 1), (Values{0}));
     EXPECT_EQ(world.integers(world.block(POLYPROPS_ATTRIBUTE_LAYOUT), 12, 1), (Ints{5 * 2 + 5 + 1}));
     const BlockId requests = world.integers(world.block(POLYPROPS_DISTRIBUTION_DIRECTORY), 2, 1)[0];
     EXPECT_EQ(world.integers(requests, 1, 16), (Ints{3, 7, 7, 7, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1}));
@@ -133,21 +121,19 @@ TEST(PolymerParagraph, ReadsListsFromTheFirstToTheLastWordOfASentence)
         Ints messages;
         Ints requests;  // by type
     } cases[] = {
-        {{1, {1, 0, 1}}, {4}, {0, 0, 0, 0}},
-        {{1, {0, 0, 1, p[0], p[1]}}, {2}, {0, 0, 0, 0}},
-        {{1, {-2, 0, 1, p[0], p[1]}}, {2}, {0, 0, 0, 0}},
+        {{1, {1, 0, 1}}, {4}, {}},
+        {{1, {0, 0, 1, p[0], p[1]}}, {2}, {}},
+        {{1, {-2, 0, 1, p[0], p[1]}}, {2}, {}},
         {{7, {7, 15, 13, 13, 13, 1, p[0], p[1], 0, 0, 0, 0, 0, 0, 2}}, {}, {0, 1, 0, 0}},
         {{7, {7, 16, 13, 13, 13, 1, p[0], p[1], 0, 0, 0, 0, 0, 0, 2}}, {}, {0, 0, 0, 0}},
     };
     for (const auto& [sentence, messages, requests] : cases) {
         CheckedParagraph world;
         world.host.messages().suppress(30);
-        if (sentence.kind == 1)
-            world.check({sentence, segments});
-        else
-            world.check({sentence, polymer, segments, attributes});
+        world.check(requests.empty() ? std::vector<Sentence>{sentence, segments}
+                                     : std::vector<Sentence>{sentence, polymer, segments, attributes});
         EXPECT_EQ(world.message_numbers(), messages);
-        if (sentence.kind == 1) continue;
+        if (requests.empty()) continue;
         Ints found;
         for (const BlockId id : world.integers(world.block(POLYPROPS_DISTRIBUTION_DIRECTORY), 2, 4))
             found.push_back(id == 0 ? 0 : world.host.store().integer(id, 1));
@@ -169,10 +155,7 @@ TEST(PolymerParagraph, WithLessThanNoSentencesIsNoneWithoutSentences)
     CheckedParagraph world;
     world.host.paragraph().set({});
     world.host.store().set_integer(ST_TABLES[1], 3, -1);
-    const Int check = 2;
-    Int status = 0;
-    POLY_POLSEM(nullptr, &check, world.host.semantics_context(), world.host.paragraph().handle(), nullptr,
-                &status);
+    world.check_again();
     EXPECT_EQ(world.message_numbers(), Ints{});
     EXPECT_GT(world.host.polymer_block(), 0);
 }
@@ -182,10 +165,7 @@ TEST(PolymerParagraph, AcceptsOneThatNamesNeitherChainsNorSegments)
     CheckedParagraph world;
     EXPECT_EQ(world.check({InitiatorSentence{{"I"}}}), 0);
     EXPECT_TRUE(world.host.messages().printed().empty());
-    for (const Int list : {POLYPROPS_SEGMENT_LIST, POLYPROPS_POLYMER_LIST, POLYPROPS_OLIGOMER_LIST,
-                           POLYPROPS_CATALYST_LIST, POLYPROPS_END_SEGMENT_LIST, POLYPROPS_REPEAT_SEGMENT_LIST,
-                           POLYPROPS_BRANCH3_SEGMENT_LIST, POLYPROPS_BRANCH4_SEGMENT_LIST})
-        EXPECT_EQ(world.list(list), "") << "word " << list;
+    EXPECT_EQ(world.lists(), (Texts{"", "", "", "", "", "", "", "", "I"}));
     EXPECT_EQ(world.host.paragraph().times_ended(), 1);
     world.host.paragraph().handle()[0] = 0;
     world.check({InitiatorSentence{{"I"}}});

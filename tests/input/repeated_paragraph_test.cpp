@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <iterator>
 #include <sstream>
 
@@ -28,7 +26,7 @@ TEST(RepeatedParagraph, GrowsAndShrinksItsBlocks)
         const char* catalysts;
         std::vector<OligomerSentence::Entry> oligomers;
         const char* listed_oligomers;
-        Reals counts;
+        Values counts;
         bool oligomers_stay;  // in their block, which has room
         bool catalysts_stay;
     };

@@ -1,18 +1,9 @@
-#include <gtest/gtest.h>
-#include <polyprops/polyprops.h>
-
-#include <cmath>
-#include <limits>
-
-#include "support/arguments.h"
+#include "support/routine_calls.h"
 
 namespace {
 
 using namespace support;
 using Int = std::int64_t;
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double not_a_number = std::numeric_limits<double>::quiet_NaN();
 
 // Value and derivative of one pair.
 Values single_pair(double t, Values p, double tr, Int mode)

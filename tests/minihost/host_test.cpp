@@ -1,11 +1,8 @@
 #include "minihost/embedded_host.h"
 
-#include <gtest/gtest.h>
 #include <polyprops/host.h>
 #include <polyprops/polymer_block.h>
 #include <polyprops/polyprops.h>
-
-#include <functional>
 
 #include "minihost/service_log.h"
 #include "support/refusal.h"
@@ -14,6 +11,7 @@
 namespace minihost {
 namespace {
 
+using support::expect_refusals;
 using support::refusal;
 using support::SegmentType;
 using support::World;
@@ -31,12 +29,9 @@ double stored(Position position)
 
 TEST(Host, BothAttributeAddressesReachTheSameValue)
 {
-    auto world =
-        World{}
-            .segments({"A", "B", "C"})
-            .polymer("P", {{"SFLOW", {30, 10, 20}}})
-            .stream("S", {{.attributes = {{"P", {{"SFLOW", {5, 6, 7}}}}}},
-                          {.type = 3, .flows = {{"P", 8}}, .attributes = {{"P", {{"SFLOW", {8, 9, 10}}}}}}});
+    auto world = World{}.segments({"A", "B", "C"}).polymer("P", {{"SFLOW", {30, 10, 20}}});
+    world.stream("S", {{.attributes = {{"P", {{"SFLOW", {5, 6, 7}}}}}},
+                       {.type = 3, .flows = {{"P", 8}}, .attributes = {{"P", {{"SFLOW", {8, 9, 10}}}}}}});
     const Int p = world.index("P");
     const auto second_share = [p] {
         return stored(ST_GLOBAL[17 - 1] + ST_NCOMP[6 - 1] + ST_NCOMP[8 - 1] + offset(p, "SFLOW") + 1);
@@ -51,15 +46,13 @@ TEST(Host, BothAttributeAddressesReachTheSameValue)
     EXPECT_EQ(second_share(), 9);
     for (const Int term : {ST_GLOBAL[17 - 1], ST_NCOMP[6 - 1], ST_NCOMP[8 - 1]})
         EXPECT_NE(term, 0) << "a term that is forgotten must be missed";
+    EXPECT_EQ(ST_POFF1[684 - 1], 0) << "a parameter vector of which no component has a value";
 }
 
 TEST(Host, AttributesThatAStreamDoesNotGiveAreNoneOrMissingAndHiddenOnesHaveNoOffset)
 {
-    auto world = World{}
-                     .segments({"A"})
-                     .polymer("P", {{"DPN", 5}, {"ZMOM", 1}, {"PDI", 2}})
-                     .hidden_attribute("P", "PDI")
-                     .stream("BARE", {{.flows = {}, .attributes = {}}});
+    auto world = World{}.segments({"A"}).polymer("P", {{"DPN", 5}, {"ZMOM", 1}, {"PDI", 2}});
+    world.hidden_attribute("P", "PDI").stream("BARE", {{.flows = {}, .attributes = {}}});
     const auto& view = world.view("BARE");
     const Int p = world.index("P");
     EXPECT_EQ(view.values[view.first_flow[0] + offset(p, "DPN") - 1], support::missing);
@@ -84,37 +77,25 @@ TEST(Host, WithoutStreamsHasOffsetsOfAttributes)
     EXPECT_EQ(host.attribute_offset(1, "ZMOM") - host.attribute_offset(1, "DPN"), 1);
 }
 
-TEST(Host, ParameterVectorsExistWhenAComponentGivesThem)
-{
-    auto world = World{}.conventional("A", 18).parameter("A", Parameter::dpn, 7);
-    world.host();
-    EXPECT_EQ(stored(ST_POFF1[540 - 1] + world.index("A")), 7);
-    EXPECT_EQ(ST_POFF1[684 - 1], 0) << "given by none";
-}
-
 TEST(Host, RefusesWhatIsWrongWithStreamsAndAttributes)
 {
     auto world = World{}.segments({"A", "B"}).polymer("P", {{"SFLOW", {1, 2}}});
     auto& host = world.host();
     const Int p = world.index("P");
-    const auto stream = [](std::map<std::string, double> flows, const char* attribute,
-                           std::vector<double> values) {
-        return Stream{"S",
-                      {{.flows = std::move(flows), .attributes = {{"P", {{attribute, std::move(values)}}}}}}};
+    const auto add = [&](const char* name, const char* flowing, const char* attribute,
+                         std::vector<double> values) {
+        host.add_stream({name, {{.flows = {{flowing, 1}}, .attributes = {{"P", {{attribute, values}}}}}}});
     };
-    const struct {
-        std::function<void()> action;
-        const char* text;
-    } cases[] = {
+    expect_refusals({
         {[&] {
-             host.add_stream(stream({{"X", 1}}, "SFLOW", {1, 2}));
+             add("S", "X", "SFLOW", {1, 2});
          },
          "unknown component \"X\""},
-        {[&] { host.add_stream(stream({}, "SFLOW", {1})); }, "stream S: SFLOW of P has 1 values; expected 2"},
-        {[&] { host.add_stream(stream({}, "ZMOM", {1})); },
+        {[&] { add("S", "P", "SFLOW", {1}); }, "stream S: SFLOW of P has 1 values; expected 2"},
+        {[&] { add("S", "P", "ZMOM", {1}); },
          "stream S: ZMOM of P is given, but the component does not carry it"},
         {[&] {
-             host.add_stream({"CURRENT", {}});
+             add("CURRENT", "P", "SFLOW", {1, 2});
          },
          "stream CURRENT is defined twice"},
         {[&] { host.select_stream("CURRENT", 2); }, "stream CURRENT has no substream 2"},
@@ -132,8 +113,7 @@ TEST(Host, RefusesWhatIsWrongWithStreamsAndAttributes)
          "the attributes of a component cannot change: streams already hold attribute values"},
         {[&] { host.components().at(9); }, "component index 9 is not in 1..4"},
         {[&] { Host second({}); }, "a host is already active; there is one at a time"},
-    };
-    for (const auto& c : cases) EXPECT_EQ(refusal(c.action), c.text);
+    });
 }
 
 TEST(Host, RefusesComponentsInError)
@@ -159,7 +139,7 @@ TEST(Host, ServicesRefuseWhatNoLibraryMayAsk)
     auto world = World{}.segments({"A"}).polymer("P", {{"ZMOM", 1}});
     auto& host = world.host();
     host.paragraph().set({});
-    const Int zero = 0, one = 1, two = 2, seven = 7, eleven = 11, code = 3030, far = 9999;
+    const Int zero = 0, one = 1, two = 2, seven = 7, code = 3030, far = 9999;
     const NamePair name = name_pair("POLSEM");
     const Int unknown[] = {text_word("NONE"), text_word(""), text_word("")};
     const Int level = ST_GLOBAL[8 - 1];
@@ -172,22 +152,15 @@ TEST(Host, ServicesRefuseWhatNoLibraryMayAsk)
         UT_GET_SENTENCE(&number, &kind, &one, &zero, &zero, &zero, &zero, &out, &out, &out, &out, &out, &out,
                         &out);
     };
-    const struct {
-        std::function<void()> action;
-        const char* text;
-    } cases[] = {
+    const auto print = [&](const Int& lines) {
+        check_level(1, 0);
+        ST_PRINT_ERROR(&lines);
+    };
+    expect_refusals({
         {[&] { check_level(2, 1); }, "ST_ERROR_CHECK: argument 6 is 1; expected 0"},
         {[&] { check_level(3, 0); }, "message 1 of POLSEM has severity 3; expected 1 or 2"},
-        {[&] {
-             check_level(1, 0);
-             ST_PRINT_ERROR(&zero);
-         },
-         "a message of 0 lines was printed; expected 1 to 10"},
-        {[&] {
-             check_level(1, 0);
-             ST_PRINT_ERROR(&eleven);
-         },
-         "a message of 11 lines was printed; expected 1 to 10"},
+        {[&] { print(0); }, "a message of 0 lines was printed; expected 1 to 10"},
+        {[&] { print(11); }, "a message of 11 lines was printed; expected 1 to 10"},
         {[&] { PS_FIND_COMPONENT(name.data(), &name[1], &one, &out, &out); },
          "PS_FIND_COMPONENT: argument 3 is not UT_COMPONENT_IDS"},
         {[&] { PS_PROCESS_SENTENCE(&code, &two, &one, &one, &one, &out); },
@@ -201,8 +174,7 @@ TEST(Host, ServicesRefuseWhatNoLibraryMayAsk)
         {[&] { sentence(1); }, "sentence 1 was asked for; the paragraph has 0"},
         {[&] { RP_RESERVE_LINES(&one, &zero, &two, &ST_RPTGLOBAL[2 - 1]); },
          "RP_RESERVE_LINES: argument 3 is 2; expected 3"},
-    };
-    for (const auto& c : cases) EXPECT_EQ(refusal(c.action), c.text);
+    });
 }
 
 TEST(Host, WithoutAPolymerBlockOrItsListsHasNoDimensions)
@@ -213,9 +185,8 @@ TEST(Host, WithoutAPolymerBlockOrItsListsHasNoDimensions)
     EXPECT_EQ(host.dimensions(), AttributeDimensions{});
     host.set_polymer_block(0);
     EXPECT_EQ(host.dimensions(), AttributeDimensions{});
-    EXPECT_NE(host.dimensions(), (AttributeDimensions{.segments = 1}));
-    EXPECT_NE(host.dimensions(), (AttributeDimensions{.end_segments = 1}));
-    EXPECT_NE(host.dimensions(), (AttributeDimensions{.sites = 1}));
+    for (const auto& other : {AttributeDimensions{.segments = 1}, {.end_segments = 1}, {.sites = 1}})
+        EXPECT_NE(host.dimensions(), other);
 }
 
 TEST(ServiceLog, CountsAndFindsRepeatedQuestions)

@@ -1,24 +1,17 @@
-#include <gtest/gtest.h>
 #include <polyprops/host.h>
 
-#include <functional>
-
 #include "minihost/embedded_host.h"
-#include "support/files.h"
 #include "support/refusal.h"
 #include "support/world.h"
 
 namespace minihost {
 namespace {
 
-using support::content;
-using support::refusal;
 using support::World;
-namespace fs = std::filesystem;
 
-bool contains(const std::string& text, const std::string& part)
+bool is_refused(const std::function<void()>& action, const std::string& reason)
 {
-    return text.find(part) != std::string::npos;
+    return support::refusal(action).find(reason) != std::string::npos;
 }
 
 void write(Host& host, std::string_view line, std::int32_t unit = ST_FILES[27 - 1])
@@ -50,11 +43,11 @@ TEST(ReportFile, StartsAPageWhenLinesDoNotFitAndRefusesBadOnes)
     const std::string long_title(73, 'T');
     EXPECT_EQ(page_text(long_title, {{}}), long_title + "  Page 1\n\n") << "two blanks at least";
     EXPECT_EQ(RP_PAGE[1 - 1], 1);
-    EXPECT_TRUE(contains(refusal([&] { write(host, "text", 99); }), "unit 99"));
-    EXPECT_TRUE(contains(refusal([&] { write(host, "two\nlines"); }), "line end"));
-    EXPECT_TRUE(contains(refusal([&] { host.report().write_line(12, -1, ""); }), "length -1"));
-    EXPECT_TRUE(contains(refusal([&] { host.report().reserve(-1, false); }), "reserved report lines: -1"));
-    EXPECT_TRUE(contains(refusal([&] { host.report().set_lines_per_page(0); }), "lines per page: 0"));
+    EXPECT_TRUE(is_refused([&] { write(host, "text", 99); }, "unit 99"));
+    EXPECT_TRUE(is_refused([&] { write(host, "two\nlines"); }, "line end"));
+    EXPECT_TRUE(is_refused([&] { host.report().write_line(12, -1, ""); }, "length -1"));
+    EXPECT_TRUE(is_refused([&] { host.report().reserve(-1, false); }, "reserved report lines: -1"));
+    EXPECT_TRUE(is_refused([&] { host.report().set_lines_per_page(0); }, "lines per page: 0"));
 }
 
 TEST(SummaryFile, RefusesTokensThatBreakARule)
@@ -84,15 +77,13 @@ TEST(SummaryFile, RefusesTokensThatBreakARule)
     };
     for (const auto& c : cases) {
         World world;
-        const auto seen =
-            refusal([&] { world.host().summary().write_token(c.kind, c.length, c.data, c.real); });
-        EXPECT_TRUE(contains(seen, c.reason)) << c.reason << ": " << seen;
+        const auto write = [&] { world.host().summary().write_token(c.kind, c.length, c.data, c.real); };
+        EXPECT_TRUE(is_refused(write, c.reason)) << c.reason << ": " << support::refusal(write);
     }
     World world;
     auto& summary = world.host().summary();
-    EXPECT_TRUE(
-        contains(refusal([&] { summary.write_header(&summary, longer, 0); }), "YCSDS: unknown context"));
-    EXPECT_TRUE(contains(refusal([&] { summary.write_header(summary.context("C"), longer, 1); }), "not 0"));
+    EXPECT_TRUE(is_refused([&] { summary.write_header(&summary, longer, 0); }, "YCSDS: unknown context"));
+    EXPECT_TRUE(is_refused([&] { summary.write_header(summary.context("C"), longer, 1); }, "not 0"));
 }
 
 TEST(OutputFiles, GiveTheirText)

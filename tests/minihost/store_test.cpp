@@ -1,13 +1,10 @@
 #include "minihost/store.h"
 
-#include <gtest/gtest.h>
 #include <polyprops/host.h>
 
 #include <cstdlib>
-#include <functional>
 
 #include "minihost/embedded_host.h"
-#include "minihost/error.h"
 #include "support/refusal.h"
 
 namespace minihost {
@@ -53,10 +50,7 @@ TEST_P(StoreModes, RefusesWhatAHostMustRefuse)
     for (const BlockId none : {BlockId{0}, freed, BlockId{99}}) EXPECT_FALSE(store.exists(none));
     EXPECT_TRUE(store.exists(reals));
     EXPECT_EQ(store.kind(table), BlockKind::two_part);
-    const struct {
-        std::function<void()> action;
-        const char* text;
-    } cases[] = {
+    support::expect_refusals({
         {[&] { store.integers(0); }, "store block 0 does not exist"},
         {[&] { store.integers(99); }, "store block 99 does not exist"},
         {[&] { store.free(freed); }, "store block 2 was freed"},
@@ -73,8 +67,7 @@ TEST_P(StoreModes, RefusesWhatAHostMustRefuse)
         {[&] { store.allocate_reals(Store::capacity + 1); }, "the store is full: no room for 16000001 words"},
         {[&] { store.check_run(ST_WORDS + Store::capacity - 1, 2, "CC_INDEX"); },
          "CC_INDEX: store positions 16000000 to 16000001 are out of range"},
-    };
-    for (const auto& c : cases) EXPECT_EQ(refusal(c.action), c.text);
+    });
     EXPECT_EQ(store.allocate_integers(1), 5) << "a refused allocation gives no id away";
 }
 
@@ -82,11 +75,10 @@ TEST(Store, IsCheckedWhenTheEnvironmentSaysSo)
 {
     const char* const before = std::getenv("POLYPROPS_CHECKED_STORE");
     const std::string kept = before ? before : "";
-    const std::pair<const char*, Store::Mode> settings[] = {
-        {"", Store::Mode::plain}, {"0", Store::Mode::plain}, {"1", Store::Mode::checked}};
-    for (const auto& [setting, mode] : settings) {
-        setenv("POLYPROPS_CHECKED_STORE", setting, 1);
-        EXPECT_EQ(Store::default_mode(), mode) << setting;
+    for (const std::string setting : {"", "0", "1"}) {
+        setenv("POLYPROPS_CHECKED_STORE", setting.c_str(), 1);
+        EXPECT_EQ(Store::default_mode(), setting == "1" ? Store::Mode::checked : Store::Mode::plain)
+            << setting;
     }
     unsetenv("POLYPROPS_CHECKED_STORE");
     EXPECT_EQ(Store::default_mode(), Store::Mode::plain);
@@ -112,8 +104,7 @@ TEST(Store, CheckedModeMovesEveryBlockButThePinnedOnes)
     const BlockId movable = store.allocate_two_part(2, 2);
     const BlockId pinned = store.allocate_reals(2, Placement::pinned);
     const Position stays = store.reals(pinned);
-    std::set<Position> keys;
-    std::set<Position> values;
+    std::set<Position> keys, values;
     for (int round = 0; round < 10; ++round) {
         store.allocate_integers(1);
         EXPECT_TRUE(keys.insert(store.keys(movable)).second) << "an earlier position is good again";
@@ -166,11 +157,9 @@ TEST(Store, CheckedModeNamesTheBlockWhoseFenceIsDamaged)
 TEST(Store, CheckedModePoisonsNewFreedAndVacatedWords)
 {
     Store store(Store::Mode::checked);
-    const BlockId kept = store.allocate_integers(1);
-    const BlockId freed = store.allocate_integers(1);
+    const BlockId kept = store.allocate_integers(1), freed = store.allocate_integers(1);
     EXPECT_EQ(store.integer(freed, 1), Store::poison);
-    store.set_integer(kept, 1, 1);
-    store.set_integer(freed, 1, 2);
+    for (const BlockId id : {kept, freed}) store.set_integer(id, 1, 1);
     const Position freed_at = store.integers(freed);
     store.free(freed);
     EXPECT_EQ(ST_WORDS[freed_at - 1], Store::poison);

@@ -1,10 +1,6 @@
 // Averages over rows of a segment-count matrix: properties, chain weights and polydispersity.
-#include <cmath>
 
-#include "polyprops/polyprops.h"
-#include "support/arguments.h"
-#include "support/asked_once.h"
-#include "support/world.h"
+#include "support/routine_calls.h"
 
 using namespace support;
 

@@ -1,11 +1,7 @@
 // Segment counts straight from attributes: POLY_GETPOL and POLY_GETPALL side by side.
-#include <cmath>
 
 #include "polyprops/polymer_block.h"
-#include "polyprops/polyprops.h"
-#include "support/arguments.h"
-#include "support/asked_once.h"
-#include "support/world.h"
+#include "support/routine_calls.h"
 
 using namespace support;
 

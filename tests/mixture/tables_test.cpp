@@ -1,8 +1,5 @@
 // Tables of a component list and the set-ups for special cases.
-#include "polyprops/polyprops.h"
-#include "support/arguments.h"
-#include "support/asked_once.h"
-#include "support/world.h"
+#include "support/routine_calls.h"
 
 using namespace support;
 

@@ -1,18 +1,10 @@
-#include <gtest/gtest.h>
-#include <polyprops/host.h>
-#include <polyprops/polyprops.h>
-
 #include <bit>
 #include <cfloat>
-#include <cmath>
-#include <limits>
 #include <random>
 #include <sstream>
 
-#include "minihost/service_log.h"
-#include "support/arguments.h"
+#include "support/routine_calls.h"
 #include "support/files.h"
-#include "support/world.h"
 
 #ifdef HAS_FORTRAN
 extern "C" void fortran_real_field(const double* value, char* field);
@@ -21,8 +13,6 @@ extern "C" void fortran_real_field(const double* value, char* field);
 namespace {
 
 using namespace support;
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 // A composite distribution, and nothing for the summary file.
 struct Distribution {

@@ -1,11 +1,7 @@
 // The tokens that the library writes to the summary file, in sequence.
-#include <gtest/gtest.h>
-#include <polyprops/host.h>
-#include <polyprops/polyprops.h>
 
-#include "support/arguments.h"
+#include "support/routine_calls.h"
 #include "support/files.h"
-#include "support/world.h"
 
 namespace {
 

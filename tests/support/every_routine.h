@@ -28,6 +28,15 @@ struct Arguments {
     Int* integers(std::size_t which) { return integer_outputs.at(which - 1); }
     // What the routine wrote.
     std::vector<Int> results() const;
+    // Nothing was written beside the arrays.
+    bool fences_hold() const
+    {
+        return of_each_output([](const auto& output) { return output.fence_holds(); });
+    }
+    bool untouched() const
+    {
+        return of_each_output([](const auto& output) { return output.untouched(); });
+    }
 
     Int n;  // components, all of them listed
     Int segments = 2, sites = 2, parts = 1, points = 8, positions = 6;
@@ -39,6 +48,13 @@ struct Arguments {
     std::vector<GuardedInts> integer_outputs;
     std::array<double, 2> real{};
     std::array<Int, 2> integer{};
+
+private:
+    template <typename Holds>
+    bool of_each_output(const Holds& holds) const
+    {
+        return std::ranges::all_of(real_outputs, holds) && std::ranges::all_of(integer_outputs, holds);
+    }
 };
 
 struct Routine {
