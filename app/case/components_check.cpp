@@ -5,6 +5,7 @@
 #include <set>
 
 #include "app/case/case_reader.h"
+#include "app/io/visible_text.h"
 #include "minihost/attributes.h"
 
 namespace app {
@@ -23,6 +24,7 @@ bool is_plain(std::string_view text)
 void check_text(std::string_view what, std::string_view text, std::size_t longest,
                 const SourcePosition& source, Diagnostics& diagnostics)
 {
+    if (has_control_characters(text)) return;  // reported when it was read
     if (text.size() > longest)
         diagnostics.add(source, fmt::format("{} \"{}\" has {} characters; expected at most {}", what, text,
                                             text.size(), longest));

@@ -9,6 +9,7 @@ using app::Basis;
 TEST(Run, TextLeavesOutWhatDoesNotFlow)
 {
     const auto out = run(examples / "styrene-butadiene.toml", Format::text).out;
+    EXPECT_EQ(out.find("Nothing flows"), std::string::npos);
     const auto feed = out.substr(0, out.find("Stream PRODUCT"));
     EXPECT_NE(feed.find("CYCLOHEX"), std::string::npos);
     EXPECT_EQ(feed.find("SBR"), std::string::npos);

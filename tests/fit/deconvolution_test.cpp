@@ -157,6 +157,8 @@ TEST(Deconvolution, LimitsABetaOfZeroByTheSumOfSquares)
     EXPECT_EQ(beta, 0);
     EXPECT_EQ(low, 0);
     EXPECT_GT(high, 0);
+    const auto [amount, least, most] = r.sites[0].amount;
+    EXPECT_TRUE(amount == 1 && least == 1 && most == 1) << least << ' ' << most;
     const Eigen::VectorXd lengths = Eigen::Map<const Eigen::VectorXd>{r.chain_length.data(), 40};
     const Eigen::VectorXd signal = Eigen::Map<const Eigen::VectorXd>{curve.signal.data(), 40};
     const double rate = r.sites[0].tau.value;
