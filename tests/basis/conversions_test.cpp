@@ -46,17 +46,16 @@ TEST(TrueBasis, TurnsQuantitiesPerMoleAndFractionsByMode)
     auto world = solution();
     world.host();
     const Values weights{0, 0, 4, 8}, chain_weights{200, 0};
-    const auto convert = [&](Int mode, const Values& v) {
+    const std::tuple<Int, Values, Values> cases[] = {{0, {3, 5}, {150, 5}},
+                                                     {1, {0.5, 0.5}, {0.01 / 0.51, 0.5 / 0.51}},
+                                                     {1, {0, zero_bound}, {0, zero_bound}},
+                                                     {2, {3, 5}, Values(2, GuardedReals::sentinel)}};
+    for (const auto& [mode, v, expected] : cases) {
         GuardedReals by_class(2), by_flag(2);
         call(POLY_VATOVT, 2, pair, weights, chain_weights, v, by_class, mode);
         call(POLY_VATOVX, 2, pair, weights, chain_weights, v, by_flag, mode, nullptr, Ints{1, 1, 1, 2});
-        EXPECT_EQ(by_class.values(), by_flag.values());
-        return by_flag.values();
-    };
-    EXPECT_EQ(convert(0, {3, 5}), (Values{150, 5}));
-    EXPECT_EQ(convert(1, {0.5, 0.5}), (Values{0.01 / 0.51, 0.5 / 0.51}));
-    EXPECT_EQ(convert(1, {0, zero_bound}), (Values{0, zero_bound}));
-    EXPECT_EQ(convert(2, {3, 5}), Values(2, GuardedReals::sentinel));
+        EXPECT_EQ(std::pair(by_class.values(), by_flag.values()), std::pair(expected, expected));
+    }
 }
 
 TEST(MassFractions, DifferInWhatAVanishingSumLeaves)
@@ -109,9 +108,8 @@ TEST(Lists, PickSubCompositionsLayOutAreasAndFindWater)
     call(POLY_WRKPOINT, last, 1, 7, areas);
     EXPECT_EQ(std::pair(areas[0], last), std::pair(Int{116}, Int{122}));
 
-    auto world =
-        World{}.conventional("2", 18, "h2o").conventional("3", 20, "H2O2").conventional("4", 18, "H2O");
-    world.conventional("5", 18, "H2O     OTHER").host();
+    auto world = World{}.conventional("2", 18, "h2o").conventional("3", 20, "H2O2");
+    world.conventional("4", 18, "H2O").conventional("5", 18, "H2O     OTHER").host();
     const std::pair<Ints, Int> waters[] = {{{2, 3, 4, 5}, 4}, {{5, 4}, 5}, {{3, 4}, 4}, {{3, 2}, 0}, {{}, 0}};
     for (const auto& [list, water] : waters) {
         Int found = -1;

@@ -5,13 +5,14 @@ namespace {
 using namespace support;
 
 // Segments 2, 3 and 4, and the component 5 that is asked for.
-World segments()
-{
-    return World{}.segments({"A", "B", "C"});
-}
+const World three_segments = World{}.segments({"A", "B", "C"});
 World polymer(const Attributes& attributes)
 {
-    return segments().polymer("P", attributes);
+    return World{three_segments}.polymer("P", attributes);
+}
+World oligomer(const std::map<std::string, double>& counts)
+{
+    return World{three_segments}.oligomer("O", counts);
 }
 
 struct Case {
@@ -41,9 +42,9 @@ TEST(SegmentsOfAComponent, AreThoseWithAPositiveAmount)
         {"no chains", polymer({{"ZMOM", 0}, {"SFLOW", {-1, 10, 4}}}), {2, 3, 4, 1, 1}},
         {"few chains", polymer({{"ZMOM", 1e-20}, {"SFLOW", {1e-20, 2e-20, 0}}}), {2, 2, 3, 1, 2}},
         {"missing flow", polymer({{"ZMOM", 1}, {"SFLOW", {0, missing, 0}}}), {1, 3, missing}},
-        {"part of a segment", segments().oligomer("O", {{"B", 0.25}}), {1, 3, 0.25}},
+        {"part of a segment", oligomer({{"B", 0.25}}), {1, 3, 0.25}},
         {"conventional", polymer({}).class_of("P", ComponentClass::conventional), {0}},
-        {"no polymer is listed", segments().component("P", ComponentClass::polymer), {-1}},
+        {"no polymer is listed", World{three_segments}.component("P", ComponentClass::polymer), {-1}},
     };
     for (auto& c : cases) EXPECT_EQ(make_up(c.world), c.expected) << c.name;
 }
@@ -69,11 +70,8 @@ struct ListMakeUp {
 
 TEST(ListMakeUp, ListsSegmentsInTheOrderOfFirstAppearance)
 {
-    auto world = polymer({{"DPN", 10}, {"SFRAC", {0.25, 0, 0.75}}, {"SFLOW", {0, 5, 0}}});
-    world.conventional("W")
-        .polymer("Q", {{"DPN", 20}, {"SFLOW", {0, 3, 1}}})
-        .polymer("UNLISTED")
-        .oligomer("O", {{"B", 4}});
+    auto world = polymer({{"DPN", 10}, {"SFRAC", {0.25, 0, 0.75}}, {"SFLOW", {0, 5, 0}}}).conventional("W");
+    world.polymer("Q", {{"DPN", 20}, {"SFLOW", {0, 3, 1}}}).polymer("UNLISTED").oligomer("O", {{"B", 4}});
     const ListMakeUp m(world, {5, 6, 7, 9}, 2);
     EXPECT_EQ(m.dpn.values(), (Values{10, 1, 20, 4}));
     EXPECT_EQ(m.nout, 4);
@@ -87,15 +85,14 @@ TEST(ListMakeUp, ListsSegmentsInTheOrderOfFirstAppearance)
 
 TEST(ListMakeUp, TakesUsableAmountsElseTheFirstSegment)
 {
+    auto no_block = polymer({{"SFLOW", {0, 1, 0}}});
     Case cases[] = {
         {"fractions before flows", polymer({{"SFRAC", {1, 3, 0}}, {"SFLOW", {1, 1, 1}}}), {0.25, 0.75, 0}},
         {"no flows for fractions of 0", polymer({{"SFRAC", {0, 0, 0}}, {"SFLOW", {0, 3, 0}}}), {1, 0, 0}},
         {"missing and negative flows", polymer({{"SFLOW", {missing, 3, -1}}}), {0, 1, 0}},
         {"flows below the zero bound", polymer({{"SFLOW", {1e-20, 1e-20, 0}}}), {0.5, 0.5, 0}},
         {"offset below 0", polymer({{"SFLOW", {0, 1, 0}}}).hidden_attribute("P", "SFRAC"), {1, 0, 0}},
-        {"no polymer block",
-         polymer({{"SFLOW", {0, 1, 0}}}).parameter("P", Parameter::dpn, 7).without_polymer_block(),
-         {1, 0, 0}},
+        {"no polymer block", no_block.parameter("P", Parameter::dpn, 7).without_polymer_block(), {1, 0, 0}},
     };
     for (auto& c : cases) EXPECT_EQ(ListMakeUp(c.world, {5}).amounts(5), c.expected) << c.name;
 }
@@ -106,15 +103,16 @@ TEST(ListMakeUp, FindsTheFirstSegmentAndMarksUnlistedChainsAtEitherEnd)
     auto first = World{}.class_of("UNNAMED", ComponentClass::segment).polymer("P").polymer("Q");
     auto last = World{}.class_of("UNNAMED", ComponentClass::polymer).polymer("P").segments({"A"});
     auto none = World{}.polymer("P");
-    const auto expect = [](World& world, const Ints& ids, const Ints& kseg, const Ints& out) {
+    const struct {
+        World& world;
+        Ints ids, kseg, out;
+    } cases[] = {{first, {2}, {0, 1, -1, 0, 1, 0, 0, 0, 0}, {1, 0, 0}},
+                 {last, {2, 2}, {-1, 1, 0, 0, 3, 0, 0, 0, 0}, {3, 0, 0}},
+                 {none, {2}, {0, 0, 0, 0}, {2, 0}}};
+    for (const auto& [world, ids, kseg, out] : cases) {
         const ListMakeUp m(world, ids);
-        EXPECT_EQ(m.nout, 1);
-        EXPECT_EQ(m.kseg.values(), kseg);
-        EXPECT_EQ(m.out.values(), out);
-    };
-    expect(first, {2}, {0, 1, -1, 0, 1, 0, 0, 0, 0}, {1, 0, 0});
-    expect(last, {2, 2}, {-1, 1, 0, 0, 3, 0, 0, 0, 0}, {3, 0, 0});
-    expect(none, {2}, {0, 0, 0, 0}, {2, 0});
+        EXPECT_EQ(std::tuple(m.nout, m.kseg.values(), m.out.values()), std::tuple(1, kseg, out));
+    }
 }
 
 TEST(ListMakeUp, OfRepeatedEntriesScalesTwiceAsksOnceAndStaysWithinTheComponents)
@@ -130,10 +128,9 @@ TEST(ListMakeUp, OfRepeatedEntriesScalesTwiceAsksOnceAndStaysWithinTheComponents
 
 TEST(OligomerInTwoColumns, BringsBothToItsMakeUpAndTheLastToTheList)
 {
-    auto world = segments().oligomer("O", {});
-    PolymerLists lists;
-    lists.segments = {{2}, {3}, {4}};
-    lists.oligomers = {{5, {{2, 1}, {3, 1}}}, {5, {{3, 3}, {4, 1}}}};
+    auto world = oligomer({});
+    const PolymerLists lists{.segments = {{2}, {3}, {4}},
+                             .oligomers = {{5, {{2, 1}, {3, 1}}}, {5, {{3, 3}, {4, 1}}}}};
     world.host().set_polymer_block(lay_polymer_block(world.host().store(), lists));
     EXPECT_EQ(make_up(world), (Values{4, 2, 3, 3, 4, 1, 1, 3, 1}));
     const ListMakeUp m(world, {5});
@@ -161,8 +158,9 @@ TEST(RowFractions, StandAtTheComponentIndexAndKeepAVanishingSum)
 // Of fractions (f, 1 - f) the means are 8f + 16(1 - f) and (8f + 48(1 - f)) / (f + 3(1 - f)).
 TEST(SegmentMeans, FallBackFromFlowsToFractionsToEqualSharesToTheOwnProperty)
 {
-    const auto two = [] { return World{}.segments({"A", "B"}); };
-    const auto of = [&](const Attributes& attributes) { return two().polymer("P", attributes); };
+    const World two = World{}.segments({"A", "B"});
+    const auto of = [&](const Attributes& attributes) { return World{two}.polymer("P", attributes); };
+    auto listed_only = World{two}.oligomer("O", {{"A", 3}}).class_of("O", ComponentClass::conventional);
     Case cases[] = {
         {"flows", of({{"SFLOW", {3, 1}}, {"SFRAC", {0, 1}}}), {10, 12}},
         {"flows at the zero bound", of({{"SFLOW", {zero_bound, 0}}, {"SFRAC", {3, 1}}}), {12, 12}},
@@ -172,9 +170,9 @@ TEST(SegmentMeans, FallBackFromFlowsToFractionsToEqualSharesToTheOwnProperty)
         // The missing flow is 0 in the total 1.5 but 1/2 in the mean: (1.5 · 8 + 0.5 · 16) / 1.5.
         {"one flow not given", of({{"SFLOW", {1.5, missing}}}), {20 / 1.5, 12}},
         {"one segment alone", World{}.segments({"A"}).conventional("3").polymer("P"), {8, 8}},
-        {"oligomer", two().oligomer("O", {{"A", 3}, {"B", 1}}), {10, 12}},
-        {"listed only", two().oligomer("O", {{"A", 3}}).class_of("O", ComponentClass::conventional), {8, 5}},
-        {"oligomer that is not listed", two().component("O", ComponentClass::oligomer), {5, 5}},
+        {"oligomer", World{two}.oligomer("O", {{"A", 3}, {"B", 1}}), {10, 12}},
+        {"listed only", listed_only, {8, 5}},
+        {"oligomer that is not listed", World{two}.component("O", ComponentClass::oligomer), {5, 5}},
         {"no polymer block", of({{"SFLOW", {3, 1}}}).without_polymer_block(), {5, 5}},
         {"no segments", World{}.conventional("2").conventional("3").polymer("P"), {5, 5}},
     };

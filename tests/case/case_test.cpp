@@ -93,10 +93,18 @@ TEST(Case, LeavesEverythingAsItIsForAKeyWithoutNumber)
 {
     const auto input = from_text(blend);
     const auto flow = feed + "attributes.\"PS/1\".SFLOW";
-    const std::vector<std::string> unknown{
-        "", ".", "components", "distributions", "components.PS.molecular_weight", "components.STY-R.class",
-        "components.STY-R.molecular_weight.x", "components.\"PS/1", "polymers.polymers[1]",
-        flow + "[2]", flow + "[0]", flow + "[1"};
+    const std::vector<std::string> unknown{"",
+                                           ".",
+                                           "components",
+                                           "distributions",
+                                           "components.PS.molecular_weight",
+                                           "components.STY-R.class",
+                                           "components.STY-R.molecular_weight.x",
+                                           "components.\"PS/1",
+                                           "polymers.polymers[1]",
+                                           flow + "[2]",
+                                           flow + "[0]",
+                                           flow + "[1"};
     for (const auto& key : unknown) {
         double value = 0.0625;
         EXPECT_EQ(polyprops_case_get(input.get(), key.c_str(), &value), POLYPROPS_NOT_FOUND) << key;

@@ -1,49 +1,34 @@
 // A process that is a host of its own and uses the case layer as well: neither disturbs the other.
 #include <dlfcn.h>
-#include <polyprops/host.h>
-#include <polyprops/polyprops.h>
 
 #include "case/interface.h"
 #include "minihost/records.h"
-#include "support/world.h"
+#include "support/routine_calls.h"
 
 namespace {
 
 using namespace support;
 
-struct CaseLayer {
-    template <typename Function>
-    static void load(void* library, const char* name, Function*& function)
-    {
-        function = reinterpret_cast<Function*>(::dlsym(library, name));
-        ASSERT_NE(function, nullptr) << name;
-    }
-    CaseLayer()
-    {
-        void* library = ::dlopen(POLYPROPS_CASE_LIBRARY, RTLD_NOW | RTLD_GLOBAL);
-        if (!library) ADD_FAILURE() << ::dlerror();
-        load(library, "polyprops_case_from_file", from_file);
-        load(library, "polyprops_case_free", free_case);
-        load(library, "polyprops_case_run", run);
-        load(library, "polyprops_run_free", free_run);
-        load(library, "polyprops_run_text", text);
-    }
-    decltype(polyprops_case_from_file)* from_file = nullptr;
-    decltype(polyprops_case_free)* free_case = nullptr;
-    decltype(polyprops_case_run)* run = nullptr;
-    decltype(polyprops_run_free)* free_run = nullptr;
-    decltype(polyprops_run_text)* text = nullptr;
+// The case layer, loaded when first it is asked.
+template <typename Function>
+Function* loaded(const char* name, Function* /*declared*/)
+{
+    static void* const library = ::dlopen(POLYPROPS_CASE_LIBRARY, RTLD_NOW | RTLD_GLOBAL);
+    auto* const found = library ? ::dlsym(library, name) : nullptr;
+    if (!found) throw std::runtime_error(::dlerror());
+    return reinterpret_cast<Function*>(found);
+}
+#define CASE_LAYER(function) loaded(#function, static_cast<decltype(function)*>(nullptr))
 
-    std::string json(const std::filesystem::path& file) const
-    {
-        polyprops_case* input = from_file(file.c_str());
-        polyprops_run* results = run(input);
-        std::string all = text(results, POLYPROPS_JSON, nullptr);
-        free_run(results);
-        free_case(input);
-        return all;
-    }
-};
+std::string json(const std::filesystem::path& file)
+{
+    polyprops_case* input = CASE_LAYER(polyprops_case_from_file)(file.c_str());
+    polyprops_run* results = CASE_LAYER(polyprops_case_run)(input);
+    std::string all = CASE_LAYER(polyprops_run_text)(results, POLYPROPS_JSON, nullptr);
+    CASE_LAYER(polyprops_run_free)(results);
+    CASE_LAYER(polyprops_case_free)(input);
+    return all;
+}
 
 // Every word that the engine's host owns.
 std::vector<minihost::Word> state(World& engine)
@@ -79,13 +64,11 @@ TEST(EngineProcess, KeepsItsNumbersAndItsStateWhileTheCaseLayerRuns)
     ST_ERROUT[3] = 'x';
     const auto before = state(engine);
 
-    const CaseLayer layer;
-    EXPECT_EQ(ask(), expected);
     for (int round = 0; round < 3; ++round)
         for (const auto& file : case_test::case_files(case_test::examples)) {
             SCOPED_TRACE(file);
-            EXPECT_EQ(layer.json(file), case_test::output(std::string{POLYPROPS_PROGRAM} + " run '" +
-                                                          file.string() + "' --format json 2>/dev/null"));
+            EXPECT_EQ(json(file), case_test::output(std::string{POLYPROPS_PROGRAM} + " run '" +
+                                                    file.string() + "' --format json 2>/dev/null"));
             EXPECT_EQ(ask(), expected);
             EXPECT_TRUE(state(engine) == before);
         }

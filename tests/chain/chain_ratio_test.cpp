@@ -23,13 +23,12 @@ TEST(ChainRatio, DividesEachFractionByItsChainLength)
     const auto hundred = polymer({{"ZMOM", 1}, flows, {"FMOM", 7}, {"DPN", 9}});
     auto without_make_up = World{}.segments({"A"}).polymer("P").component("C", ComponentClass::oligomer);
     without_make_up.parameter("C", Parameter::dpn, 1 + 1e-11);
-    struct Case {
+    const struct {
         const char* name;
         World world;
         Values x;
         double expected;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"segment flows over chains alone, and one segment", hundred, {1, 0.09}, 10},
         {"no mass", hundred, {0, 0.25}, 1},
         {"no chains in total", polymer({{"ZMOM", 1}, {"SFLOW", {4, 0}}}), {1, -0.25}, 1},
@@ -55,9 +54,8 @@ TEST(ChainRatio, DividesEachFractionByItsChainLength)
 
 TEST(ComponentLookup, FlagsAtTheComponentIndexAndGivesParametersByPosition)
 {
-    auto world =
-        World{}.segments({"A"}).polymer("P").oligomer("O", {}).conventional("W").without_polymer_block();
-    world.parameter("O", Parameter::cry, 0.75).host();
+    auto world = World{}.segments({"A"}).polymer("P").oligomer("O", {}).conventional("W");
+    world.without_polymer_block().parameter("O", Parameter::cry, 0.75).host();
     GuardedInts flags(5);
     call(POLY_GETISP, 3, Ints{4, 5, 3}, nullptr, flags);
     EXPECT_EQ(flags.values(), (Ints{GuardedInts::sentinel, GuardedInts::sentinel, 1, 1, 0}));

@@ -18,12 +18,11 @@ std::vector<GuardedReals> moments(World& world, const char* stream, Int entries)
 Values results(World& world, const char* earlier, const char* later, Int entries, Int entry)
 {
     const auto& view = world.view(later);
-    std::vector<GuardedReals> out(7, GuardedReals(static_cast<std::size_t>(entries)));
+    std::vector<GuardedReals> o(7, GuardedReals(static_cast<std::size_t>(entries)));
     call(POLY_POLYRESULTS, world.view(earlier).values, view.values, std::ssize(view.types), view.first_flow,
-         view.types, world.molecular_weights(), entries, out[0], out[1], out[2], out[3], out[4], out[5],
-         out[6]);
+         view.types, world.molecular_weights(), entries, o[0], o[1], o[2], o[3], o[4], o[5], o[6]);
     Values values;
-    for (const auto& o : out) values.push_back(o(entry));
+    for (const auto& out : o) values.push_back(out(entry));
     return values;
 }
 
@@ -75,9 +74,8 @@ TEST(Moments, OfSitesAddUpAndEachAttributeIsAskedForOnce)
     const Attributes p{
         {"SZMOM", {1, 2}}, {"SSMOM", {10, 40}}, {"SSFLOW", {1, 2, 3, 4}}, {"ZMOM", 4}, {"SFLOW", {7, 1}}};
     const Attributes q{{"SZMOM", {4, 8}}, {"SSMOM", {20, 80}}, {"SSFLOW", {5, 6, 7, 8}}};
-    auto world =
-        World{}.segments({{"A", 10}, {"B", 1}}).sites(2).polymer("P", {}, 100).polymer("Q", {}, 1000);
-    world.stream("EMPTY", {{}, {}, {}});
+    auto world = World{}.segments({{"A", 10}, {"B", 1}}).sites(2).polymer("P", {}, 100);
+    world.polymer("Q", {}, 1000).stream("EMPTY", {{}, {}, {}});
     world.stream("FULL", {{.flows = {{"P", 2}, {"Q", 3}}, .attributes = {{"P", p}, {"Q", q}}},
                           {.type = 3, .flows = {{"P", 9}}, .attributes = {{"P", q}}},
                           {.flows = {{"P", 1}, {"Q", 0}}, .attributes = {{"P", p}, {"Q", q}}}});

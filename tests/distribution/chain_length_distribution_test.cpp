@@ -9,9 +9,8 @@ using namespace support;
 
 Values grid(Int n, double longest_chain)
 {
-    const Int no_sites = 0;
     GuardedReals x(static_cast<std::size_t>(n)), weights(1), composite(static_cast<std::size_t>(n)), table(1);
-    POLY_CSDINI(&n, &no_sites, x, &longest_chain, weights, composite, table);
+    call(POLY_CSDINI, n, 0, x, longest_chain, weights, composite, table);
     EXPECT_TRUE(x.fence_holds());
     return x.values();
 }
@@ -24,7 +23,6 @@ TEST(ChainLengthGrid, IsLogarithmicWholeAndIncreasing)
     EXPECT_EQ(grid(4, 0.5), (Values{1, 2, 3, 4}));
     for (const double unusable : {0.0, -10.0, infinity, std::nan("")})
         EXPECT_EQ(grid(3, unusable), (Values{1, 2, 3})) << "longest " << unusable;
-    const TrapFloatingPoint trap;
     for (const double longest_chain : {DBL_MIN, 1e-3, 1.0, 7.5, 1e6, DBL_MAX}) {
         const Values x = grid(200, longest_chain);
         for (std::size_t k = 0; k < x.size(); ++k) {
@@ -68,10 +66,10 @@ TEST(DistributionMixing, WeighsByAmountAboveTheZeroBound)
     EXPECT_EQ(mixed(2, 0.25 * (1 + DBL_EPSILON), 0), first) << "just above it does";
     EXPECT_EQ(mixed(2, -3, 1), untouched) << "negative total";
     EXPECT_EQ(mixed(0, 1, 3), untouched) << "no points";
-    Values y = second;
-    double w = 3;
+    std::pair in_place{second, 3.0};
+    auto& [y, w] = in_place;
     call(POLY_CSDADD, 2, first, 1.0, y, w, y, w);
-    EXPECT_EQ(std::pair(y, w), std::pair(Values{2.5, 40}, 4.0)) << "results overwrite what they are made of";
+    EXPECT_EQ(in_place, std::pair(Values{2.5, 40}, 4.0)) << "results overwrite what they are made of";
 }
 
 // Running distributions of up to two site types on two grid points.
@@ -112,12 +110,8 @@ TEST(InstantaneousDistribution, ExponentIsLimitedOnBothSides)
 {
     World world;
     world.host();
-    Running running;
-    running.tau = {249.5, 250, std::nextafter(250, 251), -80.5, -80.59, -81};
-    running.beta = Values(6);
-    running.x = {1};
-    running.weights = Values(7);
-    running.columns = Values(6);
+    const Values tau{249.5, 250, std::nextafter(250, 251), -80.5, -80.59, -81};
+    Running running{tau, Values(6), {1}, Values(7), {-7}, Values(6)};
     running.add({1, 1, 1, 1, 1, 1});
     const Values exponents{-249.5, -250, -250, 80.5, 80.59, 80.59};
     for (std::size_t j = 0; j < exponents.size(); ++j)

@@ -1,12 +1,5 @@
 // The host's side of input processing: messages, sentences, forwarded sentences.
-#include <gtest/gtest.h>
-#include <polyprops/host.h>
-
-#include <algorithm>
-
-#include "minihost/embedded_host.h"
-#include "minihost/error.h"
-#include "support/world.h"
+#include "support/routine_calls.h"
 
 namespace minihost {
 namespace {

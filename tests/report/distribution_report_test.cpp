@@ -3,8 +3,8 @@
 #include <random>
 #include <sstream>
 
-#include "support/routine_calls.h"
 #include "support/files.h"
+#include "support/routine_calls.h"
 
 #ifdef HAS_FORTRAN
 extern "C" void fortran_real_field(const double* value, char* field);

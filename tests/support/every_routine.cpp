@@ -2,9 +2,7 @@
 
 #include <polyprops/polyprops.h>
 
-#include <algorithm>
 #include <cmath>
-#include <cstring>
 
 namespace support {
 
@@ -23,22 +21,11 @@ World world_with(const std::function<void(Attribute&)>& change)
     };
     World world;
     world.segments({{"A", 100, SegmentType::end}, {"B", 50}}).sites(1);
-    world.polymer("P", given({{"DPN", 20},
-                              {"MWN", 2000},
-                              {"MWSEG", 80},
-                              {"ZMOM", 2},
-                              {"FMOM", 40},
-                              {"SMOM", 1600},
-                              {"SFLOW", {30, 10}},
-                              {"SFRAC", {0.5, 0.5}}}));
-    world.polymer("Q", given({{"ZMOM", 2},
-                              {"FMOM", 40},
-                              {"SMOM", 1600},
-                              {"SFLOW", {30, 10}},
-                              {"SZMOM", 2},
-                              {"SSFLOW", {30, 10}},
-                              {"SSMOM", 1600}}));
-    world.polymer("R", given({{"MWN", 2000}, {"SFLOW", {30, 10}}}));
+    const Attribute weight{"MWN", 2000}, z{"ZMOM", 2}, f{"FMOM", 40}, s{"SMOM", 1600},
+        flow{"SFLOW", {30, 10}};
+    world.polymer("P", given({{"DPN", 20}, weight, {"MWSEG", 80}, z, f, s, flow, {"SFRAC", {0.5, 0.5}}}));
+    world.polymer("Q", given({z, f, s, flow, {"SZMOM", 2}, {"SSFLOW", {30, 10}}, {"SSMOM", 1600}}));
+    world.polymer("R", given({weight, flow}));
     return world.oligomer("O", {{"A", 2}, {"B", 1}}).oligomer("T", {{"A", 3}}).conventional("W", 18, "H2O");
 }
 
@@ -64,14 +51,11 @@ Arguments::Arguments(World& world, double every_real)
 std::vector<Int> Arguments::results() const
 {
     std::vector<Int> all{integer.begin(), integer.end()};
-    const auto append = [&all](const auto& written) {
-        const auto size = all.size();
-        all.resize(size + written.size());
-        std::memcpy(all.data() + size, written.data(), written.size() * sizeof(Int));
-    };
-    append(real);
-    for (const auto& output : real_outputs) append(output.values());
-    for (const auto& output : integer_outputs) append(output.values());
+    for (const double value : real) all.push_back(std::bit_cast<Int>(value));
+    for (const auto& output : real_outputs)
+        for (const double value : output.values()) all.push_back(std::bit_cast<Int>(value));
+    for (const auto& output : integer_outputs)
+        for (const Int value : output.values()) all.push_back(value);
     return all;
 }
 

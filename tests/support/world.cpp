@@ -1,9 +1,32 @@
 #include "support/world.h"
 
+#include <polyprops/polymer_block.h>
+
 #include <algorithm>
 
 namespace support {
 namespace {
+
+using minihost::Store;
+
+// A block of two parts when reals are given.
+BlockId lay(Store& store, const std::vector<Int>& integers, const std::vector<double>* reals = nullptr)
+{
+    const auto size = std::ssize(integers);
+    const BlockId id =
+        reals ? store.allocate_two_part(size, std::ssize(*reals)) : store.allocate_integers(size);
+    for (Int k = 0; const Int word : integers) store.set_integer(id, ++k, word);
+    if (reals)
+        for (Int k = 0; const double word : *reals) store.set_real(id, ++k, word);
+    return id;
+}
+
+// A list begins with the number of its entries.
+BlockId lay_list(Store& store, std::vector<Int> entries)
+{
+    entries.insert(entries.begin(), std::ssize(entries));
+    return lay(store, entries);
+}
 
 void set_attributes(minihost::Substream& substream, const std::string& id, const Attributes& attributes)
 {
@@ -11,6 +34,28 @@ void set_attributes(minihost::Substream& substream, const std::string& id, const
 }
 
 }  // namespace
+
+BlockId lay_polymer_block(Store& store, const PolymerLists& lists)
+{
+    std::vector<Int> segments{std::ssize(lists.segments)}, oligomers{std::ssize(lists.oligomers)};
+    for (const auto& segment : lists.segments) segments.push_back(segment.component);
+    for (const auto& segment : lists.segments) segments.push_back(static_cast<Int>(segment.type));
+    std::vector<double> counts;
+    for (auto oligomer : lists.oligomers) {
+        oligomers.push_back(oligomer.component);
+        for (const auto& segment : lists.segments) counts.push_back(oligomer.counts[segment.component]);
+    }
+    std::vector<Int> parameters(POLYPROPS_PARAMETER_INTEGERS), block(POLYPROPS_POLYMER_BLOCK_LENGTH);
+    const std::vector<double> parameter_reals{0};
+    parameters[POLYPROPS_SITE_TYPES - 1] = lists.sites;
+    block[0] = std::ssize(block);
+    block[POLYPROPS_SEGMENT_LIST - 1] = lay(store, segments);
+    block[POLYPROPS_POLYMER_LIST - 1] = lay_list(store, lists.polymers);
+    block[POLYPROPS_OLIGOMER_LIST - 1] = lay(store, oligomers, &counts);
+    block[POLYPROPS_PARAMETERS - 1] = lay(store, parameters, &parameter_reals);
+    block[POLYPROPS_END_SEGMENT_LIST - 1] = lay_list(store, lists.end_segments);
+    return lay(store, block);
+}
 
 World::World() : streams_{{"CURRENT"}}
 {
@@ -60,18 +105,11 @@ World& World::conventional(const std::string& id, double molecular_weight, const
 
 World& World::parameter(const std::string& id, Parameter parameter, double value)
 {
-    using minihost::Component;
-    static const std::map<Parameter, std::optional<double> Component::*> held{
-        {Parameter::dpn, &Component::dpn},
-        {Parameter::pdi, &Component::pdi},
-        {Parameter::cry, &Component::cry}};
-    return set(at(id).*held.at(parameter), value);
-}
-
-World& World::without(Parameter parameter)
-{
-    options_.absent_parameters.insert(parameter);
-    return *this;
+    auto& own = at(id);
+    return set(parameter == Parameter::dpn   ? own.dpn
+               : parameter == Parameter::pdi ? own.pdi
+                                             : own.cry,
+               value);
 }
 
 World& World::attributes(const std::string& id, const Attributes& given)
@@ -88,11 +126,6 @@ World& World::stream(const std::string& name, const std::vector<Part>& parts)
         for (const auto& [id, given] : part.attributes) set_attributes(substreams.back(), id, given);
     }
     return *this;
-}
-
-World& World::bounds(double missing_value_bound, double zero)
-{
-    return set(options_.missing_value_bound, missing_value_bound).set(options_.zero_bound, zero);
 }
 
 minihost::Host& World::host()

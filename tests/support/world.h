@@ -21,10 +21,10 @@
 #include <vector>
 
 #include "minihost/embedded_host.h"
-#include "support/laid_polymer_block.h"
 
 namespace support {
 
+using minihost::BlockId;
 using minihost::ComponentClass;
 using minihost::Int;
 using minihost::Parameter;
@@ -40,6 +40,9 @@ struct Attribute {
     std::vector<double> values;
 };
 using Attributes = std::vector<Attribute>;
+
+// Segment types as the segment list holds them.
+enum class SegmentType : Int { end = 1, repeat = 2, branch3 = 3, branch4 = 4 };
 
 struct Segment {
     Segment(const char* segment, double weight = 100, SegmentType segment_type = SegmentType::repeat)
@@ -57,6 +60,27 @@ struct Part {
     std::map<std::string, double> flows = {};
     std::map<std::string, Attributes> attributes = {};
 };
+
+// The polymer data of a run, by component index.
+struct PolymerLists {
+    struct Segment {
+        Int component;
+        SegmentType type = SegmentType::repeat;
+    };
+    struct Oligomer {
+        Int component;
+        std::map<Int, double> counts;  // segments per molecule, by the segment's component index
+    };
+    std::vector<Segment> segments = {};
+    std::vector<Int> polymers = {};
+    std::vector<Oligomer> oligomers = {};
+    std::vector<Int> end_segments = {};
+    Int sites = 0;  // catalyst site types
+};
+
+// Lays the lists in the order given, also such as no paragraph check would build, and returns the id of the
+// block.
+BlockId lay_polymer_block(minihost::Store& store, const PolymerLists& lists);
 
 class World {
 public:
@@ -78,7 +102,11 @@ public:
 
     World& parameter(const std::string& id, Parameter parameter, double value);
     // The parameter vector does not exist, whatever components give.
-    World& without(Parameter parameter);
+    World& without(Parameter parameter)
+    {
+        options_.absent_parameters.insert(parameter);
+        return *this;
+    }
     // What the host says of a component, whatever lists it stands in.
     World& class_of(const std::string& id, ComponentClass given)
     {
@@ -99,11 +127,14 @@ public:
     {
         return set(lists_.end_segments, indices(ids));
     }
-    World& bounds(double missing_value_bound, double zero_bound);
+    World& bounds(double missing_value_bound, double zero)
+    {
+        return set(options_.missing_value_bound, missing_value_bound).set(options_.zero_bound, zero);
+    }
     World& pdi_mode(Int mode) { return set(pdi_mode_, mode); }
     World& polymer_count(Int count) { return set(polymer_count_, count); }
     // The host gives this id (0 or less) for the polymer block.
-    World& without_polymer_block(minihost::BlockId id = 0) { return set(polymer_block_, id); }
+    World& without_polymer_block(BlockId id = 0) { return set(polymer_block_, id); }
 
     // ---- questions
 
@@ -153,7 +184,7 @@ private:
     minihost::Options options_;
     std::optional<Int> pdi_mode_;
     std::optional<Int> polymer_count_;
-    std::optional<minihost::BlockId> polymer_block_;
+    std::optional<BlockId> polymer_block_;
     std::shared_ptr<Slot> slot_;
 };
 
