@@ -148,19 +148,26 @@ TEST(Check, FindsTheEntryThatAMessageMeansAmongThoseOfOneId)
 # Each repeat, not the first.
 ["P"] -> ["P", "X", "P", "X", "P"] => 11:18: 4 => 11:23: 5 => 11:28: 4 => 11:33: 5
 # An unknown oligomer once for each of its segments, at its ID.
-{ id = "O", segments = { A-R = 1.5 } } -> { id = "U", segments = { A-R = 1, B-E = 1 } },
-    { segments = { A-R = 1 } }, { id = "U", segments = { A-R = 1 } }
-    => 15:7: 7 => 15:7: 7 => 15:7: 7 => 15:82: 7
+{ id = "O", segments = { A-R = 1.5 } } -> { id = "U", segments = { A-R = 1, B-E = 1 } }, { segments = { A-R =
+    1 } }, { id = "U", segments = { A-R = 1 } }
+    => 15:7: 7
+    => 15:7: 7
+    => 15:7: 7
+    => 15:82: 7
 # A segment under the oligomer that names it.
-{ segments = { B-E = 2 } } -> { segments = { U = 2 } }, { id = "O", segments = [{ id = "CAT", count = 1 },
-    { id = "U", count = 1 }] }
-    => 14:20: 8 => 14:57: 9 => 14:84: 8
+{ segments = { B-E = 2 } } -> { segments = { U = 2 } }, { id = "O", segments = [{ id = "CAT", count = 1 }, {
+    id = "U", count = 1 }] }
+    => 14:20: 8
+    => 14:57: 9
+    => 14:84: 8
 # The attribute list that misses the attribute.
 "SFLOW"] } -> "SFLOW"] }, { component = "P", names = ["ZMOM"] }, { component = "P", names = ["SFLOW"] }
-    => 25:55: 25 => 25:94: 24
+    => 25:55: 25
+    => 25:94: 24
 # One unknown ID in three lists.
 id = "CAT", value = 0.25 } -> id = "CAT" }, { id = "CATALYST" } & "INI"] -> "INI", "CATALYST"]
-    => 17:32: 10 => 18:22: 10
+    => 17:32: 10
+    => 18:22: 10
 # The second of two scalings.
 first = 2.0 -> first = 2.0\n[[catalyst_scaling]]\ncomponent = "CAT"\nattribute = "ZMOM" => 34:1: 1
 )",
@@ -208,19 +215,6 @@ TEST(Run, GoesOnWithoutAParagraphThatIsIgnored)
         << errors;
     EXPECT_NE(out.find("stream,PRODUCT,chain_averages,,PS,,mn,104.152,g/mol\n"), out.npos) << out;
     EXPECT_EQ(out.find("segment_fractions"), out.npos);
-}
-
-TEST(Run, ACaseInErrorOrWithoutFileExitsWithOneAndPrintsNoResults)
-{
-    const File bad{"title = 5\n[components]\n[streams]\n", "bad.toml"};
-    const File unfit_values{with(catalyzed, "count = 2", "count = 3")};
-    for (const auto& file : {bad.path, unfit_values.path, examples / "no-such-file.toml", examples}) {
-        SCOPED_TRACE(file);
-        const auto [status, out, errors] = run(file, Format::text);
-        EXPECT_EQ(status, cli::exit_case_error);
-        EXPECT_EQ(out, "");
-        EXPECT_NE(errors.find(file.string()), std::string::npos) << errors;
-    }
 }
 
 }  // namespace
