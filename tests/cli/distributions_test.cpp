@@ -180,7 +180,7 @@ tau = 0.01 -> tau = 0.01, beta = 1e-7
 sites -> segment_weight = 5\nsites
     => 14:1: distributions.D.segment_weight is 5 g/mol, but the mean segment weight of the polymer of stream F
        is 10 g/mol; they differ by 50 % of the larger; the distribution uses its segment_weight
-# A step of the grid near 500 segments is 70 segments, the width of the curve 1.6, and a point is near its peak.
+# A step of the grid near 500 segments is 70 segments, the curve 1.6 wide, and a point is near its peak.
 stream = "F" -> & sites = [{ tau = 0.01 -> components = [{ name = "N", type = "log-normal", dpn = 500,
     dispersity = 1.00001
     => 11:16: distributions.D: composite has an area of 14.3485 on the grid, but 1 in closed form; they differ

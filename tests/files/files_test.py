@@ -235,8 +235,8 @@ class Files(unittest.TestCase):
             process.send_signal(number)
             errors = process.communicate()[1]
             kept = len(partial.read_text().splitlines()) - 1
-            self.assertEqual(errors, f"polyprops: interrupted after {kept} of 100000 cases; the same command goes on from "
-                                     "there (s.csv.partial)\n")
+            self.assertEqual(errors, f"polyprops: interrupted after {kept} of 100000 cases; the same command goes on "
+                                     "from there (s.csv.partial)\n")
             self.assertEqual(process.returncode, 130)
             self.assertFalse((self.folder / "s.csv").exists())
             partial.unlink()
