@@ -192,8 +192,7 @@ without SSMOM
        every polymer
 [streams.S] -> [streams.T]\nflows = { W = 1 }\nattributes.W = { DPN = 5 }\n[streams.S] & attributes = [ ->
     attributes = [{ component = "W", names = ["DPN"] }, & [polymers] -> [components.W]\nmolecular_weight =
-    18\n[polymers]
-    => 14:18: streams.T.attributes.W.DPN is not used: W is not a polymer
+    18\n[polymers] => 14:18: streams.T.attributes.W.DPN is not used: W is not a polymer
 )");
 }
 
@@ -254,16 +253,29 @@ Outcome outcome(const Command& command, cli::Strictness strictness)
     return support::capture(start, {}, Format::json);
 }
 
-TEST(Commands, StopAtACaseWithErrors)
+TEST(Commands, StopAtACaseWithErrorsOrWithoutFile)
 {
-    const File file{"[components]\nW = { class = 7 }\n"};
-    const auto error = file.path.string() + ":2:7: components.W.class is 7; expected a text in quotes";
-    for (const auto& [name, command] : commands(file.path, file.path)) {
-        const auto [status, out, errors] = outcome(command, cli::Strictness::normal);
-        EXPECT_EQ(status, cli::exit_case_error) << name;
-        EXPECT_EQ(out, "") << name;
-        EXPECT_NE(errors.find(error), std::string::npos) << errors;
-    }
+    const File bad{"[components]\nW = { class = 7 }\n", "bad.toml"};
+    const File unfit_values{with(good, "ZMOM = 0.5", "ZMOM = [0.5, 1]")};
+    const std::tuple<std::filesystem::path, std::string, Lines> rows[] = {
+        {bad.path,
+         ":2:7: components.W.class is 7; expected a text in quotes",
+         {"check", "convert", "fit", "run"}},
+        {unfit_values.path,
+         ":13:1: streams.S.attributes.P.ZMOM has 2 values; expected 1",
+         {"convert", "run"}},
+        {examples / "absent.toml", ": cannot be read", {"check", "convert", "fit", "run"}},
+        {examples, ": cannot be read", {"check", "convert", "fit", "run"}},
+    };
+    for (const auto& [file, error, names] : rows)
+        for (const auto& name : names) {
+            SCOPED_TRACE(file.string() + name);
+            const auto [status, out, errors] =
+                outcome(commands(file, file).at(name), cli::Strictness::normal);
+            EXPECT_EQ(status, cli::exit_case_error);
+            EXPECT_EQ(out, "");
+            EXPECT_NE(errors.find(file.string() + error), std::string::npos) << errors;
+        }
 }
 
 void expect_warning(const std::string& text, const Lines& names, int line, int column, const std::string& key,
@@ -325,10 +337,10 @@ pairs = [{ components = ["A", "B"], values = [2, 0, 0, 0, 0, 300] }, { component
 temperatures = [300]
 )";
     const auto e = evaluated(text);
-    const auto json = Json::parse(app::format_json(e.report))["parameters"][0]["binary_parameters"];
-    EXPECT_EQ(json[1],
+    const auto rows = json(e)["parameters"][0]["binary_parameters"];
+    EXPECT_EQ(rows[1],
               (Json{{"temperature", 300.0}, {"component", "B"}, {"A", 2.0}, {"B", 0.0}, {"C", nullptr}}));
-    EXPECT_EQ(json[0]["C"], 0.0);
+    EXPECT_EQ(rows[0]["C"], 0.0);
     const auto csv = app::format_csv(e.report);
     EXPECT_NE(csv.find("parameter,K,binary_parameters,300,B,,C,,1\n"), std::string::npos) << csv;
     EXPECT_NE(csv.find("parameter,K,binary_parameters,300,A,,C,0,1\n"), std::string::npos) << csv;

@@ -188,20 +188,16 @@ tau = 1, -> => 28:10: distributions.D.sites[1].tau is missing; expected a finite
 { tau = 1 -> { name = "A", tau = 1, amount = 1 }, { name = "A", tau = 1
     => 28:47: distributions.D.sites names "A" twice
 sites = [{ tau = 1, amount = 1 }] -> increments = [[{ tau = 1, amount = 1 }], [{ amount = 1 }, { tau = 1,
-    amount = 1 }]]
-    => 28:42: distributions.D.increments[2] has 2 sites; the increment before it has 1
+    amount = 1 }]] => 28:42: distributions.D.increments[2] has 2 sites; the increment before it has 1
 sites = [{ tau = 1, amount = 1 }] -> components = []
     => 28:1: distributions.D.components is empty; expected at least one component
 sites = [{ tau = 1, amount = 1 }] -> components = [{ type = "poisson", dpn = 9, dispersity = 1.1, amount = 1
-    }]
-    => 28:44: distributions.D.components[1].dispersity is given; a Poisson distribution has one that follows
-       from its length
+    }] => 28:44: distributions.D.components[1].dispersity is given; a Poisson distribution has one that
+    follows from its length
 sites = [{ tau = 1, amount = 1 }] -> components = [{ type = "log-normal", mn = 9, dpn = 9, dispersity = 2,
-    amount = 1 }]
-    => 28:15: distributions.D.components[1] has both mn and dpn; expected one of them
+    amount = 1 }] => 28:15: distributions.D.components[1] has both mn and dpn; expected one of them
 sites = [{ tau = 1, amount = 1 }] -> components = [{ type = "schulz-zimm", dpn = 9, dispersity = 1, amount = 1
-    }]
-    => 28:48: distributions.D.components[1].dispersity is 1; expected greater than 1
+    }] => 28:48: distributions.D.components[1].dispersity is 1; expected greater than 1
 sites = [{ tau = 1, amount = 1 }] -> components = [{ type = "poisson", mn = 9, amount = 1 }]
     => 28:15: distributions.D: component 1 is given by mn; expected a segment_weight or a stream too, to make
        chain lengths of it
@@ -253,27 +249,17 @@ sites = [{ tau = 1, amount = 1 }] -> components = [{ type = "poisson", dpn = 1, 
 "conventional" -> 7 => 2:11: components.WATER.class is 7; expected a text in quotes
 ["P"] -> ["P"]\nsites = { count = 1, integers = [1, "2", 3] }
     => 10:37: polymers.sites.integers[2] is "2"; expected a whole number
+# All errors of a file, in its order.
+18.015 -> -1 & P = 1.0 -> P = -1.0 & polymers = ["P"] -> polymer = ["P"]
+    => 2:35: components.WATER.molecular_weight is -1; expected a finite number greater than 0
+    => 5:1: components.P is of class "polymer", but polymers.polymers does not list it
+    => 9:1: unknown key "polymer"; did you mean "polymers"?
+    => 13:11: streams.S.flows.P is -1; expected a finite number, 0 or greater
+ZMOM = 0.5 -> ZMOM = [0.5, 1] & [1.0, 2.0] -> 1
+    => 15:1: streams.S.attributes.P.ZMOM has 2 values; expected 1
+    => 16:1: streams.S.attributes.P.SFLOW has 1 value; the polymer has 2 segments (A-R, B-E)
 )",
                 good, diagnose);
-}
-
-TEST(CaseDiagnostics, ListAllErrorsOfAFileInItsOrder)
-{
-    auto text = with(good, "18.015", "-1");
-    text = with(text, "P = 1.0", "P = -1.0");
-    text = with(text, "polymers = [\"P\"]", "polymer = [\"P\"]");
-    EXPECT_EQ(
-        diagnose(text),
-        (Lines{
-            "c.toml:2:35: components.WATER.molecular_weight is -1; expected a finite number greater than 0",
-            R"(c.toml:5:1: components.P is of class "polymer", but polymers.polymers does not list it)",
-            R"(c.toml:9:1: unknown key "polymer"; did you mean "polymers"?)",
-            "c.toml:13:11: streams.S.flows.P is -1; expected a finite number, 0 or greater"}));
-    text = with(good, "ZMOM = 0.5", "ZMOM = [0.5, 1]");
-    EXPECT_EQ(diagnose(with(text, "[1.0, 2.0]", "1")),
-              (Lines{"c.toml:15:1: streams.S.attributes.P.ZMOM has 2 values; expected 1",
-                     "c.toml:16:1: streams.S.attributes.P.SFLOW has 1 value; the polymer has 2 segments "
-                     "(A-R, B-E)"}));
 }
 
 TEST(CaseDiagnostics, ReportMissingSectionsAndPlaceWhatIsNotToml)
@@ -290,9 +276,7 @@ TEST(CaseDiagnostics, ReportMissingSectionsAndPlaceWhatIsNotToml)
 TEST(StreamList, HasNoMatrixWithoutChains)
 {
     const auto numbers_of_matrix = [](const std::string& flows) {
-        app::Diagnostics diagnostics;
-        const auto input = app::CaseDocument{with(good, "{ O = 1 }", flows), "c.toml"}.read(diagnostics);
-        EXPECT_TRUE(diagnostics.empty());
+        const auto input = parsed(with(good, "{ O = 1 }", flows));
         app::LoadedCase loaded{input};
         EXPECT_TRUE(loaded.add_streams(input).empty());
         return app::list_stream("T", loaded.host()).counts.counts.size();

@@ -170,9 +170,8 @@ tau = 0.01 -> tau = 0.001 & stream = "F"\n ->
        above 1000 segments; expected at most 1 %
     => 11:16: distributions.D: 73.6 % of the mass of site 1 is outside the grid, 5e-05 % below 1 and 73.6 %
        above 1000 segments; expected at most 1 %
-stream = "F" -> mark_houwink_exponent = 0.7
-    => 11:16: distributions.D.mark_houwink_exponent is not used: there is no segment weight to give Mv in
-       g/mol; expected a segment_weight, or a stream with polymer
+stream = "F" -> mark_houwink_exponent = 0.7 => 11:16: distributions.D.mark_houwink_exponent is not used: there
+    is no segment weight to give Mv in g/mol; expected a segment_weight, or a stream with polymer
 tau = 0.01 -> tau = 0.01, beta = 1e-7
     => 14:1: distributions.D: Pn of composite is 99.9995 by its parameters and 100 by the moments of stream F;
        the relative difference is -5e-06, more than 1e-06
@@ -181,7 +180,7 @@ tau = 0.01 -> tau = 0.01, beta = 1e-7
 sites -> segment_weight = 5\nsites
     => 14:1: distributions.D.segment_weight is 5 g/mol, but the mean segment weight of the polymer of stream F
        is 10 g/mol; they differ by 50 % of the larger; the distribution uses its segment_weight
-# A step of the grid near 500 segments is 70 segments, the width of the curve 1.6, and a point is near its peak.
+# A step of the grid near 500 segments is 70 segments, the curve 1.6 wide, and a point is near its peak.
 stream = "F" -> & sites = [{ tau = 0.01 -> components = [{ name = "N", type = "log-normal", dpn = 500,
     dispersity = 1.00001
     => 11:16: distributions.D: composite has an area of 14.3485 on the grid, but 1 in closed form; they differ
@@ -190,9 +189,8 @@ stream = "F" -> & sites = [{ tau = 0.01 -> components = [{ name = "N", type = "l
     => 11:16: distributions.D: component N has an area of 14.3485 on the grid, but 1 in closed form; they
        differ by 1335 % of its mass, more than 10 %: the curve is narrower than the steps of the grid;
        expected more points or a smaller longest_chain
-sites -> components = [{ type = "poisson", mn = 10, amount = 1 }]\nsites
-    => 15:15: distributions.D: component 1 is left out: mn is 10; expected more than a segment weighs, 10
-       g/mol
+sites -> components = [{ type = "poisson", mn = 10, amount = 1 }]\nsites => 15:15: distributions.D: component
+    1 is left out: mn is 10; expected more than a segment weighs, 10 g/mol
 )",
                 good, seen);
 }

@@ -31,85 +31,69 @@ TEST(Examples, CloseOnEveryBasisAndAgreeOnFractionsAndChainWeights)
     }
 }
 
+// A number, and what it is multiplied with and divided by.
+double value(const std::string& text)
+{
+    std::istringstream terms{text};
+    double value = 0, term = 0;
+    terms >> value;
+    for (char sign = 0; terms >> sign >> term;) value = sign == '*' ? value * term : value / term;
+    return value;
+}
+
+// 208 999.916 and 18 010.455 g/mol are the chains of SBR and NYLON6.
 TEST(Examples, GiveTheNumbersThatTheirCommentsDerive)
 {
-    const double sbr = 208999.916, nylon = 18010.455;  // g/mol of chains
-    const struct {
-        const char* example;
-        const char* path;
-        double value;
-    } rows[] = {
-        {"polystyrene-blend", "streams.BLEND.chain_averages.PS.dpn", 9000 / 0.43 / 104.152},
-        {"polystyrene-blend", "streams.BLEND.chain_averages.PS.mn", 9000 / 0.43},
-        {"polystyrene-blend", "streams.BLEND.chain_averages.PS.mw", 140000.0 / 3},
-        {"polystyrene-blend", "streams.BLEND.chain_averages.PS.pdi", 14 * 0.43 / 2.7},
-        {"polystyrene-blend", "streams.BLEND.true_composition.PS.mole_flow", 0.43 / 3},
-        {"polystyrene-blend", "streams.STD-30K.chain_averages.PS.mw", 30000},
-        {"polystyrene-blend", "streams.STD-30K.chain_averages.PS.pdi", 1},
-        {"styrene-butadiene", "streams.PRODUCT.chain_averages.SBR.dpn", 3401},
-        {"styrene-butadiene", "streams.PRODUCT.chain_averages.SBR.mn", sbr},
-        {"styrene-butadiene", "streams.PRODUCT.chain_averages.SBR.mw", 1.08 * sbr},
-        {"styrene-butadiene", "streams.PRODUCT.chain_averages.STYRENE.dpn", 1},
-        {"styrene-butadiene", "streams.PRODUCT.chain_averages.STYRENE.mw", 104.152},
-        {"styrene-butadiene", "streams.PRODUCT.segment_fractions.SBR.STY-R.mole_fraction", 25 / 170.05},
-        {"styrene-butadiene", "streams.PRODUCT.segment_fractions.SBR.STY-R.mass_fraction", 52076 / sbr},
-        {"styrene-butadiene", "streams.PRODUCT.true_composition.SBR.mole_flow", 0.05},
-        {"styrene-butadiene", "streams.PRODUCT.segment_composition.STY-R.mole_flow", 25},
-        {"styrene-butadiene", "streams.PRODUCT.closures.segment.mole_flow", 884.661},
-        {"styrene-butadiene", "streams.PRODUCT.segment_counts.SBR.BUTD-R", 2900},
-        {"styrene-butadiene", "streams.PRODUCT.properties.SBR.molar_volume", 223886.976 / 3401},
-        {"styrene-butadiene", "streams.PRODUCT.properties.SBR.glass_transition", 46090800 / sbr},
-        {"nylon6-oligomers", "streams.MELT.chain_averages.NYLON6.dpn", 159},
-        {"nylon6-oligomers", "streams.MELT.chain_averages.NYLON6.mn", nylon},
-        {"nylon6-oligomers", "streams.MELT.chain_averages.NYLON6.mw", (2 - 1.0 / 159) * nylon},
-        {"nylon6-oligomers", "streams.MELT.chain_averages.LIN-3.mw", 357.495},
-        {"nylon6-oligomers", "streams.CHIPS.chain_averages.CYC-2.dpn", 2},
-        {"nylon6-oligomers", "streams.CHIPS.chain_averages.CYC-2.pdi", 1},
-        {"nylon6-oligomers", "streams.MELT.segment_fractions.LIN-2.COOH-E.mass_fraction", 130.167 / 244.335},
-        {"nylon6-oligomers", "streams.MELT.segment_composition.COOH-E.mole_flow", 0.0509},
-        {"nylon6-oligomers", "streams.MELT.segment_composition.ACA-R.mole_flow", 8.0054},
-        {"nylon6-oligomers", "streams.MELT.segment_counts.LIN-3.ACA-R", 1},
-        {"slurry-hdpe", "reactors.FIRST.polymer_made.1.mw", 22415.146},
-        {"slurry-hdpe", "reactors.FIRST.polymer_made.2.mass_flow", 3366.48},
-        {"slurry-hdpe", "reactors.FIRST.polymer_made.total.pdi", 3.078625},
-        {"slurry-hdpe", "reactors.SECOND.polymer_made.1.mean_segment_weight", 28.75535},
-        {"slurry-hdpe", "reactors.SECOND.polymer_made.2.dpw", 31999},
-        {"slurry-hdpe", "reactors.SECOND.polymer_made.2.mn", 453352.64},
-        {"slurry-hdpe", "reactors.SECOND.polymer_made.total.mass_flow", 5700.5728},
-        {"slurry-hdpe", "reactors.SECOND.polymer_made.total.dpn", 80000.0 / 11},
-        {"slurry-hdpe", "streams.SLURRY-2.chain_averages.HDPE.pdi", 9.31624375},
-        {"molecular-weights", "streams.BY-NUMBER.chain_averages.PS.mn", 140000.0 / 3},
-        {"molecular-weights", "streams.BY-NUMBER.chain_averages.PS.mw", 110e8 / 140000},
-        {"molecular-weights", "streams.BY-NUMBER.chain_averages.PS.pdi", 330.0 / 196},
-        {"molecular-weights", "streams.BY-MASS.chain_averages.PS.mn", 9000 / 0.43},
-        {"molecular-weights", "streams.BY-MASS.chain_averages.PS.mw", 140000.0 / 3},
-        {"molecular-weights", "streams.FIRST-LAST.chain_averages.PS.mn", 1000 / 0.02305},
-        {"molecular-weights", "streams.FIRST-LAST.chain_averages.PS.mw", 86950},
-        {"molecular-weights", "streams.FIRST-LAST.chain_averages.PS.pdi", 86.95 * 0.02305},
-        {"molecular-weights", "streams.CUTS.chain_averages.PS.mn", 47 / 0.0011505},
-        {"molecular-weights", "streams.CUTS.chain_averages.PS.mw", 8628e3 / 47},
-        {"molecular-weights", "streams.BLEND.chain_averages.PS.mn", 9000 / 0.43},
-        {"molecular-weights", "streams.BLEND.chain_averages.PS.mw", 140000.0 / 3},
-        {"molecular-weights", "streams.BLEND.apparent_composition.STYRENE.mass_flow", 1000},
-        {"molecular-weights", "streams.EVA.segment_fractions.EVA.VA-R.mole_fraction", 0.0460408586},
-        {"molecular-weights", "streams.EVA.chain_averages.EVA.mn", 39870},
-        {"molecular-weights", "streams.EVA.chain_averages.EVA.dpn", 1297.596974},
-        {"molecular-weights", "streams.EVA-ROUNDED.chain_averages.EVA.mean_segment_weight", 30.723656},
-        {"molecular-weights", "reactors.MIXER.polymer_made.total.mass_flow", 1000},
-        {"molecular-weights", "reactors.MIXER.polymer_made.total.mn", 100000},
-        {"interaction-parameters", "parameters.CHI.binary_parameters.400.PS.PMMA", 0.03775},
-        {"interaction-parameters", "parameters.CHI.binary_parameters.400.PI.PS", 0.0928},
-        {"interaction-parameters", "parameters.CHI.binary_parameters.400.PI.PI", 0},
-        {"interaction-parameters", "parameters.CHI.binary_parameter_slopes.400.PS.PI", -0.1785},
-        {"interaction-parameters", "parameters.CHI.binary_parameter_derivatives.400.PS.PI", -0.1785 / 400},
-        {"interaction-parameters", "parameters.PS-PI-298.binary_parameters.298.15.PS.PI", 0.15377677},
-    };
-    for (const auto& r : rows) {
-        SCOPED_TRACE(r.path);
+    for (const auto& row : support::rows(R"(
+polystyrene-blend: streams.BLEND: chain_averages.PS.dpn = 9000/0.43/104.152, chain_averages.PS.mn = 9000/0.43,
+    chain_averages.PS.mw = 140000/3, chain_averages.PS.pdi = 14*0.43/2.7,
+    true_composition.PS.mole_flow = 0.43/3
+polystyrene-blend: streams.STD-30K: chain_averages.PS.mw = 30000, chain_averages.PS.pdi = 1
+styrene-butadiene: streams.PRODUCT: chain_averages.SBR.dpn = 3401, chain_averages.SBR.mn = 208999.916,
+    chain_averages.SBR.mw = 1.08*208999.916, chain_averages.STYRENE.dpn = 1,
+    chain_averages.STYRENE.mw = 104.152, segment_fractions.SBR.STY-R.mole_fraction = 25/170.05,
+    segment_fractions.SBR.STY-R.mass_fraction = 52076/208999.916, true_composition.SBR.mole_flow = 0.05,
+    segment_composition.STY-R.mole_flow = 25, closures.segment.mole_flow = 884.661,
+    segment_counts.SBR.BUTD-R = 2900, properties.SBR.molar_volume = 223886.976/3401,
+    properties.SBR.glass_transition = 46090800/208999.916
+nylon6-oligomers: streams.MELT: chain_averages.NYLON6.dpn = 159, chain_averages.NYLON6.mn = 18010.455,
+    chain_averages.NYLON6.mw = 317/159*18010.455, chain_averages.LIN-3.mw = 357.495,
+    segment_fractions.LIN-2.COOH-E.mass_fraction = 130.167/244.335,
+    segment_composition.COOH-E.mole_flow = 0.0509, segment_composition.ACA-R.mole_flow = 8.0054,
+    segment_counts.LIN-3.ACA-R = 1
+nylon6-oligomers: streams.CHIPS: chain_averages.CYC-2.dpn = 2, chain_averages.CYC-2.pdi = 1
+slurry-hdpe: reactors.FIRST: polymer_made.1.mw = 22415.146, polymer_made.2.mass_flow = 3366.48,
+    polymer_made.total.pdi = 3.078625
+slurry-hdpe: reactors.SECOND: polymer_made.1.mean_segment_weight = 28.75535, polymer_made.2.dpw = 31999,
+    polymer_made.2.mn = 453352.64, polymer_made.total.mass_flow = 5700.5728, polymer_made.total.dpn = 80000/11
+slurry-hdpe: streams.SLURRY-2: chain_averages.HDPE.pdi = 9.31624375
+molecular-weights: streams.BY-NUMBER: chain_averages.PS.mn = 140000/3, chain_averages.PS.mw = 110e8/140000,
+    chain_averages.PS.pdi = 330/196
+molecular-weights: streams.BY-MASS: chain_averages.PS.mn = 9000/0.43, chain_averages.PS.mw = 140000/3
+molecular-weights: streams.FIRST-LAST: chain_averages.PS.mn = 1000/0.02305, chain_averages.PS.mw = 86950,
+    chain_averages.PS.pdi = 86.95*0.02305
+molecular-weights: streams.CUTS: chain_averages.PS.mn = 47/0.0011505, chain_averages.PS.mw = 8628e3/47
+molecular-weights: streams.BLEND: chain_averages.PS.mn = 9000/0.43, chain_averages.PS.mw = 140000/3,
+    apparent_composition.STYRENE.mass_flow = 1000
+molecular-weights: streams.EVA: segment_fractions.EVA.VA-R.mole_fraction = 0.0460408586,
+    chain_averages.EVA.mn = 39870, chain_averages.EVA.dpn = 1297.596974
+molecular-weights: streams.EVA-ROUNDED: chain_averages.EVA.mean_segment_weight = 30.723656
+molecular-weights: reactors.MIXER: polymer_made.total.mass_flow = 1000, polymer_made.total.mn = 100000
+interaction-parameters: parameters.CHI: binary_parameters.400.PS.PMMA = 0.03775,
+    binary_parameters.400.PI.PS = 0.0928, binary_parameters.400.PI.PI = 0,
+    binary_parameter_slopes.400.PS.PI = -0.1785, binary_parameter_derivatives.400.PS.PI = -0.1785/400
+interaction-parameters: parameters.PS-PI-298: binary_parameters.298.15.PS.PI = 0.15377677
+)")) {
+        const auto cells = support::parts(row, ":");
         app::Diagnostics diagnostics;
-        const auto file = examples / (std::string{r.example} + ".toml");
-        const auto e = evaluated(app::CaseDocument::from_file(file).read(diagnostics));
-        EXPECT_NEAR(number(e, r.path), r.value, 1e-9 * std::abs(r.value));
+        const auto e =
+            evaluated(app::CaseDocument::from_file(examples / (cells[0] + ".toml")).read(diagnostics));
+        for (const auto& entry : support::parts(cells.at(2), ",")) {
+            const auto sides = support::parts(entry, "=");
+            const auto path = cells[1] + "." + sides.at(0);
+            const auto expected = value(sides.at(1));
+            EXPECT_NEAR(number(e, path), expected, 1e-9 * std::abs(expected)) << path;
+        }
     }
 }
 

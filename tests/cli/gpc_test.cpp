@@ -14,18 +14,18 @@ segment_weight = 100
 sites = [{ tau = 0.01, amount = 1 }]
 )";
 
-TEST(MeasuredCurve, ReadsBothSeparatorsAndKeepsHeaderLinesAsNotes)
+Outcome run_with(const std::string& text, const File& measured, cli::RunOptions options = {},
+                 Format format = Format::json)
 {
-    const std::string texts[] = {
-        "run 17, THF\nmolecular_weight,signal\n1000,0.5\n2000, 1.5\n\n4e3 ,0.25\n",
-        "run 17, THF\r\nmolecular_weight,signal\r\n4000 0.25\r\n2000\t+1.5\r\n  1000   0.5  ",
-    };
-    for (const auto& text : texts) {
-        const auto curve = app::parse_measured_curve(text, "m.txt");
-        EXPECT_EQ(curve.notes, (std::vector<std::string>{"run 17, THF", "molecular_weight,signal"}));
-        EXPECT_EQ(curve.molecular_weight, (std::vector<double>{1000, 2000, 4000}));
-        EXPECT_EQ(curve.signal, (std::vector<double>{0.5, 1.5, 0.25}));
-    }
+    const File case_file{text};
+    options.gpc = measured.path;
+    return run(options, case_file.path, format);
+}
+
+Json distribution(const Outcome& seen)
+{
+    EXPECT_EQ(seen.status, 0) << seen.errors;
+    return Json::parse(seen.out)["distributions"][0];
 }
 
 TEST(MeasuredCurve, AnExportedCompositeComesBackWithoutResidual)
@@ -35,11 +35,7 @@ TEST(MeasuredCurve, AnExportedCompositeComesBackWithoutResidual)
     cli::RunOptions options;
     options.export_gpc = exported.path;
     ASSERT_EQ(run(options, case_file.path, Format::json).status, 0);
-    options = {};
-    options.gpc = exported.path;
-    const auto seen = run(options, case_file.path, Format::json);
-    ASSERT_EQ(seen.status, 0) << seen.errors;
-    const auto section = Json::parse(seen.out)["distributions"][0];
+    const auto section = distribution(run_with(one_site, exported));
     const auto& comparison = section["gpc_comparison"][0];
     EXPECT_EQ(comparison["points"], 400);
     EXPECT_LT(comparison["largest_difference"].get<double>(), 1e-9);
@@ -56,17 +52,13 @@ TEST(MeasuredCurve, AnExportedCompositeComesBackWithoutResidual)
 
 TEST(MeasuredCurve, MayHaveNotesInAnyBytes)
 {
-    const File case_file{one_site};
     const File measured{"caf\xE9 \x1B[2J\x7F\nM S\n1000 1\n20000 3\n", "measur\xE9"};
-    cli::RunOptions options;
-    options.gpc = measured.path;
-    const auto seen = run(options, case_file.path, Format::json);
-    ASSERT_EQ(seen.status, 0) << seen.errors;
+    const auto seen = run_with(one_site, measured);
     EXPECT_EQ(seen.out.find('\x7F'), std::string::npos);
-    const auto section = Json::parse(seen.out)["distributions"][0];
+    const auto section = distribution(seen);
     EXPECT_EQ(section["gpc_notes"], "caf\uFFFD \x1B[2J\x7F\nM S");
     EXPECT_EQ(section["gpc_comparison"][0]["notes"], 2);
-    const auto text = run(options, case_file.path, Format::text).out;
+    const auto text = run_with(one_site, measured, {}, Format::text).out;
     EXPECT_NE(text.find("measur\\xE9 "), std::string::npos) << text;
     EXPECT_EQ(app::html_text("caf\xE9 \x1B\n<"), "caf\uFFFD \uFFFD\n&lt;");
 }
@@ -86,15 +78,12 @@ TEST(MeasuredCurve, ResidualComparesCurvesOfAreaOne)
 
 TEST(MeasuredCurve, TakesTheExponentOfTheDistributionUnlessAnotherIsGiven)
 {
-    const File case_file{with(one_site, "points", "mark_houwink_exponent = 0.7\npoints")};
     const File measured{"M S\n1000 1\n20000 3\n90000 1\n", "measured"};
     const auto mv = [&](std::optional<double> exponent) {
         cli::RunOptions options;
-        options.gpc = measured.path;
         options.measured.mark_houwink_exponent = exponent;
-        const auto seen = run(options, case_file.path, Format::json);
-        const auto section = Json::parse(seen.out)["distributions"][0];
-        return section["gpc_comparison"][0].value("mv_measured", 0.0);
+        const auto text = with(one_site, "points", "mark_houwink_exponent = 0.7\npoints");
+        return distribution(run_with(text, measured, options))["gpc_comparison"][0].value("mv_measured", 0.0);
     };
     EXPECT_GT(mv({}), 0);
     EXPECT_EQ(mv({}), mv(0.7));
@@ -126,12 +115,9 @@ TEST(MeasuredCurve, SaysWhatIsWrongWithItAndWhatACaseLacksForIt)
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.expected);
-        const File case_file{c.text};
-        const File measured{c.measured, "measured"};
         cli::RunOptions options;
-        options.gpc = measured.path;
         options.distribution = c.distribution;
-        const auto seen = run(options, case_file.path, Format::text);
+        const auto seen = run_with(c.text, File{c.measured, "measured"}, options, Format::text);
         EXPECT_EQ(seen.status, cli::exit_case_error);
         EXPECT_EQ(seen.out, "");
         EXPECT_NE(seen.errors.find(c.expected), std::string::npos) << seen.errors;

@@ -14,9 +14,9 @@ protected:
     void SetUp() override { std::filesystem::remove_all(path); }
     void TearDown() override { std::filesystem::remove_all(path); }
 
-    std::vector<std::string> names() const
+    Lines names() const
     {
-        std::vector<std::string> found;
+        Lines found;
         for (const auto& entry : std::filesystem::directory_iterator{path})
             found.push_back(entry.path().filename().string());
         std::ranges::sort(found);
@@ -46,8 +46,8 @@ TEST_F(OutputDirectory, HoldsEveryFormOfTheResults)
     ASSERT_EQ(seen.status, 0) << seen.errors;
     path = *options.out;
     const std::string stem = "ziegler-natta-5-site.";
-    EXPECT_EQ(names(), (std::vector<std::string>{stem + "PE.csv", stem + "csv", stem + "html", stem + "json",
-                                                 stem + "rpt", stem + "sum"}));
+    EXPECT_EQ(names(), (Lines{stem + "PE.csv", stem + "csv", stem + "html", stem + "json", stem + "rpt",
+                              stem + "sum"}));
     EXPECT_EQ(app::file_contents(path / (stem + "json")), seen.out);
     const auto curves = app::file_contents(path / (stem + "PE.csv"));
     EXPECT_EQ(curves.find("chain_length,molecular_weight,cumulative,composite,site A,"), 0u);
@@ -69,16 +69,16 @@ TEST_F(OutputDirectory, IsAsItWasWhenOneFileCannotBeWritten)
     const std::vector<app::OutputFile> files{{"case.rpt", "after"}, {"case.html", "<p>"}};
     EXPECT_THROW(app::write_files(path, files), std::runtime_error);
     EXPECT_EQ(app::file_contents(path / "case.rpt"), "before");
-    EXPECT_EQ(names(), (std::vector<std::string>{"case.html", "case.rpt"}));
+    EXPECT_EQ(names(), (Lines{"case.html", "case.rpt"}));
 }
 
 TEST_F(OutputDirectory, KeepsDistributionsApart)
 {
     const std::string curve = "points = 2\nlongest_chain = 9\nsites = [{ tau = 1, amount = 1 }]\n";
-    const auto files = files_of(evaluated(
-        "[components]\nP = { molecular_weight = 1 }\n[distributions.\"A 1\"]\n" + curve +
-        "[distributions.A_1]\n" + curve + "[distributions.A_1_2]\n" + curve + "[distributions.fit]\n" +
-        curve + "[distributions.b-" + std::string(200, 'c') + "]\n" + curve));
+    std::string text;
+    for (const auto& name : Lines{"\"A 1\"", "A_1", "A_1_2", "fit", "b-" + std::string(200, 'c')})
+        text += "[distributions." + name + "]\n" + curve;
+    const auto files = files_of(evaluated(text));
     Lines names;
     for (std::size_t i = 5; i < files.size(); ++i) names.push_back(files[i].name);
     EXPECT_EQ(names, (Lines{"n.A_1.csv", "n.A_1_2.csv", "n.A_1_2_2.csv", "n.fit_2.csv",
@@ -90,10 +90,10 @@ TEST(Columns, StayApartWhenNamesCollide)
 {
     const std::string site = "tau = 1, amount = 1 }";
     const auto e = evaluated(
-        "[components]\nP = { molecular_weight = 1 }\n[distributions.D]\npoints = 2\nlongest_chain = 9\n"
+        "[distributions.D]\npoints = 2\nlongest_chain = 9\n"
         "sections = [{ name = \"A\", sites = [{ name = \"x: site y\", " +
         site + "] }, { name = \"A: site x\", sites = [{ name = \"y\", " + site + "] }]\n");
-    const auto row = Json::parse(app::format_json(e.report))["distributions"][0]["distribution_curves"][0];
+    const auto row = json(e)["distributions"][0]["distribution_curves"][0];
     EXPECT_TRUE(row.contains("A: site x: site y"));
     EXPECT_TRUE(row.contains("A: site x: site y_2"));
 }
@@ -126,8 +126,8 @@ TEST(Pages, HoldAsManyLinesAsTheCaseSays)
 TEST(Html, EscapesEveryText)
 {
     const auto e = evaluated(
-        "title = \"</title><script>alert(1)</script>&\\\"\"\n[components]\nP = { molecular_weight = 1 }\n"
-        "[distributions.\"<b>\"]\npoints = 2\nlongest_chain = 9\nsites = [{ name = \"</script>\", tau = 1, "
+        "title = \"</title><script>alert(1)</script>&\\\"\"\n[distributions.\"<b>\"]\npoints = "
+        "2\nlongest_chain = 9\nsites = [{ name = \"</script>\", tau = 1, "
         "amount = 1 }]\n");
     const auto html = app::format_html(e.report);
     EXPECT_EQ(html.find("<script>alert"), std::string::npos);

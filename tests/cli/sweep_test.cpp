@@ -1,6 +1,5 @@
 #include "cli/sweep_command.h"
 
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -182,24 +181,6 @@ TEST_F(SweepFiles, KeepsTheRowsOfItsGridForOneProcess)
             << "two sweeps at once";
     }
     EXPECT_TRUE(app::SweepJournal(options.out, "sweep", 2).rows().empty()) << "a case outside the grid";
-}
-
-TEST_F(SweepFiles, AnInterruptionEndsItWithTheRowsThatItHas)
-{
-    const auto user = ::fork();
-    if (user == 0) {  // waits for a row behind the head
-        while (std::ranges::count(support::content(partial), '\n') < 2) ::usleep(1000);
-        ::kill(::getppid(), SIGINT);
-        ::_exit(0);
-    }
-    const auto seen = sweep({zmom + "=1:2:100000"});
-    ::waitpid(user, nullptr, 0);
-    EXPECT_EQ(seen.status, cli::exit_interrupted);
-    const auto kept = std::ranges::count(support::content(partial), '\n') - 1;
-    EXPECT_EQ(seen.errors, "polyprops: interrupted after " + std::to_string(kept) +
-                               " of 100000 cases; the same command goes on from there (" + partial.string() +
-                               ")\n");
-    EXPECT_FALSE(std::filesystem::exists(options.out));
 }
 
 TEST_F(SweepFiles, RefusesTheRowsOfAnotherSweepAndKeysThatLeadNowhere)

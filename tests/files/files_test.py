@@ -225,14 +225,21 @@ class Files(unittest.TestCase):
         self.assertIn("\r1 of 6 cases", shown)
         self.assertTrue(shown.endswith("\r6 of 6 cases\r\n"), shown)
 
-    def test_a_hangup_ends_a_sweep_as_an_interruption_does(self):
-        process = subprocess.Popen([PROGRAM, "sweep", "case.toml", "--set", "streams.S.flows.P=1:9:100000", "--out",
-                                    "s.csv"], cwd=self.folder, stderr=subprocess.PIPE, text=True)
-        while not (self.folder / "s.csv.partial").exists():
-            self.assertIsNone(process.poll())
-        process.send_signal(signal.SIGHUP)
-        self.assertIn("the same command goes on from there", process.communicate()[1])
-        self.assertEqual(process.returncode, 130)
+    def test_an_interruption_ends_a_sweep_with_the_rows_that_it_has(self):
+        partial = self.folder / "s.csv.partial"
+        for number in (signal.SIGINT, signal.SIGHUP):
+            process = subprocess.Popen([PROGRAM, "sweep", "case.toml", "--set", "streams.S.flows.P=1:9:100000", "--out",
+                                        "s.csv"], cwd=self.folder, stderr=subprocess.PIPE, text=True)
+            while not partial.exists() or len(partial.read_text().splitlines()) < 2:  # a head and a row
+                self.assertIsNone(process.poll())
+            process.send_signal(number)
+            errors = process.communicate()[1]
+            kept = len(partial.read_text().splitlines()) - 1
+            self.assertEqual(errors, f"polyprops: interrupted after {kept} of 100000 cases; the same command goes on "
+                                     "from there (s.csv.partial)\n")
+            self.assertEqual(process.returncode, 130)
+            self.assertFalse((self.folder / "s.csv").exists())
+            partial.unlink()
 
 
 if __name__ == "__main__":

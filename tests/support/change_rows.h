@@ -2,13 +2,13 @@
 //
 //     OLD -> NEW & OLD -> NEW => LINE:COLUMN: TEXT => LINE:COLUMN: TEXT
 //
-// Indented lines continue a row, lines with # are comments, and \n in a change is the end of a line.
+// Indented lines continue a row, and lines with # are comments.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <sstream>
+#include <regex>
 #include <string>
 #include <vector>
 
@@ -28,6 +28,21 @@ inline Texts parts(const std::string& text, const std::string& separator)
     return all;
 }
 
+inline Texts rows(const std::string& table)
+{
+    auto all = parts(std::regex_replace(table, std::regex{"\n#.*|\n +"}, " "), "\n");
+    std::erase(all, "");
+    EXPECT_FALSE(all.empty());
+    return all;
+}
+
+// A row has \n for the end of a line and \t for a tab.
+inline std::string unescaped(const std::string& text)
+{
+    return std::regex_replace(std::regex_replace(text, std::regex{R"(\\n)"}, "\n"), std::regex{R"(\\t)"},
+                              "\t");
+}
+
 // The text with the first `old` replaced; it has to be there.
 inline std::string with(std::string text, const std::string& old, const std::string& replacement)
 {
@@ -36,32 +51,19 @@ inline std::string with(std::string text, const std::string& old, const std::str
     return at == text.npos ? text : text.replace(at, old.size(), replacement);
 }
 
-// The text after one change of a row.
-inline std::string changed(std::string text, std::string change)
+inline std::string changed(std::string text, const std::string& change)
 {
-    for (auto end = change.find("\\n"); end != change.npos; end = change.find("\\n"))
-        change.replace(end, 2, "\n");
-    const auto sides = parts(change, "->");
+    const auto sides = parts(unescaped(change), "->");
     EXPECT_EQ(sides.size(), 2U) << change;
     return with(std::move(text), sides.front(), sides.back());
 }
 
-using Change = std::function<std::string(std::string, std::string)>;
-using Diagnose = std::function<Texts(const std::string&)>;
-
-// Each row, with `good` as the case and c.toml as the name of its file.
-inline void expect_each(const std::string& table, const std::string& good, const Diagnose& diagnose,
-                        const Change& change = changed)
+// Each row for the case `good`, whose file is c.toml.
+inline void expect_each(const std::string& table, const std::string& good,
+                        const std::function<Texts(const std::string&)>& diagnose,
+                        const std::function<std::string(std::string, std::string)>& change = changed)
 {
-    Texts rows;
-    std::istringstream lines{table};
-    for (std::string line; std::getline(lines, line);)
-        if (line.starts_with(' '))
-            rows.at(rows.size() - 1) += " " + parts(line, "\n").front();
-        else if (!line.empty() && !line.starts_with('#'))
-            rows.push_back(line);
-    EXPECT_FALSE(rows.empty());
-    for (const auto& row : rows) {
+    for (const auto& row : rows(table)) {
         SCOPED_TRACE(row);
         auto expected = parts(row, "=>");
         auto text = good;
