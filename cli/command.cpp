@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <cerrno>
+#include <cmath>
 #include <cstring>
 #include <stdexcept>
 
@@ -67,6 +68,17 @@ void add_strict(CLI::App& command, Strictness& strictness)
 {
     command.add_flag_callback(
         "--strict", [&strictness] { strictness = Strictness::strict; }, "Exit with 1 on warnings as well");
+}
+
+CLI::Validator positive_number()
+{
+    const auto fault = [](const std::string& seen) -> std::string {
+        double value = 0;
+        const bool is_number = CLI::detail::lexical_cast(seen, value);
+        if (is_number && std::isfinite(value) && value > 0) return {};
+        return fmt::format("\"{}\"; expected a finite number greater than 0", seen);
+    };
+    return CLI::Validator{fault, "POSITIVE"};
 }
 
 int refuse(const std::string& why, std::FILE* errors)

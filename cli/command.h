@@ -64,6 +64,9 @@ CLI::Option* add_choice(CLI::App& command, const char* option, Choice& choice, c
         ->type_name(type);
 }
 
+// Of an option: a finite number greater than 0.
+CLI::Validator positive_number();
+
 // An error of usage.
 int refuse(const std::string& why, std::FILE* errors);
 
@@ -78,6 +81,8 @@ int guarded(const Command& command, std::FILE* errors)
         return command();
     } catch (const std::bad_alloc& /*error*/) {
         return fail("not enough memory", errors);
+    } catch (const std::filesystem::filesystem_error& error) {
+        return fail(error.path1().string() + ": " + error.code().message(), errors);
     } catch (const std::exception& error) {
         return fail(error.what(), errors);
     }

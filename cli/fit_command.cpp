@@ -121,7 +121,7 @@ void add_fit_command(CLI::App& program, int& status)
     command
         ->add_option("--segment-weight", options->segment_weight,
                      "Segment weight, g/mol (default: of the distribution)")
-        ->check(CLI::PositiveNumber)
+        ->check(positive_number())
         ->type_name("M0");
     command
         ->add_option("--distribution", options->distribution, "Which distribution, where a case has several")

@@ -2,7 +2,9 @@
 
 #include <cstdio>
 #include <iostream>
+#include <sstream>
 
+#include "app/io/visible_text.h"
 #include "cli/check_command.h"
 #include "cli/command.h"
 #include "cli/convert_command.h"
@@ -29,7 +31,9 @@ int run_program(int argc, char** argv)
     try {
         program.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        status = program.exit(error) == 0 ? cli::exit_success : cli::exit_usage;
+        std::ostringstream errors;
+        status = program.exit(error, std::cout, errors) == 0 ? cli::exit_success : cli::exit_usage;
+        std::cerr << app::visible(errors.str(), true);
     }
     return status;
 }

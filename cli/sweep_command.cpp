@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "app/io/output_check.h"
+#include "app/sweep/sweep_journal.h"
 #include "cli/command.h"
 
 namespace cli {
@@ -18,6 +19,8 @@ int sweep_unguarded(const app::SweepOptions& options, std::FILE* errors)
 {
     app::OutputCheck check{{options.file}};
     check.add_file("--out", options.out);
+    if (const auto journal = app::SweepJournal::file_for(options.out); !journal.empty())
+        check.add_own_file("--out: the journal", journal);
     if (!check.reason().empty()) return refuse(check.reason(), errors);
     const bool is_shown = ::isatty(::fileno(errors)) != 0;
     const auto outcome = app::sweep(options, [&](std::size_t done, std::size_t cases) {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -41,17 +42,24 @@ std::optional<double> number(std::string_view field, bool has_decimal_comma)
     return error == std::errc{} ? value : std::numeric_limits<double>::infinity();
 }
 
+std::vector<std::string_view> words(std::string_view line, char separator)
+{
+    std::vector<std::string_view> all;
+    line = trimmed(line);
+    while (true) {
+        const auto at = separator == ' ' ? line.find_first_of(blanks) : line.find(separator);
+        all.push_back(trimmed(line.substr(0, at)));
+        if (at == std::string_view::npos) return all;
+        line = trimmed(line.substr(at + 1));
+    }
+}
+
 // The fields of a line as numbers, none for a field that is no number.
 std::vector<std::optional<double>> fields(std::string_view line, char separator)
 {
     std::vector<std::optional<double>> all;
-    line = trimmed(line);
-    while (true) {
-        const auto at = separator == ' ' ? line.find_first_of(blanks) : line.find(separator);
-        all.push_back(number(line.substr(0, at), separator != ','));
-        if (at == std::string_view::npos) return all;
-        line = trimmed(line.substr(at + 1));
-    }
+    for (const auto word : words(line, separator)) all.push_back(number(word, separator != ','));
+    return all;
 }
 
 bool are_numbers(const std::vector<std::optional<double>>& all)
@@ -114,15 +122,32 @@ std::string expected_columns(std::string_view line, char separator)
                        separator == ' ' ? "blanks" : fmt::format("`{}`", separator));
 }
 
-// Two numbers next to each other, or a number and one other word, are a faulty line of the curve.
+// `10OO`, `$900` or nothing, but not `Sample`.
+bool looks_like_number(std::string_view word)
+{
+    const auto is_digit = [](char c) { return c >= '0' && c <= '9'; };
+    const auto is_letter = [](char c) {
+        const auto byte = static_cast<unsigned char>(c);
+        return std::isalpha(byte) != 0 || byte >= 0x80U;
+    };
+    return std::ranges::any_of(word, is_digit) || std::ranges::none_of(word, is_letter);
+}
+
+// A faulty line of the curve: one number, two next to each other, or one and a word that is or looks like
+// another. `Flow rate, 1.0` is none.
+bool is_faulty_pair(std::string_view line, char separator)
+{
+    const auto all = fields(line, separator);
+    if (all.size() == 1) return all[0].has_value();
+    if (all.size() == 2 && (all[0] || all[1])) return all[0] || looks_like_number(words(line, separator)[0]);
+    const auto both = [](const auto& a, const auto& b) { return a && b; };
+    return std::ranges::adjacent_find(all, both) != all.end();
+}
+
 bool is_note(std::string_view line)
 {
-    if (trimmed(line).starts_with('#')) return true;
-    return std::ranges::none_of(separators, [&](char separator) {
-        const auto all = fields(line, separator);
-        const auto both = [](const auto& a, const auto& b) { return a && b; };
-        return std::ranges::adjacent_find(all, both) != all.end() || (all.size() == 2 && all[0]);
-    });
+    return trimmed(line).starts_with('#') ||
+           std::ranges::none_of(separators, [&](char c) { return is_faulty_pair(line, c); });
 }
 
 std::string expected_note(std::string_view line)

@@ -21,15 +21,17 @@ constexpr Word<bool> forms[] = {{"weight-fraction", false}, {"gpc", true}};
 SiteIncrement read_site(TableReader table, const SiteIncrement* previous, std::optional<std::string>& name)
 {
     SiteIncrement site;
+    bool is_usable = true;
     const auto parameter = [&](std::string_view key, std::optional<double> before) {
         const auto value = table.number(key, Range::not_negative);
+        is_usable = is_usable && (value || !table.entry(key));
         return value ? *value : before.value_or(0);
     };
     const bool is_given = table.entry("tau") || table.entry("beta");
     site.tau = parameter("tau", previous ? std::optional{previous->tau} : std::nullopt);
     site.beta = parameter("beta", previous ? std::optional{previous->beta} : std::nullopt);
     if (!is_given && !previous) table.missing("tau", "a finite number, 0 or greater");
-    if (is_given && !(site.tau + site.beta > 0))
+    if (is_given && is_usable && !(site.tau + site.beta > 0))
         table.diagnostics().add(table.source(), fmt::format("{}: tau + beta is {}; expected greater than 0",
                                                             table.path(), site.tau + site.beta));
     site.amount = table.required_number("amount", Range::not_negative).value_or(0);
@@ -151,16 +153,23 @@ void check_unique(const std::vector<PlacedName>& names, std::string_view path, D
     }
 }
 
-// Points of all curves, with their chromatograms, in results, tables and every form of the report.
-void check_memory(const Distribution& distribution, const std::string& path, Diagnostics& diagnostics)
+// Points of all curves, with their chromatograms, in results, tables and every form of the report. The first
+// distribution for which there is no room is reported.
+void check_memory(const std::vector<Distribution>& distributions, Diagnostics& diagnostics)
 {
     constexpr double bytes_of_number = 500;
-    std::size_t curves = 2 + distribution.components.size();
-    for (const auto& section : distribution.sections) curves += 1 + section.sites.size();
-    const double numbers = static_cast<double>(distribution.points) * static_cast<double>(2 * curves);
-    if (const auto lacking = lacking_memory(numbers * bytes_of_number); !lacking.empty())
-        diagnostics.add(distribution.name.source, fmt::format("{}: {} points of {} curves need {}", path,
-                                                              distribution.points, curves, lacking));
+    double bytes = 0;
+    for (const auto& distribution : distributions) {
+        std::size_t curves = 2 + distribution.components.size();
+        for (const auto& section : distribution.sections) curves += 1 + section.sites.size();
+        const char* others = bytes > 0 ? ", with the distributions before," : "";
+        bytes += static_cast<double>(distribution.points) * static_cast<double>(2 * curves) * bytes_of_number;
+        const auto lacking = lacking_memory(bytes);
+        if (lacking.empty()) continue;
+        const auto& [name, source] = distribution.name;
+        return diagnostics.add(source, fmt::format("distributions.{}: {} points of {} curves{} need {}", name,
+                                                   distribution.points, curves, others, lacking));
+    }
 }
 
 // What the host takes for nothing cannot be averaged.
@@ -228,9 +237,9 @@ void check_distributions(const Case& input, Diagnostics& diagnostics)
             check_amounts(section, path, input.settings.zero_bound, diagnostics);
         }
         check_unique(names, path + ".sections", diagnostics);
-        check_memory(distribution, path, diagnostics);
         check_models(distribution, input.settings.zero_bound, diagnostics);
     }
+    check_memory(input.distributions, diagnostics);
 }
 
 }  // namespace app

@@ -128,7 +128,7 @@ void put_in_order(MeasuredCurve& curve)
     const auto fault = std::ranges::adjacent_find(m, std::greater_equal{});
     if (fault != m.end())
         refuse(
-            curve.file,
+            fmt::format("{}:{}", curve.file, curve.lines[static_cast<std::size_t>(fault - m.begin()) + 1]),
             fmt::format("molecular weight {} is followed by {}; expected molecular weights that all rise or "
                         "all fall",
                         *fault, *(fault + 1)));

@@ -60,13 +60,32 @@ double molecular_weight(const Case& input, const std::string& id)
     return input.find(id)->molecular_weight.value_or(0);
 }
 
+// The library takes what is not between the bounds for nothing, and other averages for those given.
+bool are_within_bounds(const ChainMoments& moments, const SourcePosition& source, const Settings& settings,
+                       Diagnostics& diagnostics)
+{
+    const std::pair<const char*, std::optional<double>> all[] = {
+        {"ZMOM", moments.zeroth}, {"FMOM", moments.first}, {"SMOM", moments.second}, {"TMOM", moments.third}};
+    for (const auto& [name, moment] : all) {
+        const double value = moment.value_or(0);
+        if (value == 0 || (value > settings.zero_bound && value < settings.missing_value_bound)) continue;
+        diagnostics.add(
+            source, fmt::format("{}: {} is {:.6g} kmol/h; expected 0, or more than the zero bound, "
+                                "{}, and less than the missing value bound, {}",
+                                source.key, name, value, settings.zero_bound, settings.missing_value_bound));
+        return false;
+    }
+    return true;
+}
+
 void apply(Stream& stream, Case& input, Diagnostics& diagnostics)
 {
     for (const auto& [component, mass] : stream.mass_flows)
         stream.flows.push_back({component, mass / molecular_weight(input, component.id)});
     for (const auto& chains : stream.chains) {
         const auto moments = chain_moments(chains, segments_of(input), diagnostics);
-        if (!moments) continue;
+        if (!moments || !are_within_bounds(*moments, chains.polymer.source, input.settings, diagnostics))
+            continue;
         stream.flows.push_back({chains.polymer, moments->mass / molecular_weight(input, chains.polymer.id)});
         add_attributes(chains, *moments, stream, input);
     }

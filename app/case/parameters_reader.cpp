@@ -74,10 +74,11 @@ std::vector<double> read_temperatures(const Entry& entry, Diagnostics& diagnosti
     const auto count = table.required_whole_number("count", temperature_counts);
     table.finish_part();
     if (!from || !to || !count) return {};
+    const double step = (*to - *from) / static_cast<double>(*count - 1);
     std::vector<double> temperatures;
-    for (std::int64_t k = 0; k < *count; ++k)
-        temperatures.push_back(*from +
-                               (*to - *from) * static_cast<double>(k) / static_cast<double>(*count - 1));
+    for (std::int64_t k = 0; k < *count - 1; ++k)
+        temperatures.push_back(*from + step * static_cast<double>(k));
+    temperatures.push_back(*to);
     return temperatures;
 }
 

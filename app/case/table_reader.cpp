@@ -109,7 +109,8 @@ void report(const Entry& entry, std::string_view expected, Diagnostics& diagnost
 
 std::optional<double> read_number(const Entry& entry, Range range, Diagnostics& diagnostics)
 {
-    const auto value = entry.node->is_number() ? entry.node->value<double>() : std::nullopt;
+    auto value = entry.node->value_exact<double>();
+    if (const auto whole = entry.node->value_exact<std::int64_t>()) value = static_cast<double>(*whole);
     if (value && fits(*value, range)) return value;
     report(entry, expectation(range), diagnostics);
     return {};

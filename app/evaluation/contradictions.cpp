@@ -13,6 +13,7 @@
 #include <fmt/ranges.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include "app/evaluation/average_sources.h"
 #include "app/evaluation/comparison.h"
@@ -125,9 +126,9 @@ private:
         const Quantity by_segments{"SFLOW times segment weights", mass(polymer_.elements("SFLOW"), segments_),
                                    "kg/h"};
         const double smaller = std::min(by_flow.value, by_segments.value);
-        const auto factor = smaller > 0 ? fmt::format(", a factor of {:.4g}",
-                                                      std::max(by_flow.value, by_segments.value) / smaller)
-                                        : std::string{};
+        const double ratio = std::max(by_flow.value, by_segments.value) / smaller;
+        const auto factor =
+            smaller > 0 && std::isfinite(ratio) ? fmt::format(", a factor of {:.4g}", ratio) : std::string{};
         expect_equal(
             polymer_.flow().component.source, by_flow, by_segments,
             fmt::format("{}; compositions use the flow, averages the moments; check {} and the scale "

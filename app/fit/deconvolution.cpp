@@ -37,6 +37,24 @@ Problem make_problem(const MeasuredCurve& curve, double segment_weight, bool fre
     return {{weights / segment_weight, free_beta}, Eigen::Map<const VectorXd>{curve.signal.data(), n}};
 }
 
+// Rates and their squares are numbers within this length, and no chain is shorter than its segment.
+constexpr double longest_chain = 1e15;
+
+void check_lengths(const MeasuredCurve& curve, double segment_weight)
+{
+    const double largest = std::ranges::max(curve.molecular_weight);
+    if (!(segment_weight <= largest))
+        throw std::runtime_error{
+            fmt::format("{}: the largest molecular weight is {} g/mol; expected at least that of a segment, "
+                        "which is {} g/mol",
+                        curve.file, largest, segment_weight)};
+    if (!(largest / segment_weight <= longest_chain))
+        throw std::runtime_error{
+            fmt::format("{}: the segment weight is {} g/mol, so that {} g/mol are {:.6g} segments; expected "
+                        "1e15 segments at most",
+                        curve.file, segment_weight, largest, largest / segment_weight)};
+}
+
 void check(const MeasuredCurve& curve, const FitOptions& options)
 {
     if (!(*std::ranges::max_element(curve.signal) > 0))
@@ -176,6 +194,7 @@ void add_sites(const Problem& problem, const RateSolution& solution, const Measu
 
 FitResults fit(const MeasuredCurve& curve, double segment_weight, const FitOptions& options)
 {
+    check_lengths(curve, segment_weight);
     check(curve, options);
     const auto problem = make_problem(curve, segment_weight, options.free_beta);
     const auto all = solutions(problem, options);

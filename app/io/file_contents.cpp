@@ -18,7 +18,9 @@ std::string read_at_most(const std::filesystem::path& file, std::size_t limit)
     const auto fail = [&](std::string_view why) {
         throw FileError{file, fmt::format("cannot be read: {}", why)};
     };
-    if (std::filesystem::is_directory(file)) fail("it is a directory");
+    if (file.empty()) throw std::runtime_error{"the name of an input file is empty"};
+    std::error_code no_file;
+    if (std::filesystem::is_directory(file, no_file)) fail("it is a directory");
     errno = 0;
     std::ifstream in{file, std::ios::binary};
     if (!in) fail(std::strerror(errno));

@@ -35,6 +35,7 @@ void OutputCheck::refuse(std::string reason)
 
 void OutputCheck::add_file(const std::string& option, const fs::path& file)
 {
+    if (file.empty()) return refuse(fmt::format("{} is empty; expected the name of a file", option));
     if (is_existing_directory(file))
         return refuse(fmt::format("{}: {} is a directory; expected a file", option, file.string()));
     for (const auto& input : inputs_)
@@ -42,15 +43,29 @@ void OutputCheck::add_file(const std::string& option, const fs::path& file)
             refuse(fmt::format("{}: {} is the input file {}; expected another output", option, file.string(),
                                input.string()));
     if (is_stream(file)) return;
-    const auto place = fs::weakly_canonical(fs::absolute(followed(file)));
+    std::error_code fault;
+    const auto place = fs::weakly_canonical(fs::absolute(followed(file)), fault);
+    if (fault) return refuse(fmt::format("{}: {}: {}", option, file.string(), fault.message()));
     if (std::ranges::find(outputs_, place) != outputs_.end())
         refuse(fmt::format("{}: {} is another output as well; expected two files", option, file.string()));
     outputs_.push_back(place);
 }
 
+void OutputCheck::add_own_file(const std::string& option, const fs::path& file)
+{
+    add_file(option, file);
+    std::error_code ignored;
+    const auto status = fs::symlink_status(file, ignored);
+    if (fs::exists(status) && !fs::is_regular_file(status))
+        refuse(fmt::format("{}: {} is no regular file; expected none, or that of an interrupted run", option,
+                           file.string()));
+}
+
 void OutputCheck::add_directory(const std::string& option, const fs::path& directory,
                                 const std::vector<std::string>& names)
 {
+    if (directory.empty())
+        return refuse(fmt::format("{} is empty; expected the name of a directory", option));
     std::error_code ignored;
     if (fs::exists(directory, ignored) && !is_existing_directory(directory))
         return refuse(fmt::format("{}: {} is a file; expected a directory", option, directory.string()));

@@ -14,6 +14,8 @@ public:
 
     // `option` names the output in the reason.
     void add_file(const std::string& option, const std::filesystem::path& file);
+    // A file that the command makes for itself: nothing else, such as a link or a device, may have its name.
+    void add_own_file(const std::string& option, const std::filesystem::path& file);
     void add_directory(const std::string& option, const std::filesystem::path& directory,
                        const std::vector<std::string>& names);
 

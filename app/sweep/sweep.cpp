@@ -88,7 +88,10 @@ public:
         run_tasks(
             {0}, {}, [this](std::size_t) { return columns_of_case(); },
             [this](const TaskOutcome& outcome) {
-                if (!outcome.result) throw std::runtime_error{options_.file.string() + ": " + outcome.why};
+                if (!outcome.result)
+                    throw std::runtime_error{
+                        fmt::format("{}: {}; it is the unchanged case, which gives the columns",
+                                    options_.file.string(), outcome.why)};
                 if (outcome.result->starts_with('!')) throw std::runtime_error{outcome.result->substr(1)};
                 add_columns(*outcome.result);
             });

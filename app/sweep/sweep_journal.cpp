@@ -47,14 +47,19 @@ std::string_view first_line(std::string_view text)
 SweepJournal::SweepJournal(std::filesystem::path result, const std::string& sweep, std::size_t cases)
     : result_(std::move(result)), head_(with_checksum({}, std::string{title} + sweep)), cases_(cases)
 {
-    if (is_stream(result_)) return;
-    file_ = result_.string() + ".partial";
-    descriptor_ = open_file(file_, O_RDWR | O_CREAT | O_APPEND);
+    file_ = file_for(result_);
+    if (file_.empty()) return;
+    descriptor_ = open_file(file_, O_RDWR | O_CREAT | O_APPEND | O_NOFOLLOW);
     if (!descriptor_) throw_not_written(file_);
     lock();
     const auto text = read_all(descriptor_.number());
     if (!text) throw_not_written(file_);
     take_up(*text);
+}
+
+std::filesystem::path SweepJournal::file_for(const std::filesystem::path& result)
+{
+    return is_stream(result) ? std::filesystem::path{} : std::filesystem::path{result.string() + ".partial"};
 }
 
 // A lock of this process: its children, which may outlive it, do not keep it.

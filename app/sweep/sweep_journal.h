@@ -28,6 +28,9 @@ public:
     // Writes the result, its header and the rows in the order of their numbers, and removes the journal.
     void finish(const std::string& header);
 
+    // Where the journal of a result is; empty for a stream, which has none.
+    static std::filesystem::path file_for(const std::filesystem::path& result);
+
     // Empty where there is none.
     const std::filesystem::path& file() const { return file_; }
 

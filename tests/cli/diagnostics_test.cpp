@@ -95,9 +95,23 @@ TEST(CaseDiagnostics, RefuseDepthAndSizeBeforeParsing)
               Lines{"c.toml: the text has 67108865 bytes; expected 64 MiB at most"});
 }
 
+TEST(CaseDiagnostics, RefuseManyDistributionsForTheirMemoryTogether)
+{
+    auto text = good;
+    for (int n = 0; n < 4000; ++n)
+        text += "[distributions.D" + std::to_string(n) +
+                "]\npoints = 100000\nlongest_chain = 1e6\nsites = [{ tau = 0.1, amount = 1 }]\n";
+    const auto seen = diagnose(text);
+    ASSERT_EQ(seen.size(), 1u);
+    EXPECT_NE(seen.front().find(": 100000 points of 4 curves, with the distributions before, need "),
+              std::string::npos)
+        << seen.front();
+}
+
 TEST(CaseDiagnostics, NamePlaceKeyValueAndExpectation)
 {
     EXPECT_EQ(diagnose(good), Lines{});
+    EXPECT_EQ(diagnose(with(good, "18.015", "9007199254740993")), Lines{});
     expect_each(R"(
 ZMOM = 0.5 -> zmon = 0.5 => 15:1: unknown key "zmon"; did you mean "ZMOM"?
 class = "conv -> clas = "conv => 2:11: unknown key "clas"; did you mean "class"?
@@ -219,6 +233,7 @@ distributions.D -> distributions."D\u001B"
     => 25:16: the name "D\u001B" is no text of one line without control characters
 "cm3/mol" -> "a\u000Ab"
     => 20:1: properties.V.unit is "a\u000Ab"; expected a text of one line without control characters
+tau = 1, -> tau = -1, => 28:12: distributions.D.sites[1].tau is -1; expected a finite number, 0 or greater
 0, 0, 0, 0, 0, 300 -> 0, 0
     => 32:37: parameters.K.pairs[1].values has 2 values; expected 6, one for each position
 300] } -> 0] } => 32:26: parameters.K.pairs: the reference temperature of P, O at position 6 is 0; expected

@@ -52,12 +52,12 @@ TEST(MeasuredCurve, AnExportedCompositeComesBackWithoutResidual)
 
 TEST(MeasuredCurve, MayHaveNotesInAnyBytes)
 {
-    const File measured{"caf\xE9 \x1B[2J\x7F\nM S\n1000 1\n20000 3\n", "measur\xE9"};
+    const File measured{"caf\xE9 \x1B[2J\x7F\nFlow rate, 1.0\nM S\n1000 1\n20000 3\n", "measur\xE9"};
     const auto seen = run_with(one_site, measured);
     EXPECT_EQ(seen.out.find('\x7F'), std::string::npos);
     const auto section = distribution(seen);
-    EXPECT_EQ(section["gpc_notes"], "caf\uFFFD \x1B[2J\x7F\nM S");
-    EXPECT_EQ(section["gpc_comparison"][0]["notes"], 2);
+    EXPECT_EQ(section["gpc_notes"], "caf\uFFFD \x1B[2J\x7F\nFlow rate, 1.0\nM S");
+    EXPECT_EQ(section["gpc_comparison"][0]["notes"], 3);
     const auto text = run_with(one_site, measured, {}, Format::text).out;
     EXPECT_NE(text.find("measur\\xE9 "), std::string::npos) << text;
     EXPECT_EQ(app::html_text("caf\xE9 \x1B\n<"), "caf\uFFFD \uFFFD\n&lt;");
@@ -104,7 +104,8 @@ TEST(MeasuredCurve, SaysWhatIsWrongWithItAndWhatACaseLacksForIt)
         {one_site, "M S\n30 4\n", "",
          "/measured: 1 line with two numbers; expected at least 2: molecular weight and signal\n"},
         {one_site, "M S\n10 1\n30 1\n30 1\n40 1\n", "",
-         "/measured: molecular weight 30 is followed by 30; expected molecular weights that all rise or all "
+         "/measured:4: molecular weight 30 is followed by 30; expected molecular weights that all rise or "
+         "all "
          "fall\n"},
         {one_site + second, "1000 1\n2000 1\n", "", "has 2 distributions; expected the name of one"},
         {one_site + second, "1000 1\n2000 1\n", "F", "has no distribution \"F\"; expected one of D, E"},

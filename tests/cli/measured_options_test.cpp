@@ -74,6 +74,9 @@ M,S\n1000,x\n2000,3\n => m.txt:2: "1000,x"; expected two numbers, molecular weig
 M S\n1000 1\n2000;3;4\n => m.txt:3: "2000;3;4"; expected two numbers
 M,S\n1000,5,0,25\n2000,5,0,75\n => m.txt:2: "1000,5,0,25"; expected two numbers, molecular weight and signal;
     the line has 4 numbers, and decimal commas need `;`, tabs or blanks between columns
+10OO,4.5\n2000,3\n3000,1\n => m.txt:1: "10OO,4.5"; expected two numbers, molecular weight and signal, or
+,4.5\n2000,3\n3000,1\n => m.txt:1: ",4.5"; expected two numbers
+M,S\n1000\n2000,3\n3000,1\n => m.txt:2: "1000"; expected two numbers
 M S\n1e999 1\n2000 1\n => m.txt:2: "1e999 1"; expected finite numbers that are 0 or have a size from 2.3e-308
     to 1.7e308
 M S\n1000 1\n1e16 1\n => m.txt:3: "1e16 1"; expected a molecular weight from 1e-15 to 1e15

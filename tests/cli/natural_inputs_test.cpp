@@ -242,6 +242,11 @@ mass_flows = { W = 36 } -> mass_flows = { A-R = 36 } => 11:16: streams.S.mass_fl
     can be computed one after another
 { T = 4, S = 1 } -> { T = 4, U = 1 }
     => 23:16: streams.N.mix names "U", which is not a stream; expected one of S, T, M, N
+mass = 800 -> mass = 1e-12
+    => 12:19: streams.S.chains.P: ZMOM is 1.25e-16 kmol/h; expected 0, or more than the zero bound, 1e-15, and
+       less than the missing value bound, 1e+35
+dispersity = 2 -> mz = 1000\ntype = "log-normal"
+    => 12:19: streams.S.chains.P: mz is 1000 g/mol; expected at least mn, 8000 g/mol
 { T = 4, S = 1 } -> { } => 23:1: streams.N.mix is empty; expected at least one stream
 { T = 4, S = 1 } -> { T = 4, S = -1 } => 23:16: streams.N.mix.S is -1; expected a finite number, 0 or greater
 { T = 4, S = 1 } -> { T = 4 }\nflows = { W = 1 }

@@ -63,6 +63,11 @@ class Files(unittest.TestCase):
         (self.folder / "set/case.D.csv").symlink_to("../curve.csv")
         (self.folder / "set/case.fit.json").symlink_to("../curve.csv")
         self.write("case.csv", self.text("curve.csv"))
+        (self.folder / "t.partial").symlink_to("case.toml")
+        (self.folder / "u.partial").symlink_to("case.csv")
+        os.link(self.folder / "case.toml", self.folder / "v.partial")
+        (self.folder / "w.partial").symlink_to("/dev/full")
+        (self.folder / "loop").symlink_to("loop")
         before = {name: self.text(name) for name in ("case.toml", "curve.csv", "case.csv")}
         gpc, fit = ("--gpc", "curve.csv"), ("fit", "case.toml", "--sites", "1")
         refused = [
@@ -77,6 +82,17 @@ class Files(unittest.TestCase):
             ((*fit, *gpc, "--out", "set"), "set/case.fit.json is the input file curve.csv"),
             (("sweep", "case.toml", *SET, "--out", "case.toml"), "is the input file case.toml"),
             (("sweep", "case.toml", *SET, "--out", "set"), "set is a directory; expected a file"),
+            (("sweep", "case.toml", *SET, "--out", "t"), "the journal: t.partial is the input file case.toml"),
+            (("sweep", "case.toml", *SET, "--out", "u"), "the journal: u.partial is no regular file"),
+            (("sweep", "case.toml", *SET, "--out", "v"), "the journal: v.partial is the input file case.toml"),
+            (("sweep", "case.toml", *SET, "--out", "w"), "the journal: w.partial is no regular file"),
+            (("sweep", "case.toml", *SET, "--out", ""), "--out is empty; expected the name of a file"),
+            (("run", "case.toml", "--out", ""), "--out is empty; expected the name of a directory"),
+            (("run", "case.toml", "--export-gpc", "loop/curve"), "loop/curve: Too many levels of symbolic links"),
+            (("run", "case.toml", "--format", "\x1b[31m"), "\\u001B[31m"),
+        ] + [
+            ((*fit, *gpc, "--segment-weight", weight), f'"{weight}"; expected a finite number greater than 0')
+            for weight in ("0", "-1", "nan", "inf", "x", "1e-400")
         ] + [
             (("fit", "case.toml", *gpc, "--sites", sites),
              f'"{sites}"; expected a number of sites or a range such as 1:8, 20 at most')
@@ -90,6 +106,13 @@ class Files(unittest.TestCase):
                 self.assertEqual(outcome.stdout, "")
                 self.assertEqual({name: self.text(name) for name in before}, before)
                 self.assertEqual(self.names(), names)
+
+    def test_names_of_inputs_are_read_or_refused(self):
+        (self.folder / "loop").symlink_to("loop")
+        self.write("one_byte", "=")
+        for name, reason in (("", "the name of an input file is empty"), ("one_byte", "one_byte:1:1: "),
+                             ("loop", "loop: cannot be read: Too many levels of symbolic links")):
+            self.assertIn(reason, self.run_program("run", name, status=1).stderr)
 
     def test_links_are_followed_and_modes_kept(self):
         curve = self.text("curve.csv")

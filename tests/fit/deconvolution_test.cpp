@@ -169,6 +169,13 @@ TEST(Deconvolution, LimitsABetaOfZeroByTheSumOfSquares)
     EXPECT_NEAR(least_squares(lengths, signal, share) - at_zero, allowed, 0.05 * allowed);
 }
 
+TEST(Deconvolution, RefusesSegmentWeightsThatGiveNoChains)
+{
+    const auto curve = curve_of({{0.0014, 0, 1}}, 40, 10, 1e5);
+    for (const double weight : {1e308, std::nan(""), 1e-300})
+        EXPECT_THROW(app::fit(curve, weight, {1, 1, false}), std::runtime_error) << weight;
+}
+
 // The error is 1 % of each signal at most.
 TEST(Deconvolution, GivesLimitsOfBeta)
 {
