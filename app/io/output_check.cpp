@@ -36,6 +36,10 @@ void OutputCheck::refuse(std::string reason)
 void OutputCheck::add_file(const std::string& option, const fs::path& file)
 {
     if (file.empty()) return refuse(fmt::format("{} is empty; expected the name of a file", option));
+    std::error_code fault;
+    static_cast<void>(fs::status(file, fault));
+    if (fault == std::errc::too_many_symbolic_link_levels)
+        return refuse(fmt::format("{}: {}: {}", option, file.string(), fault.message()));
     if (is_existing_directory(file))
         return refuse(fmt::format("{}: {} is a directory; expected a file", option, file.string()));
     for (const auto& input : inputs_)
@@ -43,9 +47,7 @@ void OutputCheck::add_file(const std::string& option, const fs::path& file)
             refuse(fmt::format("{}: {} is the input file {}; expected another output", option, file.string(),
                                input.string()));
     if (is_stream(file)) return;
-    std::error_code fault;
-    const auto place = fs::weakly_canonical(fs::absolute(followed(file)), fault);
-    if (fault) return refuse(fmt::format("{}: {}: {}", option, file.string(), fault.message()));
+    const auto place = fs::weakly_canonical(fs::absolute(followed(file)));
     if (std::ranges::find(outputs_, place) != outputs_.end())
         refuse(fmt::format("{}: {} is another output as well; expected two files", option, file.string()));
     outputs_.push_back(place);
