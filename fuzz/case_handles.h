@@ -4,6 +4,8 @@
 #include <polyprops/case.h>
 
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "fuzz/cases.h"
 
@@ -16,23 +18,29 @@ struct Free {
 using CaseHandle = std::unique_ptr<polyprops_case, Free>;
 using RunHandle = std::unique_ptr<polyprops_run, Free>;
 
+// One line for each diagnostic: file, line, column, key, severity and text.
 template <typename Handle, typename Ask>
-void read_diagnostics(const Handle* handle, std::size_t count, const Ask& ask)
+std::vector<std::string> lines(const Handle* handle, std::size_t count, const Ask& ask)
 {
-    polyprops_diagnostic found{};
+    std::vector<std::string> all;
+    polyprops_diagnostic d{};
     for (std::size_t i = 0; i < count; ++i) {
-        require(ask(handle, i, &found) == POLYPROPS_OK, "a counted diagnostic is missing");
-        require(found.file && found.key && found.text && *found.text != '\0', "a diagnostic lacks a text");
+        require(ask(handle, i, &d) == POLYPROPS_OK, "a counted diagnostic is missing");
+        require(d.file && d.key && d.text && *d.text != '\0', "a diagnostic lacks a text");
+        const auto place = std::to_string(d.line) + ":" + std::to_string(d.column);
+        all.push_back(std::string{d.file} + ":" + place + " [" + d.key + "] " + std::to_string(d.severity) +
+                      " " + d.text);
     }
-    require(ask(handle, count, &found) != POLYPROPS_OK, "there is a diagnostic past the last");
+    require(ask(handle, count, &d) != POLYPROPS_OK, "there is a diagnostic past the last");
+    return all;
 }
-inline void read_diagnostics(const polyprops_case* handle)
+inline std::vector<std::string> diagnostics(const CaseHandle& handle)
 {
-    read_diagnostics(handle, polyprops_case_diagnostic_count(handle), polyprops_case_diagnostic);
+    return lines(handle.get(), polyprops_case_diagnostic_count(handle.get()), polyprops_case_diagnostic);
 }
-inline void read_diagnostics(const polyprops_run* handle)
+inline std::vector<std::string> diagnostics(const RunHandle& handle)
 {
-    read_diagnostics(handle, polyprops_run_diagnostic_count(handle), polyprops_run_diagnostic);
+    return lines(handle.get(), polyprops_run_diagnostic_count(handle.get()), polyprops_run_diagnostic);
 }
 
 // Every counted number and array of a run can be asked for by its key.

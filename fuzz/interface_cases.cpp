@@ -40,7 +40,7 @@ public:
                 if (is_small(input.get())) run.reset(polyprops_case_run(input.get()));
                 return;
             case 'q':
-                return read_run(run.get(), argument);
+                return read_run(run, argument);
             case 'x':
                 return input.reset();
             case 'y':
@@ -58,7 +58,7 @@ public:
             require(handle || status == POLYPROPS_OUT_OF_MEMORY, "a NULL handle has another status");
             require(status != POLYPROPS_CASE_ERROR || polyprops_case_diagnostic_count(handle) > 0,
                     "an error has no diagnostic");
-            read_diagnostics(handle);
+            diagnostics(input);
         }
     }
 
@@ -117,9 +117,10 @@ private:
         return size < 5000;
     }
 
-    static void read_run(polyprops_run* run, const std::string& key)
+    static void read_run(const RunHandle& handle, const std::string& key)
     {
-        read_diagnostics(run);
+        polyprops_run* const run = handle.get();
+        diagnostics(handle);
         read_results(run);
         double value = 0;
         polyprops_run_number(run, key.c_str(), &value);

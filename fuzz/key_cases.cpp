@@ -68,7 +68,7 @@ void check_run(const polyprops_case* input, const std::string& key)
             polyprops_run_number(run.get(), polyprops_run_number_key(run.get(), i), &value);
             require(std::isfinite(value), "a result of a good run is not finite");
         }
-    read_diagnostics(run.get());
+    diagnostics(run);
     read_results(run.get());
 }
 

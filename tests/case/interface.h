@@ -16,6 +16,7 @@ namespace case_test {
 
 using CasePointer = polyprops_fuzz::CaseHandle;
 using RunPointer = polyprops_fuzz::RunHandle;
+using polyprops_fuzz::diagnostics;
 
 using Json = nlohmann::json;
 
@@ -48,29 +49,6 @@ inline std::vector<std::filesystem::path> case_files(const std::filesystem::path
     for (const auto& entry : std::filesystem::directory_iterator{folder})
         if (entry.path().extension() == ".toml") files.push_back(entry.path());
     return files;
-}
-
-// One line for each diagnostic: file, line, column, key, severity and text.
-template <typename Handle, typename Ask>
-std::vector<std::string> lines(const Handle& handle, std::size_t count, const Ask& ask)
-{
-    std::vector<std::string> all;
-    polyprops_diagnostic d{};
-    for (std::size_t i = 0; ask(handle.get(), i, &d) == POLYPROPS_OK; ++i)
-        all.push_back(std::string{d.file} + ":" + std::to_string(d.line) + ":" + std::to_string(d.column) +
-                      " [" + d.key + "] " + std::to_string(d.severity) + " " + d.text);
-    EXPECT_EQ(all.size(), count);
-    return all;
-}
-
-inline std::vector<std::string> diagnostics(const CasePointer& handle)
-{
-    return lines(handle, polyprops_case_diagnostic_count(handle.get()), polyprops_case_diagnostic);
-}
-
-inline std::vector<std::string> diagnostics(const RunPointer& handle)
-{
-    return lines(handle, polyprops_run_diagnostic_count(handle.get()), polyprops_run_diagnostic);
 }
 
 // Values of an array, column by column.
