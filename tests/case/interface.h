@@ -54,8 +54,7 @@ inline std::vector<std::filesystem::path> case_files(const std::filesystem::path
 // Values of an array, column by column.
 struct Array {
     std::span<const double> values;
-    std::size_t rows = 0;
-    std::size_t columns = 0;
+    std::size_t rows = 0, columns = 0;
 };
 
 inline Array array(const RunPointer& handle, const std::string& key)
