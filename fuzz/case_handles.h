@@ -3,6 +3,7 @@
 
 #include <polyprops/case.h>
 
+#include <cmath>
 #include <memory>
 #include <string>
 #include <vector>
@@ -43,20 +44,28 @@ inline std::vector<std::string> diagnostics(const RunHandle& handle)
     return lines(handle.get(), polyprops_run_diagnostic_count(handle.get()), polyprops_run_diagnostic);
 }
 
-// Every counted number and array of a run can be asked for by its key.
-inline void read_results(const polyprops_run* run)
+// Asks for what has any key, and for every counted diagnostic, number and array by its own.
+inline void read_run(const RunHandle& handle, const std::string& key)
 {
+    diagnostics(handle);
+    const polyprops_run* const run = handle.get();
     double value = 0;
-    const double* values = nullptr;
-    std::size_t rows = 0, columns = 0;
-    for (std::size_t i = 0; i < polyprops_run_number_count(run); ++i)
+    polyprops_run_number(run, key.c_str(), &value);
+    for (std::size_t i = 0; i < polyprops_run_number_count(run); ++i) {
         require(polyprops_run_number(run, polyprops_run_number_key(run, i), &value) == POLYPROPS_OK,
                 "a number has no value");
+        require(polyprops_run_status(run) != POLYPROPS_OK || std::isfinite(value),
+                "a result of a good run is not finite");
+    }
+    const double* values = nullptr;
+    std::size_t rows = 0;
+    std::size_t columns = 0;
+    polyprops_run_array(run, key.c_str(), &values, &rows, &columns);
     for (std::size_t i = 0; i < polyprops_run_array_count(run); ++i) {
         const char* const name = polyprops_run_array_key(run, i);
         require(polyprops_run_array(run, name, &values, &rows, &columns) == POLYPROPS_OK,
                 "an array has no values");
-        require(rows * columns == 0 || values[rows * columns - 1] == values[rows * columns - 1],
+        require(rows * columns == 0 || !std::isnan(values[rows * columns - 1]),
                 "an array ends with what is not a number");
     }
 }

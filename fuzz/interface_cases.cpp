@@ -40,6 +40,7 @@ public:
                 if (is_small(input.get())) run.reset(polyprops_case_run(input.get()));
                 return;
             case 'q':
+                polyprops_run_text(run.get(), static_cast<int>(argument.size()) - 1, nullptr);
                 return read_run(run, argument);
             case 'x':
                 return input.reset();
@@ -115,19 +116,6 @@ private:
             size += std::isfinite(value) ? std::abs(value) : 1;
         }
         return size < 5000;
-    }
-
-    static void read_run(const RunHandle& handle, const std::string& key)
-    {
-        polyprops_run* const run = handle.get();
-        diagnostics(handle);
-        read_results(run);
-        double value = 0;
-        polyprops_run_number(run, key.c_str(), &value);
-        const double* values = nullptr;
-        std::size_t rows = 0, columns = 0, size = 0;
-        polyprops_run_array(run, key.c_str(), &values, &rows, &columns);
-        polyprops_run_text(run, static_cast<int>(key.size()) - 1, &size);
     }
 
     std::array<CaseHandle, 2> cases_;

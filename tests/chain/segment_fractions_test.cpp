@@ -54,8 +54,7 @@ TEST(SegmentFractions, OfAPolymer)
 
 TEST(SegmentFractions, OfAnOligomerKnownByItsPlaceInTheList)
 {
-    auto world =
-        World{}.segments({{"A", 100}, {"B", 50}}).oligomer("O", {{"A", 1}, {"B", 3}}).oligomer("Z", {});
+    auto world = copolymer({}).oligomer("O", {{"A", 1}, {"B", 3}}).oligomer("Z", {});
     world.class_of("O", ComponentClass::conventional).component("U", ComponentClass::oligomer);
     EXPECT_EQ(fractions(world, "O"), (Fractions{{0.25, 0.75}, {0.4, 0.6}}));
     EXPECT_EQ(fractions(world, "Z"), (Fractions{{0.5, 0.5}, {0.5, 0.5}}));
