@@ -40,7 +40,8 @@ public:
                 if (is_small(input.get())) run.reset(polyprops_case_run(input.get()));
                 return;
             case 'q':
-                return read_run(run.get(), argument);
+                polyprops_run_text(run.get(), static_cast<int>(argument.size()) - 1, nullptr);
+                return read_run(run, argument);
             case 'x':
                 return input.reset();
             case 'y':
@@ -58,7 +59,7 @@ public:
             require(handle || status == POLYPROPS_OUT_OF_MEMORY, "a NULL handle has another status");
             require(status != POLYPROPS_CASE_ERROR || polyprops_case_diagnostic_count(handle) > 0,
                     "an error has no diagnostic");
-            read_diagnostics(handle);
+            diagnostics(input);
         }
     }
 
@@ -115,18 +116,6 @@ private:
             size += std::isfinite(value) ? std::abs(value) : 1;
         }
         return size < 5000;
-    }
-
-    static void read_run(polyprops_run* run, const std::string& key)
-    {
-        read_diagnostics(run);
-        read_results(run);
-        double value = 0;
-        polyprops_run_number(run, key.c_str(), &value);
-        const double* values = nullptr;
-        std::size_t rows = 0, columns = 0, size = 0;
-        polyprops_run_array(run, key.c_str(), &values, &rows, &columns);
-        polyprops_run_text(run, static_cast<int>(key.size()) - 1, &size);
     }
 
     std::array<CaseHandle, 2> cases_;

@@ -53,23 +53,13 @@ void check_run(const polyprops_case* input, const std::string& key)
 {
     const RunHandle run{polyprops_case_run(input)};
     require(run != nullptr, "there is no run");
-    double value = 0;
-    const double* values = nullptr;
-    std::size_t rows = 0, columns = 0, size = 0;
-    polyprops_run_number(run.get(), key.c_str(), &value);
-    polyprops_run_array(run.get(), key.c_str(), &values, &rows, &columns);
+    read_run(run, key);
     for (const int format : {POLYPROPS_TEXT, POLYPROPS_CSV, POLYPROPS_JSON}) {
+        std::size_t size = 0;
         const char* text = polyprops_run_text(run.get(), format, &size);
         const bool has_results = polyprops_run_number_count(run.get()) > 0;
         require(!has_results || (text && size > 0), "results have no text");
     }
-    if (polyprops_run_status(run.get()) == POLYPROPS_OK)
-        for (std::size_t i = 0; i < polyprops_run_number_count(run.get()); ++i) {
-            polyprops_run_number(run.get(), polyprops_run_number_key(run.get(), i), &value);
-            require(std::isfinite(value), "a result of a good run is not finite");
-        }
-    read_diagnostics(run.get());
-    read_results(run.get());
 }
 
 }  // namespace

@@ -175,19 +175,16 @@ public:
         for (Int k = 1; k <= count(catalysts); ++k) real(catalysts, k);
         for (Int k = 1; k <= POLYPROPS_PARAMETER_INTEGERS; ++k) integer(parameters, k);
         for (Int k = 1; k <= POLYPROPS_PARAMETER_REALS; ++k) real(parameters, k);
-        check_layout(block(POLYPROPS_ATTRIBUTE_LAYOUT));
+        const BlockId layout = block(POLYPROPS_ATTRIBUTE_LAYOUT);
+        const Int last = POLYPROPS_GROUPS - 1;
+        require(integer(layout, POLYPROPS_GROUP_STARTS + last) +
+                        integer(layout, POLYPROPS_GROUP_LENGTHS + last) ==
+                    store_.real_length(layout),
+                "the attribute groups do not fill the layout table");
         check_distributions();
     }
 
 private:
-    void check_layout(BlockId layout)
-    {
-        const Int last = POLYPROPS_GROUPS - 1;
-        const Int groups_end =
-            integer(layout, POLYPROPS_GROUP_STARTS + last) + integer(layout, POLYPROPS_GROUP_LENGTHS + last);
-        require(groups_end == store_.real_length(layout),
-                "the attribute groups do not fill the layout table");
-    }
     BlockId block(PolypropsPolymerWord word) { return store_.integer(host_.polymer_block(), word); }
     Int count(BlockId id) { return store_.integer(id, 1); }
     // A word that a reader may read: it lies in its block and was written.
@@ -235,30 +232,20 @@ private:
     Store& store_;
 };
 
-std::vector<Component> components(Int count)
-{
-    std::vector<Component> result;
-    for (Int c = 1; c <= count; ++c) result.push_back({.id = "C" + std::to_string(c)});
-    return result;
-}
-
-void suppress_some(MessageLog& messages, Bytes& bytes)
-{
-    messages.set_level(bytes.byte() % 4);
-    for (Int left = bytes.byte() % 4; left > 0; --left)
-        messages.answer(1 + bytes.byte() % 31, bytes.byte() % 3);
-}
-
 }  // namespace
 
 void check_paragraphs(std::string_view text)
 {
     Bytes bytes{text};
     const Int component_count = 1 + bytes.below(400);
-    Host host{components(component_count), {.store_mode = Store::Mode::checked}};
+    std::vector<Component> components;
+    for (Int c = 1; c <= component_count; ++c) components.push_back({.id = "C" + std::to_string(c)});
+    Host host{std::move(components), {.store_mode = Store::Mode::checked}};
     ParagraphMaker maker{bytes, component_count};
     for (Int left = 4; left > 0 && !bytes.used_up(); --left) {
-        suppress_some(host.messages(), bytes);
+        host.messages().set_level(bytes.byte() % 4);
+        for (Int answers = bytes.byte() % 4; answers > 0; --answers)
+            host.messages().answer(1 + bytes.byte() % 31, bytes.byte() % 3);
         host.paragraph().set(maker.paragraph());
         const BlockId paragraph = ST_TABLES[1];
         const Int check = 2;

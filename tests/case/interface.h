@@ -16,6 +16,7 @@ namespace case_test {
 
 using CasePointer = polyprops_fuzz::CaseHandle;
 using RunPointer = polyprops_fuzz::RunHandle;
+using polyprops_fuzz::diagnostics;
 
 using Json = nlohmann::json;
 
@@ -50,34 +51,10 @@ inline std::vector<std::filesystem::path> case_files(const std::filesystem::path
     return files;
 }
 
-// One line for each diagnostic: file, line, column, key, severity and text.
-template <typename Handle, typename Ask>
-std::vector<std::string> lines(const Handle& handle, std::size_t count, const Ask& ask)
-{
-    std::vector<std::string> all;
-    polyprops_diagnostic d{};
-    for (std::size_t i = 0; ask(handle.get(), i, &d) == POLYPROPS_OK; ++i)
-        all.push_back(std::string{d.file} + ":" + std::to_string(d.line) + ":" + std::to_string(d.column) +
-                      " [" + d.key + "] " + std::to_string(d.severity) + " " + d.text);
-    EXPECT_EQ(all.size(), count);
-    return all;
-}
-
-inline std::vector<std::string> diagnostics(const CasePointer& handle)
-{
-    return lines(handle, polyprops_case_diagnostic_count(handle.get()), polyprops_case_diagnostic);
-}
-
-inline std::vector<std::string> diagnostics(const RunPointer& handle)
-{
-    return lines(handle, polyprops_run_diagnostic_count(handle.get()), polyprops_run_diagnostic);
-}
-
 // Values of an array, column by column.
 struct Array {
     std::span<const double> values;
-    std::size_t rows = 0;
-    std::size_t columns = 0;
+    std::size_t rows = 0, columns = 0;
 };
 
 inline Array array(const RunPointer& handle, const std::string& key)

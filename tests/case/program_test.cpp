@@ -1,6 +1,6 @@
 // The program and the C example against the interface, bit for bit.
 #include <cstdlib>
-#include <map>
+#include <regex>
 #include <sstream>
 
 #include "case/interface.h"
@@ -12,18 +12,10 @@ using namespace case_test;
 // The fields of a CSV line, some of them in quotes.
 std::vector<std::string> fields(const std::string& line)
 {
-    std::vector<std::string> all(1);
-    bool is_quoted = false;
-    for (std::size_t i = 0; i < line.size(); ++i) {
-        if (line[i] == '"' && is_quoted && line.substr(i, 2) == "\"\"")
-            all.back() += line[++i];
-        else if (line[i] == '"')
-            is_quoted = !is_quoted;
-        else if (line[i] == ',' && !is_quoted)
-            all.emplace_back();
-        else
-            all.back() += line[i];
-    }
+    static const std::regex field{R"re((?:^|,)(?:"((?:[^"]|"")*)"|([^",]*)))re"}, quotes{R"("")"};
+    std::vector<std::string> all;
+    for (std::sregex_iterator at{line.begin(), line.end(), field}, end; at != end; ++at)
+        all.push_back(std::regex_replace(at->str(1), quotes, "\"") + at->str(2));
     return all;
 }
 

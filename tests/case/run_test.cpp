@@ -5,6 +5,7 @@
 namespace {
 
 using namespace case_test;
+
 TEST(Run, GivesEveryInputMessageInTheWordsOfTheProgramAndPrintsNothing)
 {
     testing::internal::CaptureStdout();

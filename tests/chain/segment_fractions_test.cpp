@@ -32,36 +32,33 @@ TEST(SegmentFractions, OfAPolymer)
     const Attribute flows{"SFLOW", {1, 3}};
     const struct {
         const char* name;
-        Attributes attributes;
+        World world;
         Fractions expected;
     } cases[] = {
-        {"fractions give moles, flows mass", {{"SFRAC", {0.2, 0.3}}, flows}, {{0.4, 0.6}, {0.4, 0.6}}},
-        {"flows without fractions", {flows}, {{0.25, 0.75}, {0.4, 0.6}}},
-        {"a missing element counts 0", {{"SFLOW", {missing, 3}}}, {{0, 1}, {0, 1}}},
-        {"at the zero bound in moles, above in mass", {{"SFLOW", {zero_bound, 0}}}, {{0.5, 0.5}, {1, 0}}},
-        {"nothing carried", {}, {{0.5, 0.5}, {0.5, 0.5}}},
+        {"fractions give moles, flows mass",
+         copolymer({{"SFRAC", {0.2, 0.3}}, flows}),
+         {{0.4, 0.6}, {0.4, 0.6}}},
+        {"flows without fractions", copolymer({flows}), {{0.25, 0.75}, {0.4, 0.6}}},
+        {"a missing element counts 0", copolymer({{"SFLOW", {missing, 3}}}), {{0, 1}, {0, 1}}},
+        {"bound in moles, above it in mass", copolymer({{"SFLOW", {zero_bound, 0}}}), {{0.5, 0.5}, {1, 0}}},
+        {"nothing carried", copolymer({}), {{0.5, 0.5}, {0.5, 0.5}}},
+        {"no polymer block", copolymer({flows}).without_polymer_block(), untouched},
+        {"not listed", World{}.segments({"A"}).component("P", ComponentClass::polymer), untouched},
+        {"no segments", World{}.polymer("P"), untouched},
     };
-    for (const auto& c : cases) EXPECT_EQ(fractions(copolymer(c.attributes), "P"), c.expected) << c.name;
+    for (const auto& c : cases) EXPECT_EQ(fractions(c.world, "P"), c.expected) << c.name;
     auto negative_offset = copolymer({{"SFRAC", {1, 3}}, flows}).hidden_attribute("P", "SFRAC");
     EXPECT_EQ(fractions(negative_offset, "P").first, (Values{0.5, 0.5}));
+    EXPECT_EQ(fractions(copolymer({flows}), "W"), untouched);
 }
 
 TEST(SegmentFractions, OfAnOligomerKnownByItsPlaceInTheList)
 {
-    auto world =
-        World{}.segments({{"A", 100}, {"B", 50}}).oligomer("O", {{"A", 1}, {"B", 3}}).oligomer("Z", {});
+    auto world = copolymer({}).oligomer("O", {{"A", 1}, {"B", 3}}).oligomer("Z", {});
     world.class_of("O", ComponentClass::conventional).component("U", ComponentClass::oligomer);
     EXPECT_EQ(fractions(world, "O"), (Fractions{{0.25, 0.75}, {0.4, 0.6}}));
     EXPECT_EQ(fractions(world, "Z"), (Fractions{{0.5, 0.5}, {0.5, 0.5}}));
     EXPECT_EQ(fractions(world, "U"), untouched);
-}
-
-TEST(SegmentFractions, LeaveTheOutputUntouchedWhereThereIsNothingToSay)
-{
-    EXPECT_EQ(fractions(copolymer({{"SFLOW", {1, 3}}}), "W"), untouched);
-    EXPECT_EQ(fractions(copolymer({{"SFLOW", {1, 3}}}).without_polymer_block(), "P"), untouched);
-    EXPECT_EQ(fractions(World{}.segments({"A"}).component("P", ComponentClass::polymer), "P"), untouched);
-    EXPECT_EQ(fractions(World{}.polymer("P"), "P"), untouched) << "no segments";
 }
 
 TEST(SegmentFractions, OfAListFillColumns)

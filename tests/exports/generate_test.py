@@ -115,9 +115,16 @@ class BuiltFile(unittest.TestCase):
                                                 str(root / "host.h"),
                                                 *(["--case-header", str(root / "case.h")] if case else [])])
 
+    def check_all(self, cases, case=None):
+        for code, flags, expected in cases:
+            with self.subTest(expected):
+                status, text = self.check(code, *flags, case=case)
+                self.assertEqual(status, 1 if expected else 0, text)
+                self.assertIn(expected, text)
+
     def test_accepts_the_table_and_nothing_else(self):
-        self.assertEqual(self.check(self.SOUND)[0], 0)
-        cases = [
+        self.check_all([
+            (self.SOUND, (), ""),
             (self.SOUND + "void helper(void) {}", (), "helper is exported but is not declared"),
             (self.SOUND.replace("POLY_PACK", "POLY_PAK"), (), "POLY_PACK is declared but is not exported"),
             (self.SOUND + "void ST_OTHER(void); static void f(void) { ST_OTHER(); } void* g = f;", (),
@@ -125,12 +132,7 @@ class BuiltFile(unittest.TestCase):
             (self.SOUND + "void abort(void); static void f(void) { abort(); } void* const g = f;",
              (), "needs abort, which a library must not call"),
             (self.SOUND, ("-Wl,--no-as-needed", "-lgcc_s"), "needs the library libgcc_s.so.1"),
-        ]
-        for code, flags, expected in cases:
-            with self.subTest(expected):
-                status, text = self.check(code, *flags)
-                self.assertEqual(status, 1)
-                self.assertIn(expected, text)
+        ])
 
     def test_a_case_layer_adds_its_functions_and_contains_its_host(self):
         header = "int polyprops_add(int a);  // unlike polyprops_gone(a)\nconst char*\n    polyprops_name (void);"
@@ -138,18 +140,13 @@ class BuiltFile(unittest.TestCase):
         add = "int polyprops_add(int a) { return a; }"
         functions = add + "const char* polyprops_name(void) { return 0; }"
         unwinding = "int _Unwind_Backtrace(void*, void*); int polyprops_add(int a) { return _Unwind_Backtrace(0, 0) + a; }"
-        cases = [
+        self.check_all([
             (routine + functions, (), ""),
             (routine + functions.replace(add, unwinding), ("-lgcc_s",), ""),
             (routine + add, (), "polyprops_name is declared but is not exported"),
             (self.SOUND + functions, (), "needs ST_WORDS, which neither"),
             (routine + functions, ("-Wl,--no-as-needed", "-latomic"), "needs the library libatomic.so.1"),
-        ]
-        for code, flags, expected in cases:
-            with self.subTest(expected):
-                status, text = self.check(code, *flags, case=header)
-                self.assertEqual(status, 1 if expected else 0, text)
-                self.assertIn(expected, text)
+        ], case=header)
 
 
 if __name__ == "__main__":

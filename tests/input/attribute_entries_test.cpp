@@ -5,15 +5,14 @@ using namespace minihost;
 
 TEST(AttributeEntries, AreForwardedWhenTheyHoldWhatTheirRolesNeed)
 {
-    struct Case {
+    const struct {
         const char* name;
         std::vector<AttributeSentence::Entry> entries;
         Ints suppressed;
         Ints messages;
         const char* forwarded;
         Int segment_type = 2;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"what the roles need, in any order",
          {{"Q", {"DPN", "SFLOW", "ZMOM"}},
           {"K", {"CVSFLOW", "CPSFLOW"}},
@@ -40,7 +39,7 @@ TEST(AttributeEntries, AreForwardedWhenTheyHoldWhatTheirRolesNeed)
          "Q:EFRAC,ZMOM,SFLOW X:DPN"},
         {"EFRAC with an end segment", {{"W", {"DPN", "EFRAC"}}}, {}, {}, "W:DPN,EFRAC", 1},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         CheckedParagraph world;
         for (const Int number : c.suppressed) world.host.messages().suppress(number);

@@ -36,14 +36,12 @@ struct ScalingWorld : CheckedParagraph {
 
 TEST(CatalystScaling, WritesTheSecondValueIntoColumnOneAndTheFirstIntoColumnThree)
 {
-    struct Case {
-        const char* name;
-        double first;
-        double second;
-        Values columns;
-    };
     const double below = std::nextafter(bound, 0);
-    const Case cases[] = {
+    const struct {
+        const char* name;
+        double first, second;
+        Values columns;
+    } cases[] = {
         {"both", 3, 5, {5, 0, 3}},
         {"only the first", 3, bound, {0, 0, 3}},
         {"only the second", bound, 5, {5, 0, 0}},
@@ -54,10 +52,9 @@ TEST(CatalystScaling, WritesTheSecondValueIntoColumnOneAndTheFirstIntoColumnThre
     for (const auto& [name, first, second, columns] : cases) {
         SCOPED_TRACE(name);
         ScalingWorld world;
-        EXPECT_EQ(world.scale({{"K", "CPSFLOW", first, second},
-                               {"P", "ZMOM", first, second},
-                               {"P", "SZMOM", first, second}}),
-                  -1);
+        const std::vector<ScalingEntry> entries{
+            {"K", "CPSFLOW", first, second}, {"P", "ZMOM", first, second}, {"P", "SZMOM", first, second}};
+        EXPECT_EQ(world.scale(entries), -1);
         EXPECT_TRUE(world.host.messages().printed().empty());
         for (Int column = 1; column <= 3; ++column) {
             const double expected = columns[static_cast<std::size_t>(column - 1)];

@@ -73,21 +73,20 @@ Texts printed(const MessageLog& log)
 
 TEST(InputMessages, AreComposedAsTheHostAllows)
 {
-    struct Case {
+    const Texts no_segment{"3 / NO SEGMENT WAS SPECIFIED IN THIS PARAGRAPH / PARAGRAPH WILL BE IGNORED."};
+    const struct {
         std::vector<Sentence> sentences;
         Texts messages;
         Ints composed_on_two;           // the others are composed on the answer 1 alone
         Int printed_though_suppressed;  // the others are printed only when composed
-    };
-    const Texts no_segment{"3 / NO SEGMENT WAS SPECIFIED IN THIS PARAGRAPH / PARAGRAPH WILL BE IGNORED."};
-    const Case cases[] = {
+    } cases[] = {
         {{}, {"1 / THIS POLYMERS PARAGRAPH HAS NO SENTENCES."}, {1}, 1},
         {{segments}, {"2 / NO POLYMER WAS SPECIFIED IN THIS PARAGRAPH / PARAGRAPH WILL BE IGNORED."}, {2}, 1},
         {{polymer}, no_segment, {3}, 1},
         {{OligomerSentence{{{"O", "A", 1}}}}, no_segment, {3}, 1},
         {everything_wrong, all_messages, {4, 5, 6, 11, 7, 8, 9, 10, 10, 10}, 8},  // all of these but 8 and 9
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         CheckedParagraph world;
         MessageLog& log = world.host.messages();
         EXPECT_EQ(world.check(c.sentences), 0);

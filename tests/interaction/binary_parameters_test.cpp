@@ -171,7 +171,7 @@ TEST(ParameterCompletion, FillsTheOrderThatIsZero)
                 EXPECT_EQ(p.values(), (Values{0, 7, first[1], second[1], first[0], second[0], 7, 0}))
                     << given[0] << ", " << given[1] << ", mode " << mode << ", k " << k;
             }
-    for (auto& p : {Values{7, 0, not_a_number, 7}, {7, not_a_number, 0, 7}}) {
+    for (const auto& p : {Values{7, 0, not_a_number, 7}, {7, not_a_number, 0, 7}}) {
         Values completed = p;
         call(POLY_TBPARI, 1, 2, completed, 1, 1);
         EXPECT_TRUE(std::isnan(completed[1]) && std::isnan(completed[2])) << "not a number counts as given";

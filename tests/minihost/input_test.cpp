@@ -21,9 +21,8 @@ TEST(Messages, HoldWhatWasComposedForThemAlone)
     const auto& printed = world.host().messages().printed();
     const Int one = 1, two = 2;
     EXPECT_EQ(check_level(2, 4), 1);
-    std::fill_n(ST_ERROUT, 160, ' ');
-    std::ranges::copy(std::string_view{"      ONE"}, ST_ERROUT);
-    std::ranges::copy(std::string_view{"      TWO"}, ST_ERROUT + 80);
+    const std::string gap(71, ' ');
+    std::ranges::copy("      ONE" + gap + "      TWO" + gap, ST_ERROUT);
     ST_PRINT_ERROR(&two);
     EXPECT_EQ(check_level(2, 4), 1);
     ST_PRINT_ERROR(&one);

@@ -41,20 +41,18 @@ TEST(PolymerInput, ShowsTheListsOfACheckedParagraph)
     EXPECT_EQ(input.oligomers[0].counts, (std::vector<double>{2, 0, 0, 0, 1}));
     EXPECT_EQ(input.oligomers[1].counts, (std::vector<double>{0, 0, 5, 0, 0}));
     ASSERT_EQ(input.catalysts.size(), 1u) << "the unknown one is left out";
-    EXPECT_EQ(input.catalysts[0].id, "K");
-    EXPECT_EQ(input.catalysts[0].value, 3.5);
+    EXPECT_EQ(std::tuple(input.catalysts[0].id, input.catalysts[0].value), std::tuple("K", 3.5));
     EXPECT_EQ(input.initiators, (Ids{"I"}));
-    EXPECT_EQ(input.sites.count, 2);
-    EXPECT_EQ(input.sites.integers, (std::array<Int, 3>{21, 22, 23}));
-    EXPECT_EQ(input.sites.real, 0.25);
+    using Three = std::array<Int, 3>;
+    const auto& sites = input.sites;
+    EXPECT_EQ(std::tuple(sites.count, sites.integers, sites.real), std::tuple(2, Three{21, 22, 23}, 0.25));
     ASSERT_EQ(input.attribute_layout.size(), 11u);
-    EXPECT_EQ(input.attribute_layout[10].start, 5 * 6 + 5 * 3 + 1);
-    EXPECT_EQ(input.attribute_layout[10].length, 3);
+    const auto& group = input.attribute_layout[10];
+    EXPECT_EQ(std::tuple(group.start, group.length), std::tuple(5 * 6 + 5 * 3 + 1, 3));
     ASSERT_EQ(input.distributions.size(), 3u);
     EXPECT_EQ(input.distributions[0].type, 2) << "type by type";
-    EXPECT_EQ(input.distributions[2].polymer, "Q");
-    EXPECT_EQ(input.distributions[2].integers, (std::array<Int, 3>{7, 8, 9}));
-    EXPECT_EQ(input.distributions[2].real, 2.5);
+    const auto& last = input.distributions[2];
+    EXPECT_EQ(std::tuple(last.polymer, last.integers, last.real), std::tuple("Q", Three{7, 8, 9}, 2.5));
 }
 
 }  // namespace

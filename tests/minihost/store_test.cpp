@@ -33,8 +33,7 @@ TEST_P(StoreModes, BlocksKeepTheirContentsThroughAllocationsGrowthAndFrees)
     store.resize_integers(numbers, 2);
     store.verify();
     EXPECT_EQ(store.integer_length(numbers), 2);
-    EXPECT_EQ(store.integer(numbers, 1), 10);
-    EXPECT_EQ(store.integer(numbers, 2), 20);
+    for (const Int k : {1, 2}) EXPECT_EQ(store.integer(numbers, k), 10 * k);
     EXPECT_EQ(ST_WORDS[store.keys(table) + 1 - 1], -2);
     EXPECT_EQ(real_of(ST_WORDS[store.values(table) + 3 - 1]), 2.0);
 }
@@ -42,8 +41,7 @@ TEST_P(StoreModes, BlocksKeepTheirContentsThroughAllocationsGrowthAndFrees)
 TEST_P(StoreModes, RefusesWhatAHostMustRefuse)
 {
     Store store(GetParam());
-    const BlockId one = store.allocate_integers(1);
-    const BlockId freed = store.allocate_integers(1);
+    const BlockId one = store.allocate_integers(1), freed = store.allocate_integers(1);
     store.free(freed);
     EXPECT_EQ(store.contents().size(), 1);
     const BlockId reals = store.allocate_reals(1), table = store.allocate_two_part(1, 1);
@@ -75,10 +73,9 @@ TEST(Store, IsCheckedWhenTheEnvironmentSaysSo)
 {
     const char* const before = std::getenv("POLYPROPS_CHECKED_STORE");
     const std::string kept = before ? before : "";
-    for (const std::string setting : {"", "0", "1"}) {
-        setenv("POLYPROPS_CHECKED_STORE", setting.c_str(), 1);
-        EXPECT_EQ(Store::default_mode(), setting == "1" ? Store::Mode::checked : Store::Mode::plain)
-            << setting;
+    for (const std::string text : {"", "0", "1"}) {
+        setenv("POLYPROPS_CHECKED_STORE", text.c_str(), 1);
+        EXPECT_EQ(Store::default_mode(), text == "1" ? Store::Mode::checked : Store::Mode::plain) << text;
     }
     unsetenv("POLYPROPS_CHECKED_STORE");
     EXPECT_EQ(Store::default_mode(), Store::Mode::plain);

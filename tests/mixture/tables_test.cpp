@@ -58,35 +58,26 @@ Tables tables(World world, const Ids& ids, const Values& x)
 
 TEST(Tables, HoldAveragesFractionsAndCounts)
 {
+    const Ints segments{2, 4, 0, 0, 0, 0, 0};
     const auto t = tables(stream(), {"P", "W", "O", "U"}, {0.25, 0.5, 0.25, 0});
     EXPECT_EQ(t.dpn, (Values{4, 1, 5, 1, 0, 0, 0}));
     EXPECT_EQ(t.mrf, (Values{87.5, 18, 70, 30, 0, 0, 0}));
     EXPECT_EQ(t.mwn, (Values{350, 18, 350, 30, 0, 0, 0}));
     EXPECT_EQ(t.xt, (Values{0.5 / 1.125, 0.5 / 1.125, 0.125 / 1.125, 0, 0, 0, 0}));
-    EXPECT_EQ(t.flags, (Ints{0, 0, 0, 0, 1, 1, 1}));
-    EXPECT_EQ(t.iseg, (Ints{2, 4, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(std::pair(t.flags, t.iseg), std::pair(Ints{0, 0, 0, 0, 1, 1, 1}, segments));
     EXPECT_EQ(t.mole, square({{{5, 1}, 0.75}, {{5, 2}, 0.25}, {{6, 1}, 0.4}, {{6, 2}, 0.6}}));
     EXPECT_EQ(t.mass, square({{{5, 1}, 6 / 7.0}, {{5, 2}, 1 / 7.0}, {{6, 1}, 4 / 7.0}, {{6, 2}, 3 / 7.0}}));
     EXPECT_EQ(t.counts, square({{{5, 2}, 3}, {{5, 4}, 1}, {{3, 1}, 1}, {{6, 2}, 2}, {{6, 4}, 3}}));
-}
 
-TEST(Tables, OfAnEmptyListHoldSegmentsOnly)
-{
     const auto empty = tables(stream(), {}, {});
-    EXPECT_EQ(empty.xt, Values(nc, 0.0));
-    EXPECT_EQ(empty.counts, square({}));
-    EXPECT_EQ(empty.iseg, (Ints{2, 4, 0, 0, 0, 0, 0}));
-}
+    EXPECT_EQ(std::tuple(empty.xt, empty.counts, empty.iseg),
+              std::tuple(Values(nc, 0.0), square({}), segments));
 
-TEST(Tables, OfAHostWithoutPolymerData)
-{
-    const auto t = tables(stream().parameter("W", Parameter::dpn, 0.5).without_polymer_block(-3), {"P", "W"},
-                          {0.5, 0.5});
-    EXPECT_EQ(t.nseg, 0);
-    EXPECT_EQ(t.mwn, (Values{700, 9, 0, 0, 0, 0, 0}));
-    EXPECT_EQ(t.mole, square({}));
-    EXPECT_EQ(t.counts, square({{{3, 1}, 0.5}}));
-    EXPECT_EQ(t.iseg, Ints(nc, 0));
+    auto no_block = stream().parameter("W", Parameter::dpn, 0.5).without_polymer_block(-3);
+    const auto none = tables(no_block, {"P", "W"}, {0.5, 0.5});
+    EXPECT_EQ(std::tuple(none.nseg, none.mwn, none.iseg),
+              std::tuple(0, Values{700, 9, 0, 0, 0, 0, 0}, Ints(nc, 0)));
+    EXPECT_EQ(std::pair(none.mole, none.counts), std::pair(square({}), square({{{3, 1}, 0.5}})));
 }
 
 TEST(SetUps, ScaleOnePolymerToItsWeight)
