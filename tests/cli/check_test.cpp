@@ -24,7 +24,7 @@ TEST(Check, BadInputIsAnsweredWithEveryMessageOnce)
         auto [status, out, errors] = check(examples / file, Format::text);
         EXPECT_EQ(status, cli::exit_case_error) << file;
         EXPECT_EQ(out, "") << file;
-        for (auto at = errors.find(root); at != errors.npos; at = errors.find(root))
+        for (auto at = errors.find(root); at != std::string::npos; at = errors.find(root))
             errors.erase(at, root.size());
         seen += errors;
     }

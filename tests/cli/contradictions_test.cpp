@@ -303,11 +303,11 @@ void expect_warning(const std::string& text, const Lines& names, int line, int c
 TEST(Warnings, AreInEveryFormAndCountWhenAskedFor)
 {
     const auto contradictory = with(good, "[141, 300]", "[141, 200]");
-    const std::string text =
+    const std::string statement =
         " is 441 kmol/h, but the sum of SSMOM is 341 kmol/h; they differ by 22.7 % of the larger; "
         "averages of the stream use SMOM, site types and the reactors with site types SSMOM";
-    expect_warning(contradictory, {"run", "convert"}, 15, 1, "streams.S.attributes.P.SMOM", text);
-    EXPECT_NE(app::format_html(evaluated(contradictory).report).find(text + "</li>"), std::string::npos);
+    expect_warning(contradictory, {"run", "convert"}, 15, 1, "streams.S.attributes.P.SMOM", statement);
+    EXPECT_NE(app::format_html(evaluated(contradictory).report).find(statement + "</li>"), std::string::npos);
     expect_warning(R"([components]
 A-R = { class = "segment", molecular_weight = 100 }
 P = { class = "polymer", molecular_weight = 100 }

@@ -19,7 +19,7 @@ std::string outcome(const std::string& input)
     app::MeasuredCurveOptions options;
     cli::add_measured_options(program, program.add_option("--gpc", file), options);
     try {
-        program.parse("--gpc m.txt " + (given == input.npos ? "" : input.substr(given + 5)));
+        program.parse("--gpc m.txt " + (given == std::string::npos ? "" : input.substr(given + 5)));
         const auto curve = app::parse_measured_curve(input.substr(0, given), "m.txt", options);
         std::string text;
         for (std::size_t k = 0; k < curve.size(); ++k)

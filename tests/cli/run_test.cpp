@@ -16,19 +16,35 @@ TEST(Run, TextLeavesOutWhatDoesNotFlow)
     EXPECT_EQ(feed.find("Segment fractions"), std::string::npos);
 }
 
-// Its numbers are compared with those of the interface for C, for every example.
-TEST(Run, CsvHasTheUnitsOfJson)
+// Numbers of JSON as CSV has them, in their order.
+void add_numbers(const nlohmann::ordered_json& json, Lines& numbers)
+{
+    for (const auto& value : json)
+        if (value.is_structured())
+            add_numbers(value, numbers);
+        else if (value.is_number() || value.is_null())
+            numbers.push_back(value.is_null() ? "" : app::text(value.get<double>()));
+}
+
+// The other cells of a row are those of the interface for C, which is compared for every example.
+TEST(Run, CsvHasTheNumbersAndUnitsOfJson)
 {
     for (const char* example : {"nylon6-oligomers.toml", "slurry-hdpe.toml"}) {
-        const auto units = run_json(example)["units"];
+        const auto json = nlohmann::ordered_json::parse(run(examples / example, Format::json).out);
+        EXPECT_EQ(json["schema_version"], 2);
+        Lines expected, seen;
+        for (const auto* kind : {"streams", "reactors"})
+            if (json.contains(kind)) add_numbers(json[kind], expected);
         std::istringstream lines{run(examples / example, Format::csv).out};
         std::string line;
         std::getline(lines, line);
         EXPECT_EQ(line, "section,name,table,item,component,segment,quantity,value,unit");
         while (std::getline(lines, line)) {
             const auto cells = support::parts(line, ",");
-            EXPECT_EQ(cells.at(8), units.at(cells[2]).at(cells[6])) << line;
+            seen.push_back(cells.at(7));
+            EXPECT_EQ(cells.at(8), json["units"].at(cells[2]).at(cells[6])) << line;
         }
+        EXPECT_EQ(seen, expected);
     }
 }
 

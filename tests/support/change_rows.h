@@ -22,8 +22,8 @@ inline Texts parts(const std::string& text, const std::string& separator)
     const auto at = text.find(separator);
     const auto part = text.substr(0, at);
     const auto first = part.find_first_not_of(' ');
-    Texts all{first == part.npos ? "" : part.substr(first, part.find_last_not_of(' ') - first + 1)};
-    if (at == text.npos) return all;
+    Texts all{first == std::string::npos ? "" : part.substr(first, part.find_last_not_of(' ') - first + 1)};
+    if (at == std::string::npos) return all;
     for (auto& rest : parts(text.substr(at + separator.size()), separator)) all.push_back(std::move(rest));
     return all;
 }
@@ -48,7 +48,7 @@ inline std::string with(std::string text, const std::string& old, const std::str
 {
     const auto at = text.find(old);
     EXPECT_NE(at, std::string::npos) << old;
-    return at == text.npos ? text : text.replace(at, old.size(), replacement);
+    return at == std::string::npos ? text : text.replace(at, old.size(), replacement);
 }
 
 inline std::string changed(std::string text, const std::string& change)
