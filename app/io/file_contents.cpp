@@ -18,7 +18,7 @@ std::string read_at_most(const std::filesystem::path& file, std::size_t limit)
     const auto fail = [&](std::string_view why) {
         throw FileError{file, fmt::format("cannot be read: {}", why)};
     };
-    if (file.empty()) throw std::runtime_error{"the name of an input file is empty"};
+    if (file.empty()) fail("its name is empty");
     std::error_code no_file;
     if (std::filesystem::is_directory(file, no_file)) fail("it is a directory");
     errno = 0;

@@ -110,7 +110,7 @@ class Files(unittest.TestCase):
     def test_names_of_inputs_are_read_or_refused(self):
         (self.folder / "loop").symlink_to("loop")
         self.write("one_byte", "=")
-        for name, reason in (("", "the name of an input file is empty"), ("one_byte", "one_byte:1:1: "),
+        for name, reason in (("", ": cannot be read: its name is empty"), ("one_byte", "one_byte:1:1: "),
                              ("loop", "loop: cannot be read: Too many levels of symbolic links")):
             self.assertIn(reason, self.run_program("run", name, status=1).stderr)
 
